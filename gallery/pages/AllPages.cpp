@@ -1,0 +1,25 @@
+#include "AllPages.h"
+
+#include "GalleryPage.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+template <typename Page>
+GalleryPage* make(QWidget* parent)
+{
+    return new Page(parent);
+}
+
+QString tr(const char* title)
+{
+    return QCoreApplication::translate("Gallery", title);
+}
+
+} // namespace
+
+QVector<PageEntry> allPages()
+{
+    return {};
+}
