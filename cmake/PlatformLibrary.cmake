@@ -2,15 +2,16 @@ include(GenerateExportHeader)
 
 # platform_add_library(NAME): a shared library whose file name and soname are libplatform_NAME.so.1.2,
 # which exports only what carries its export macro and leaves no symbol undefined.
-# It is installed and exported as platform::NAME.
-function(platform_add_library name)
+# It is installed in the given component and exported as platform::NAME.
+function(platform_add_library name component)
     set(target platform_${name})
     add_library(${target} SHARED)
     add_library(platform::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${name}
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION})
+        SOVERSION ${PROJECT_VERSION}
+        INSTALL_RPATH "$ORIGIN") # an installed tree works from any prefix
 
     generate_export_header(${target}
         EXPORT_FILE_NAME "${PROJECT_BINARY_DIR}/include/${target}_export.h")
@@ -26,6 +27,18 @@ function(platform_add_library name)
         LINKER:--no-undefined LINKER:--as-needed LINKER:-z,now LINKER:-z,relro)
 
     install(FILES "${PROJECT_BINARY_DIR}/include/${target}_export.h"
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/platform_widgets)
-    install(TARGETS ${target} EXPORT platform_widgets)
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/platform_widgets
+        COMPONENT development)
+    install(TARGETS ${target} EXPORT platform_widgets
+        LIBRARY
+            DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            COMPONENT ${component}
+            NAMELINK_COMPONENT development)
+endfunction()
+
+# platform_install_headers(FOLDER): everything below FOLDER as public headers.
+function(platform_install_headers folder)
+    install(DIRECTORY "${folder}/"
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/platform_widgets
+        COMPONENT development)
 endfunction()

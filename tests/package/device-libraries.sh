@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Builds the library against device libraries from a prefix, for which the installed stand-ins serve
+# here, and sees that no stand-in is built and that the package finds the device's libraries again.
+#
+# usage: device-libraries.sh SOURCE_DIR BUILD_DIR
+set -euo pipefail
+
+source_dir=$1
+build_dir=$2
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+# The device's prefix holds its two libraries and their headers, nothing of the widget library.
+cmake --install "$build_dir" --prefix "$scratch/all" >/dev/null
+headers=$scratch/all/include/platform_widgets
+mkdir -p "$scratch/device/lib" "$scratch/device/include/ui"
+find "$scratch/all" \( -name 'libplatform_style.so*' -o -name 'libplatform_keyboard.so*' \) \
+    -exec cp -P {} "$scratch/device/lib" \;
+cp -r "$headers/platform" "$headers"/platform_{style,keyboard}_export.h "$scratch/device/include"
+cp -r "$headers/ui/keyboard" "$scratch/device/include/ui"
+
+cmake -S "$source_dir" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
+    -DPLATFORM_DEVICE_PREFIX="$scratch/device" \
+    -DPLATFORM_BUILD_TESTS=OFF -DPLATFORM_BUILD_GALLERY=OFF >/dev/null
+cmake --build "$scratch/build"
+
+if find "$scratch/build" -name 'libplatform_style*' -o -name 'libplatform_keyboard*' | grep .; then
+    echo "a stand-in was built beside the device's libraries" >&2
+    exit 1
+fi
+
+cmake --install "$scratch/build" --prefix "$scratch/prefix" >/dev/null
+mkdir "$scratch/consumer"
+cat >"$scratch/consumer/CMakeLists.txt" <<'END'
+cmake_minimum_required(VERSION 3.16)
+project(consumer LANGUAGES CXX)
+find_package(platform_widgets 1.2 REQUIRED)
+add_executable(consumer main.cpp)
+target_link_libraries(consumer PRIVATE platform::widgets)
+END
+cat >"$scratch/consumer/main.cpp" <<'END'
+#include <QApplication>
+#include <ui/FileBrowserWidget.h>
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    return ui::FileBrowserWidget(nullptr).selectedFiles().size();
+}
+END
+cmake -S "$scratch/consumer" -B "$scratch/consumer/build" -G Ninja -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
+cmake --build "$scratch/consumer/build"
+"$scratch/consumer/build/consumer"

@@ -1,0 +1,54 @@
+#!/usr/bin/env bash
+# Installs a build into a temporary prefix and builds and runs a small application against it,
+# with CMake and with pkg-config: what users do is what is tested.
+#
+# usage: installed-package.sh SOURCE_DIR BUILD_DIR
+# CXXFLAGS goes to the application's compiler, as a library built with sanitizers needs it.
+set -euo pipefail
+
+source_dir=$1
+build_dir=$2
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+prefix=$scratch/prefix
+
+# The first C++ block of the README: the example that users copy.
+readme_example() {
+    awk '/^```cpp/ {inside = 1; next} /^```/ && inside {exit} inside' "$source_dir/README.md"
+}
+
+# A program that includes every installed header and runs an application object.
+all_headers() {
+    (cd "$prefix/include/platform_widgets" && find . -name '*.h' | sort) \
+        | sed 's|^\./\(.*\)|#include <\1>|'
+    echo '#include <QApplication>'
+    echo 'int main(int argc, char** argv) { QApplication application(argc, argv); return Switch().isChecked(); }'
+}
+
+# The example shows a window and runs until it is closed: alive after a while is a success.
+runs_until_stopped() {
+    local status=0
+    timeout --preserve-status --signal=TERM 3 "$@" || status=$?
+    [ "$status" -eq $((128 + 15)) ] || { echo "$1 ended by itself with status $status" >&2; return 1; }
+}
+
+cmake --install "$build_dir" --prefix "$prefix" >/dev/null
+
+cp -r "$source_dir/tests/package/consumer" "$scratch/consumer"
+readme_example >"$scratch/consumer/main.cpp"
+all_headers >"$scratch/consumer/all_headers.cpp"
+
+echo "== CMake"
+cmake -S "$scratch/consumer" -B "$scratch/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build "$scratch/cmake"
+"$scratch/cmake/all_headers"
+runs_until_stopped "$scratch/cmake/example"
+
+echo "== pkg-config"
+PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name platform_widgets.pc)")
+export PKG_CONFIG_PATH
+[ "$(pkg-config --modversion platform_widgets)" = 1.2 ]
+# shellcheck disable=SC2046,SC2086
+${CXX:-c++} -std=c++17 -fPIC ${CXXFLAGS:-} "$scratch/consumer/main.cpp" -o "$scratch/example" \
+    $(pkg-config --cflags --libs platform_widgets) -Wl,-rpath,"$(pkg-config --variable=libdir platform_widgets)"
+runs_until_stopped "$scratch/example"

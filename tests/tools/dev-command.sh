@@ -1,0 +1,93 @@
+#!/usr/bin/env bash
+# The command line of ./dev: help, errors, and what it installs when packages are missing.
+#
+# usage: dev-command.sh SOURCE_DIR
+set -euo pipefail
+
+source_dir=$1
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+fail() {
+    echo "FAIL: $*" >&2
+    exit 1
+}
+
+# refuses TEXT ARGUMENT...: ./dev fails and says TEXT on its error channel.
+refuses() {
+    local text=$1
+    shift
+    if "$source_dir/dev" "$@" >"$scratch/out" 2>"$scratch/err"; then
+        fail "./dev $* succeeded"
+    fi
+    grep -qF -- "$text" "$scratch/err" || fail "./dev $* said: $(cat "$scratch/err")"
+}
+
+# Every command has one line of help, and help of its own.
+"$source_dir/dev" help >"$scratch/help"
+for file in "$source_dir"/tools/dev/*.sh; do
+    command=$(basename "$file" .sh)
+    grep -qE "^  $command +[a-z]" "$scratch/help" || fail "help does not describe $command"
+    "$source_dir/dev" "$command" --help | grep -q "^usage: ./dev $command" || fail "$command has no help"
+done
+
+refuses "unknown command 'frobnicate'" frobnicate
+refuses "unknown command '../lib/common'" ../lib/common
+refuses "unknown option '--frobnicate'" test --frobnicate
+refuses "unknown preset 'fast'" test --preset fast
+refuses "unknown preset 'fast'" build fast
+refuses "--filter needs a value" test --filter
+
+# Missing packages, with a stand-in for each system tool. The log shows what would be installed.
+mkdir "$scratch/bin"
+cat >"$scratch/bin/dpkg-query" <<END
+#!/bin/sh
+for package; do :; done
+grep -qxF "\$package" "$scratch/installed" && printf installed
+END
+cat >"$scratch/bin/apt-get" <<END
+#!/bin/sh
+echo "apt-get \$*" >>"$scratch/log"
+END
+cat >"$scratch/bin/id" <<END
+#!/bin/sh
+cat "$scratch/uid"
+END
+chmod +x "$scratch/bin"/*
+
+need_build_packages() {
+    : >"$scratch/log"
+    env PATH="$1" DEV_ROOT="$source_dir" bash -c \
+        'set -euo pipefail; . "$DEV_ROOT/tools/lib/common.sh"; need_packages build' 2>"$scratch/err"
+}
+with_tools="$scratch/bin:$PATH"
+
+sed 's/#.*//; /^$/d' "$source_dir/tools/packages/build.txt" >"$scratch/installed"
+echo 1000 >"$scratch/uid"
+need_build_packages "$with_tools" || fail "all packages are there, yet: $(cat "$scratch/err")"
+[ ! -s "$scratch/log" ] || fail "nothing is missing, yet: $(cat "$scratch/log")"
+
+sed -i '/^ninja-build$/d' "$scratch/installed"
+echo 0 >"$scratch/uid"
+need_build_packages "$with_tools" || fail "root could not install: $(cat "$scratch/err")"
+grep -q 'apt-get install .* ninja-build$' "$scratch/log" || fail "installed: $(cat "$scratch/log")"
+
+# Neither root nor sudo: it says what is missing.
+mkdir "$scratch/no-sudo"
+for tool in bash env sed cat grep; do
+    ln -s "$(command -v "$tool")" "$scratch/no-sudo/$tool"
+done
+echo 1000 >"$scratch/uid"
+if need_build_packages "$scratch/bin:$scratch/no-sudo"; then
+    fail "a user without sudo installed packages"
+fi
+grep -q 'only root can install them: ninja-build' "$scratch/err" || fail "said: $(cat "$scratch/err")"
+
+# With sudo, it is asked.
+cat >"$scratch/no-sudo/sudo" <<END
+#!/bin/sh
+echo "sudo \$*" >>"$scratch/log"
+END
+chmod +x "$scratch/no-sudo/sudo"
+need_build_packages "$scratch/bin:$scratch/no-sudo" || fail "sudo was refused: $(cat "$scratch/err")"
+grep -q '^sudo .*install .* ninja-build$' "$scratch/log" || fail "sudo ran: $(cat "$scratch/log")"

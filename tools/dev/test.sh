@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# build and run the whole test suite, plain and with the sanitizers
+#
+# usage: ./dev test [--preset PRESET] [--filter REGEX]
+#
+#   --preset PRESET  run one build only: dev, asan or coverage
+#   --filter REGEX   run the tests whose names match
+#
+# The last line counts the test programs over all builds: N passed, N failed
+
+presets=(dev asan)
+filter=
+while [ $# -gt 0 ]; do
+    case "$1" in
+        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
+        --preset) presets=("$(option_value test "$1" $# "${2:-}")"); shift ;;
+        --filter) filter=$(option_value test "$1" $# "${2:-}"); shift ;;
+        *) unknown_option test "$1" ;;
+    esac
+    shift
+done
+for preset in "${presets[@]}"; do
+    case "$preset" in
+        dev | asan | coverage) ;;
+        *) die "test: unknown preset '$preset'" ;;
+    esac
+done
+
+# Runs the tests of one build; adds to the variables passed and failed.
+run_tests() {
+    local preset=$1 log=build/$1/test.log count
+    ctest --preset "$preset" ${filter:+-R "$filter"} 2>&1 | tee "$log" || true
+    count=$(sed -nE 's/.* ([0-9]+) tests? failed out of ([0-9]+)$/\1 \2/p' "$log" | tail -n 1)
+    [ -n "$count" ] || die "test: no test was run with preset $preset"
+    failed=$((failed + ${count% *}))
+    passed=$((passed + ${count#* } - ${count% *}))
+}
+
+need_packages build test
+passed=0
+failed=0
+for preset in "${presets[@]}"; do
+    build "$preset"
+    run_tests "$preset"
+done
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ]

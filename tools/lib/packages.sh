@@ -1,0 +1,40 @@
+# Debian packages by name. Each file tools/packages/LIST.txt names the packages of one purpose.
+
+# Prints those of the given packages that are not installed.
+missing_packages() {
+    local package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] \
+            || echo "$package"
+    done
+}
+
+# Sees to it that the packages of the named lists are installed; installs nothing when none is missing.
+need_packages() {
+    local -a wanted=() missing=()
+    local list
+    for list in "$@"; do
+        mapfile -t -O "${#wanted[@]}" wanted < <(sed 's/#.*//; /^[[:space:]]*$/d' "$DEV_ROOT/tools/packages/$list.txt")
+    done
+    if ! command -v dpkg-query >/dev/null; then
+        echo "dev: not a Debian system; going on in the hope that these are installed: ${wanted[*]}" >&2
+        return
+    fi
+    mapfile -t missing < <(missing_packages "${wanted[@]}")
+    [ ${#missing[@]} -eq 0 ] || install_packages "${missing[@]}"
+}
+
+install_packages() {
+    local -a as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null \
+            || die "these packages are missing and only root can install them: $*"
+        as_root=(sudo)
+    fi
+    echo "dev: installing $*" >&2
+    "${as_root[@]}" apt-get update -q >&2 \
+        || echo "dev: the package lists could not be refreshed; trying with the old ones" >&2
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -q -y --no-install-recommends "$@" >&2 \
+        || die "these packages are missing and could not be installed: $*"
+}
