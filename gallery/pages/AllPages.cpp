@@ -1,6 +1,6 @@
 #include "AllPages.h"
 
-#include "GalleryPage.h"
+#include "OverviewPage.h"
 
 #include <QCoreApplication>
 
@@ -21,5 +21,7 @@ QString tr(const char* title)
 
 QVector<PageEntry> allPages()
 {
-    return {};
+    return {
+        {QStringLiteral("overview"), tr("Overview"), make<OverviewPage>},
+    };
 }

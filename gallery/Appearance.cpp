@@ -1,0 +1,45 @@
+#include "Appearance.h"
+
+#include <QApplication>
+#include <QWidget>
+
+void Appearance::applyToApplication() const
+{
+    QApplication::setPalette(dark ? darkPalette() : lightPalette());
+    QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    // Setting a style sheet polishes every widget anew, even if it is the same one.
+    if (qApp->styleSheet() != styleSheet)
+        qApp->setStyleSheet(styleSheet);
+}
+
+void Appearance::applyToPage(QWidget& page) const
+{
+    page.setEnabled(!disabled);
+}
+
+QPalette Appearance::lightPalette()
+{
+    QPalette palette(QColor(239, 239, 239));
+    palette.setColor(QPalette::Highlight, QColor(11, 110, 153));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(145, 145, 145));
+    return palette;
+}
+
+QPalette Appearance::darkPalette()
+{
+    QPalette palette(QColor(60, 63, 65), QColor(43, 45, 48));
+    palette.setColor(QPalette::Base, QColor(30, 31, 34));
+    palette.setColor(QPalette::AlternateBase, QColor(38, 40, 43));
+    palette.setColor(QPalette::Link, QColor(106, 176, 222));
+    palette.setColor(QPalette::LinkVisited, QColor(170, 150, 218));
+    palette.setColor(QPalette::ToolTipBase, QColor(60, 63, 65));
+    palette.setColor(QPalette::ToolTipText, QColor(223, 225, 229));
+    palette.setColor(QPalette::PlaceholderText, QColor(140, 144, 150));
+    palette.setColor(QPalette::Highlight, QColor(45, 125, 168));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, QColor(223, 225, 229));
+        palette.setColor(QPalette::Disabled, role, QColor(122, 126, 133));
+    }
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 83, 86));
+    return palette;
+}

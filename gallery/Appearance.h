@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPalette>
+#include <QString>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+/**
+ * How the gallery looks.
+ *
+ * Palette, layout direction and style sheet are those of the application, so that pop-ups follow
+ * them too; disabled is the page alone.
+ */
+struct Appearance
+{
+    bool dark = false;
+    bool rightToLeft = false;
+    bool disabled = false;
+    QString styleSheet; ///< None if empty.
+
+    void applyToApplication() const;
+    void applyToPage(QWidget& page) const;
+
+    static QPalette lightPalette();
+    static QPalette darkPalette();
+};

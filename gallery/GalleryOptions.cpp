@@ -1,0 +1,112 @@
+#include "GalleryOptions.h"
+
+#include "pages/AllPages.h"
+#include "StyleSheetFile.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("GalleryOptions", text);
+}
+
+QStringList pageIds()
+{
+    QStringList ids;
+    for (const PageEntry& entry : allPages())
+        ids.append(entry.id);
+    return ids;
+}
+
+const QString listPagesName = QStringLiteral("list-pages");
+const QString pageName = QStringLiteral("page");
+const QString screenshotsName = QStringLiteral("screenshots");
+const QString styleSheetName = QStringLiteral("style-sheet");
+
+void describe(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(tr("Shows every widget of the library live."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption({screenshotsName, tr("Render every page to PNG files in DIR and print their paths."),
+                      QStringLiteral("DIR")});
+    parser.addOption({styleSheetName, tr("Apply the application style sheet FILE."),
+                      QStringLiteral("FILE")});
+    parser.addOption({pageName, tr("Show the page ID first, or render that page alone."),
+                      QStringLiteral("ID")});
+    parser.addOption({listPagesName, tr("List the pages: id and title.")});
+    parser.addPositionalArgument(QStringLiteral("directory"),
+                                 tr("A root directory of the file browser page."),
+                                 QStringLiteral("[directory...]"));
+}
+
+} // namespace
+
+bool GalleryOptions::read(QString* error)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    parser.process(QCoreApplication::arguments());
+    return readValues(parser, error);
+}
+
+bool GalleryOptions::readValues(const QCommandLineParser& parser, QString* error)
+{
+    listPages = parser.isSet(listPagesName);
+    screenshots = parser.value(screenshotsName);
+    if (parser.isSet(screenshotsName) && screenshots.isEmpty()) {
+        *error = tr("--screenshots needs the name of a directory");
+        return false;
+    }
+    if (parser.isSet(styleSheetName)) {
+        const auto text = readStyleSheet(parser.value(styleSheetName), error);
+        if (!text)
+            return false;
+        styleSheet = *text;
+    }
+    if (parser.isSet(pageName) && !readPage(parser.value(pageName), error))
+        return false;
+    return readDirectories(parser.positionalArguments(), error);
+}
+
+bool GalleryOptions::readPage(const QString& id, QString* error)
+{
+    const QStringList ids = pageIds();
+    if (!ids.contains(id)) {
+        *error = tr("there is no page \"%1\"; the pages are: %2").arg(id, ids.join(QStringLiteral(", ")));
+        return false;
+    }
+    page = id;
+    return true;
+}
+
+bool GalleryOptions::readDirectories(const QStringList& paths, QString* error)
+{
+    for (const QString& path : paths) {
+        const QFileInfo info(path);
+        if (!info.isDir()) {
+            *error = tr("\"%1\" is not a directory").arg(QDir::toNativeSeparators(path));
+            return false;
+        }
+        directories.append(QDir::cleanPath(info.absoluteFilePath()));
+    }
+    return true;
+}
+
+bool GalleryOptions::wantsWindow(int argc, const char* const* argv)
+{
+    static const QStringList windowless = {
+        QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("--help-all"),
+        QStringLiteral("-v"), QStringLiteral("--version"),
+        QStringLiteral("--") + listPagesName, QStringLiteral("--") + screenshotsName};
+    return std::none_of(argv + qMin(argc, 1), argv + argc, [](const char* argument) {
+        return windowless.contains(QString::fromLocal8Bit(argument).section(QLatin1Char('='), 0, 0));
+    });
+}

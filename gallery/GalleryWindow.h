@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Appearance.h"
+#include "pages/AllPages.h"
+
+#include <QWidget>
+
+class GalleryPage;
+QT_BEGIN_NAMESPACE
+class QBoxLayout;
+class QListWidget;
+class QScrollArea;
+class QToolButton;
+QT_END_NAMESPACE
+
+/**
+ * The gallery's window, made for a touch screen of 800 x 480: switches above, the list of pages at
+ * its start, the page beside it.
+ */
+class GalleryWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows the first of \a pages. With a \a styleSheet its switch is on at the start; without one the
+    /// switch stands for the example style sheet, and is off.
+    explicit GalleryWindow(const QVector<PageEntry>& pages, const QString& styleSheet = QString(),
+                           QWidget* parent = nullptr);
+
+    /// The page that is shown; null if there is none.
+    GalleryPage* page() const;
+
+    /// Shows the page \a id, made anew; nothing happens if there is none of that id.
+    void showPage(const QString& id);
+
+private:
+    QToolButton* addSwitch(const QString& text, const QString& name, bool Appearance::*member);
+    QLayout* makeSwitches();
+    QLayout* makeColumns();
+    void fillList();
+    void makePage(int index);
+    void applyAppearance();
+
+    QVector<PageEntry> m_pages;
+    QString m_styleSheet;
+    Appearance m_appearance;
+    QBoxLayout* m_switches;
+    QListWidget* m_list;
+    QScrollArea* m_pageArea;
+};

@@ -1,0 +1,109 @@
+#include "Appearance.h"
+#include "Directories.h"
+#include "GalleryOptions.h"
+#include "GalleryWindow.h"
+#include "pages/AllPages.h"
+#include "Screenshots.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTextStream>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("main", text);
+}
+
+int fail(const QString& message)
+{
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << message << Qt::endl;
+    return EXIT_FAILURE;
+}
+
+bool platformIsChosen(int argc, const char* const* argv)
+{
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM")
+        || std::any_of(argv + qMin(argc, 1), argv + argc, [](const QByteArray& argument) {
+               return argument == "-platform" || argument == "--platform";
+           });
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+int listPages()
+{
+    QTextStream out(stdout);
+    for (const PageEntry& entry : allPages())
+        out << entry.id << '\t' << entry.title << '\n';
+    return EXIT_SUCCESS;
+}
+
+int renderPages(const GalleryOptions& options, const QString& path)
+{
+    const QDir directory(path);
+    if (!directory.mkpath(QStringLiteral(".")))
+        return fail(tr("cannot make the directory \"%1\"").arg(QDir::toNativeSeparators(path)));
+
+    QVector<PageEntry> pages = allPages();
+    pages.erase(std::remove_if(pages.begin(), pages.end(),
+                               [&options](const PageEntry& entry) {
+                                   return !options.page.isEmpty() && entry.id != options.page;
+                               }),
+                pages.end());
+
+    QTextStream out(stdout);
+    QString error;
+    return takeScreenshots(pages, directory, options.styleSheet, out, &error) ? EXIT_SUCCESS
+                                                                              : fail(error);
+}
+
+int openWindow(const GalleryOptions& options)
+{
+    GalleryWindow window(allPages(), options.styleSheet);
+    if (!options.page.isEmpty())
+        window.showPage(options.page);
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const bool canOpenWindow = platformIsChosen(argc, argv) || hasDisplay();
+    if (!platformIsChosen(argc, argv) && !(hasDisplay() && GalleryOptions::wantsWindow(argc, argv)))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    // The same look everywhere, and one that follows the palette.
+    QApplication::setDesktopSettingsAware(false);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("platform-widgets-gallery"));
+    QApplication::setApplicationVersion(QStringLiteral(GALLERY_VERSION));
+
+    GalleryOptions options;
+    QString error;
+    if (!options.read(&error))
+        return fail(error);
+    setGalleryDirectories(options.directories);
+
+    if (options.listPages)
+        return listPages();
+    if (!options.screenshots.isEmpty())
+        return renderPages(options, options.screenshots);
+    if (canOpenWindow)
+        return openWindow(options);
+
+    const QString path = QDir::current().absoluteFilePath(QStringLiteral("gallery-screenshots"));
+    QTextStream(stderr) << tr("There is no display. The pages are rendered to \"%1\":").arg(path)
+                        << Qt::endl;
+    return renderPages(options, path);
+}
