@@ -1,8 +1,8 @@
 #include "Painting.h"
 
 #include <QDir>
-#include <QWidget>
 #include <QtTest>
+#include <QWidget>
 
 namespace test {
 
@@ -20,7 +20,8 @@ QString saved(const QImage& image, const QString& kind)
     if (QTest::currentDataTag())
         name += QLatin1Char('-') + QString::fromUtf8(QTest::currentDataTag());
     name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_-]+")), QStringLiteral("_"));
-    const QString path = QDir::current().absoluteFilePath(name + QLatin1Char('-') + kind + QStringLiteral(".png"));
+    const QString path =
+        QDir::current().absoluteFilePath(name + QLatin1Char('-') + kind + QStringLiteral(".png"));
     image.save(path);
     return path;
 }
@@ -43,7 +44,8 @@ QImage canvas(const QSize& size, qreal devicePixelRatio, const QColor& backgroun
     return image;
 }
 
-QImage paintedBy(QWidget& widget, qreal devicePixelRatio, const QRegion& region, const QColor& background)
+QImage paintedBy(QWidget& widget, qreal devicePixelRatio, const QRegion& region,
+                 const QColor& background)
 {
     QImage image = canvas(widget.size(), devicePixelRatio, background);
     const QPoint offset = region.boundingRect().topLeft();
@@ -55,8 +57,11 @@ bool sameImage(const QImage& actual, const QImage& expected, int tolerance)
 {
     if (actual.size() != expected.size()) {
         return report(actual, expected,
-                      QStringLiteral("sizes differ: %1x%2 and %3x%4").arg(actual.width()).arg(actual.height())
-                          .arg(expected.width()).arg(expected.height()));
+                      QStringLiteral("sizes differ: %1x%2 and %3x%4")
+                          .arg(actual.width())
+                          .arg(actual.height())
+                          .arg(expected.width())
+                          .arg(expected.height()));
     }
     const QImage a = actual.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QImage b = expected.convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -64,7 +69,9 @@ bool sameImage(const QImage& actual, const QImage& expected, int tolerance)
         for (int x = 0; x < a.width(); ++x) {
             if (!samePixel(a.pixel(x, y), b.pixel(x, y), tolerance)) {
                 return report(actual, expected,
-                              QStringLiteral("pixel (%1, %2) is #%3, expected #%4").arg(x).arg(y)
+                              QStringLiteral("pixel (%1, %2) is #%3, expected #%4")
+                                  .arg(x)
+                                  .arg(y)
                                   .arg(a.pixel(x, y), 8, 16, QLatin1Char('0'))
                                   .arg(b.pixel(x, y), 8, 16, QLatin1Char('0')));
             }

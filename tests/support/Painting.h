@@ -11,7 +11,8 @@ QT_END_NAMESPACE
 namespace test {
 
 /// An image of \a size device-independent pixels filled with \a background.
-QImage canvas(const QSize& size, qreal devicePixelRatio = 1.0, const QColor& background = Qt::white);
+QImage canvas(const QSize& size, qreal devicePixelRatio = 1.0,
+              const QColor& background = Qt::white);
 
 /**
  * What \a widget alone, without its children and without a window background, paints on a canvas.

@@ -19,7 +19,8 @@ QPalette telltalePalette()
     QPalette palette;
     for (int group = 0; group < QPalette::NColorGroups; ++group) {
         for (int role = 0; role < QPalette::NColorRoles; ++role) {
-            const QColor color = QColor::fromHsv(role * 17 % 360, 255 - group * 60, 200 - group * 30);
+            const QColor color =
+                QColor::fromHsv(role * 17 % 360, 255 - group * 60, 200 - group * 30);
             palette.setColor(QPalette::ColorGroup(group), QPalette::ColorRole(role), color);
         }
     }
