@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QObject>
+
+QT_BEGIN_NAMESPACE
+class QAbstractAnimation;
+QT_END_NAMESPACE
+
+namespace ui {
+
+/**
+ * Makes an animation run back and forth for ever.
+ *
+ * \code
+ * auto* pulse = new QPropertyAnimation(effect, "opacity", this);
+ * pulse->setStartValue(1.0);
+ * pulse->setEndValue(0.2);
+ * pulse->setDuration(800);
+ * new ui::CAnimationFwdRevLoop(pulse);
+ * pulse->start();
+ * \endcode
+ *
+ * Each time the animation finishes, the loop turns its direction round and starts it again.
+ * Everything else is the caller's: values, duration, a finite loop count, the first start, and the
+ * end, which is QAbstractAnimation::stop().
+ *
+ * Its nearest neighbour is QAbstractAnimation::setLoopCount(-1), which always starts over from the
+ * same end.
+ *
+ * An animation that has no end to turn round at (an infinite loop count or an undefined duration)
+ * is left alone, so that stop() ends it for good; so is one that lasts no time at all.
+ */
+class PLATFORM_WIDGETS_EXPORT CAnimationFwdRevLoop : public QObject {
+    Q_OBJECT
+
+public:
+    /**
+     * Watches \a animation, which may be running already and becomes the loop's parent: the loop is
+     * deleted together with it. Null is refused with a warning; such a loop does nothing.
+     */
+    explicit CAnimationFwdRevLoop(QAbstractAnimation* animation);
+    ~CAnimationFwdRevLoop() override;
+
+private Q_SLOTS:
+    void reverseAndStart();
+
+private:
+    QAbstractAnimation* animation;
+};
+
+} // namespace ui

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QPushButton>
+
+QT_BEGIN_NAMESPACE
+class QGridLayout;
+class QLayoutItem;
+QT_END_NAMESPACE
+
+namespace ui {
+
+/**
+ * A push button whose face is laid out by a grid.
+ *
+ * \code
+ * auto* button = new ui::CGridArrangedButton(this);
+ * button->addWidget(new QLabel(tr("Temperature")), 0, 0);
+ * button->addWidget(new QLabel(tr("21 °C")), 1, 0);
+ * button->addWidget(thermometer, 0, 1, 2, 1, Qt::AlignCenter);
+ * connect(button, &QPushButton::clicked, this, &Panel::editTemperature);
+ * \endcode
+ *
+ * Several labels, icons or other widgets make one large touch button with the usual frame, pressed
+ * state and signals; it is as large as its own text and icon and its grid need. A text or icon of
+ * the button itself is painted beneath the widgets of the grid, and nothing keeps them apart.
+ *
+ * Its nearest neighbour is QPushButton, which lays nothing out on its face and, given a layout,
+ * does not grow with it.
+ *
+ * Most functions do what the functions of QGridLayout with the same names do. Rows and columns
+ * count from 0 to 9999. Null pointers, cells outside of these and widgets that contain the button
+ * are refused with a warning and left alone.
+ */
+class PLATFORM_WIDGETS_EXPORT CGridArrangedButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    /// A button with an empty grid, owned by \a parent.
+    explicit CGridArrangedButton(QWidget* parent = nullptr);
+    explicit CGridArrangedButton(QString const& text, QWidget* parent = nullptr);
+    CGridArrangedButton(QIcon const& icon, QString const& text, QWidget* parent = nullptr);
+    ~CGridArrangedButton() override;
+
+    /// What the button's own content and the grid need, each the larger of the two.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /// Puts \a widget, which the button takes over from its former parent, into a cell.
+    void addWidget(QWidget* widget, int row, int column,
+                   QFlags<Qt::AlignmentFlag> alignment = Qt::Alignment());
+    /// The same over several cells; a span of -1 reaches to the last row or column.
+    void addWidget(QWidget* widget, int row, int column, int rowSpan, int columnSpan,
+                   QFlags<Qt::AlignmentFlag> alignment = Qt::Alignment());
+    /// Puts \a item, which the grid takes over, into one or several cells.
+    void addItem(QLayoutItem* item, int row, int column, int rowSpan = 1, int columnSpan = 1,
+                 QFlags<Qt::AlignmentFlag> alignment = Qt::Alignment());
+
+    /// Least width of a column in pixels, 0 by default.
+    void setColumnMinimumWidth(int column, int minSize);
+
+    /// Share of a column in spare width, 0 by default and for columns that do not exist.
+    int columnStretch(int column) const;
+    void setColumnStretch(int column, int stretch);
+
+    /// Least height of a row in pixels, 0 by default.
+    void setRowMinimumHeight(int row, int minSize);
+
+    /// Share of a row in spare height, 0 by default.
+    void setRowStretch(int row, int stretch);
+
+    /// Distance of rows and columns in pixels; the style's own by default and for less than 0.
+    void setSpacing(int spacing);
+    void setHorizontalSpacing(int spacing);
+    void setVerticalSpacing(int spacing);
+
+    /**
+     * Margins of the grid in pixels; the style's own by default.
+     * This is not QWidget::setContentsMargins(), which sets the margins of the button; call that by
+     * its full name where it is meant.
+     */
+    void setContentsMargins(int left, int top, int right, int bottom);
+
+protected:
+    /// Makes the grid and installs it; for constructors only.
+    void create();
+
+private:
+    QGridLayout* m_gridLayout;
+};
+
+} // namespace ui

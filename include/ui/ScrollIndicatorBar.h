@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QScrollBar>
+
+namespace ui {
+namespace widgets {
+
+/**
+ * A scroll bar reduced to a slim indicator, for contents that are scrolled by dragging them.
+ *
+ * \code
+ * auto* indicator = new ui::widgets::ScrollIndicatorBar(scrollArea);
+ * scrollArea->setVerticalScrollBar(indicator);
+ * QScroller* scroller = QScroller::scroller(scrollArea->viewport());
+ * connect(scroller, &QScroller::stateChanged, indicator, [indicator](QScroller::State state) {
+ *     indicator->setHighlightBar(state != QScroller::Inactive);
+ * });
+ * \endcode
+ *
+ * It has no arrow buttons and no page areas, just a flat groove and a handle of five lines that
+ * shade from light to dark. Range, steps, signals and mouse handling are those of its nearest
+ * neighbour, QScrollBar; only the thickness and the painting are its own.
+ *
+ * | Palette role | Paints                                                                       |
+ * |--------------|------------------------------------------------------------------------------|
+ * | Window       | the groove, if its lightness is 120 or less (a dark palette)                 |
+ * | Button       | the groove otherwise, and the handle, in shades of the role's own colour     |
+ * | Highlight    | the handle of an enabled bar that is highlighted                             |
+ *
+ * The handle's length stands to the groove's as the page step to range and page step together; it
+ * has one pixel at least, and just one where the range is larger than 0x3FFFFFFF.
+ */
+class PLATFORM_WIDGETS_EXPORT ScrollIndicatorBar : public QScrollBar {
+    Q_OBJECT
+
+public:
+    /// Thickness across the orientation, in pixels.
+    static const int PERPENDICULAR_SIZE = 5;
+
+    /// A vertical bar without highlight, owned by \a parent.
+    explicit ScrollIndicatorBar(QWidget* parent = nullptr);
+    explicit ScrollIndicatorBar(Qt::Orientation orientation, QWidget* parent = nullptr);
+    ~ScrollIndicatorBar() override;
+
+    /// QScrollBar's length by PERPENDICULAR_SIZE.
+    QSize sizeHint() const override;
+
+public Q_SLOTS:
+    /// Paints the handle in the highlight colour while the bar is enabled, or not (the default).
+    void setHighlightBar(bool highlight);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool m_highlightBar;
+};
+
+} // namespace widgets
+} // namespace ui
