@@ -35,12 +35,13 @@ void describe(QCommandLineParser& parser)
     parser.setApplicationDescription(tr("Shows every widget of the library live."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({screenshotsName, tr("Render every page to PNG files in DIR and print their paths."),
+    parser.addOption({screenshotsName,
+                      tr("Render every page to PNG files in DIR and print their paths."),
                       QStringLiteral("DIR")});
-    parser.addOption({styleSheetName, tr("Apply the application style sheet FILE."),
-                      QStringLiteral("FILE")});
-    parser.addOption({pageName, tr("Show the page ID first, or render that page alone."),
-                      QStringLiteral("ID")});
+    parser.addOption(
+        {styleSheetName, tr("Apply the application style sheet FILE."), QStringLiteral("FILE")});
+    parser.addOption(
+        {pageName, tr("Show the page ID first, or render that page alone."), QStringLiteral("ID")});
     parser.addOption({listPagesName, tr("List the pages: id and title.")});
     parser.addPositionalArgument(QStringLiteral("directory"),
                                  tr("A root directory of the file browser page."),
@@ -80,7 +81,8 @@ bool GalleryOptions::readPage(const QString& id, QString* error)
 {
     const QStringList ids = pageIds();
     if (!ids.contains(id)) {
-        *error = tr("there is no page \"%1\"; the pages are: %2").arg(id, ids.join(QStringLiteral(", ")));
+        *error = tr("there is no page \"%1\"; the pages are: %2")
+                     .arg(id, ids.join(QStringLiteral(", ")));
         return false;
     }
     page = id;
@@ -102,11 +104,15 @@ bool GalleryOptions::readDirectories(const QStringList& paths, QString* error)
 
 bool GalleryOptions::wantsWindow(int argc, const char* const* argv)
 {
-    static const QStringList windowless = {
-        QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("--help-all"),
-        QStringLiteral("-v"), QStringLiteral("--version"),
-        QStringLiteral("--") + listPagesName, QStringLiteral("--") + screenshotsName};
+    static const QStringList windowless = {QStringLiteral("-h"),
+                                           QStringLiteral("--help"),
+                                           QStringLiteral("--help-all"),
+                                           QStringLiteral("-v"),
+                                           QStringLiteral("--version"),
+                                           QStringLiteral("--") + listPagesName,
+                                           QStringLiteral("--") + screenshotsName};
     return std::none_of(argv + qMin(argc, 1), argv + argc, [](const char* argument) {
-        return windowless.contains(QString::fromLocal8Bit(argument).section(QLatin1Char('='), 0, 0));
+        return windowless.contains(
+            QString::fromLocal8Bit(argument).section(QLatin1Char('='), 0, 0));
     });
 }

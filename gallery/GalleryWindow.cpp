@@ -1,6 +1,8 @@
 #include "GalleryWindow.h"
 
+#include "ExhibitPicker.h"
 #include "GalleryPage.h"
+#include "properties/PropertyEditor.h"
 #include "StyleSheetFile.h"
 #include "Touch.h"
 
@@ -12,40 +14,39 @@
 namespace {
 
 constexpr QSize screenSize(800, 480);
-constexpr int listWidth = 150;
-
-QToolButton* makeSwitch(const QString& text, const QString& name)
-{
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setText(text);
-    button->setCheckable(true);
-    button->setMinimumSize(touch::fingerSize, touch::fingerSize);
-    return button;
-}
+constexpr int listWidth = 140;
+constexpr int propertiesWidth = 250;
+constexpr int spacing = 4;
 
 } // namespace
 
-GalleryWindow::GalleryWindow(const QVector<PageEntry>& pages, const QString& styleSheet, QWidget* parent)
+GalleryWindow::GalleryWindow(const QVector<PageEntry>& pages, const QString& styleSheet,
+                             QWidget* parent)
     : QWidget(parent)
     , m_pages(pages)
     , m_styleSheet(styleSheet.isEmpty() ? exampleStyleSheet() : styleSheet)
-    , m_switches(nullptr)
+    , m_switches(new QHBoxLayout)
     , m_list(new QListWidget)
     , m_pageArea(new QScrollArea)
+    , m_properties(new PropertyEditor)
+    , m_propertiesSwitch(nullptr)
+    , m_picker(new ExhibitPicker(this))
 {
     setWindowTitle(tr("Widget Gallery"));
     m_appearance.styleSheet = styleSheet;
+    setUpList();
+    setUpPageArea();
+    setUpProperties();
 
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addLayout(makeSwitches());
     rows->addLayout(makeColumns(), 1);
-
     resize(screenSize); // Qt would shrink a size hint that takes most of the screen
+
     applyAppearance();
-    fillList();
+    m_list->setCurrentRow(0);
 }
 
 GalleryPage* GalleryWindow::page() const
@@ -63,72 +64,94 @@ void GalleryWindow::showPage(const QString& id)
     }
 }
 
-QToolButton* GalleryWindow::addSwitch(const QString& text, const QString& name,
-                                      bool Appearance::*member)
+QToolButton* GalleryWindow::addSwitch(const QString& text, const QString& name, bool on)
 {
-    QToolButton* button = makeSwitch(text, name);
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    button->setText(text);
+    button->setCheckable(true);
+    button->setChecked(on);
+    button->setMinimumSize(touch::fingerSize, touch::fingerSize);
     m_switches->addWidget(button);
+    return button;
+}
+
+void GalleryWindow::addAppearanceSwitch(const QString& text, const QString& name,
+                                        bool Appearance::*member)
+{
+    const QToolButton* button = addSwitch(text, name, m_appearance.*member);
     connect(button, &QToolButton::toggled, this, [this, member](bool on) {
         m_appearance.*member = on;
         applyAppearance();
     });
-    return button;
 }
 
 QLayout* GalleryWindow::makeSwitches()
 {
-    m_switches = new QHBoxLayout;
-    m_switches->setContentsMargins(4, 4, 4, 4);
-    m_switches->setSpacing(4);
-    addSwitch(tr("Dark"), QStringLiteral("darkSwitch"), &Appearance::dark);
-    addSwitch(tr("Right to left"), QStringLiteral("rightToLeftSwitch"), &Appearance::rightToLeft);
-    addSwitch(tr("Disabled"), QStringLiteral("disabledSwitch"), &Appearance::disabled);
+    m_switches->setContentsMargins(spacing, spacing, spacing, spacing);
+    m_switches->setSpacing(spacing);
+    addAppearanceSwitch(tr("Dark"), QStringLiteral("darkSwitch"), &Appearance::dark);
+    addAppearanceSwitch(tr("Right to left"), QStringLiteral("rightToLeftSwitch"),
+                        &Appearance::rightToLeft);
+    addAppearanceSwitch(tr("Disabled"), QStringLiteral("disabledSwitch"), &Appearance::disabled);
 
-    QToolButton* styleSheet = makeSwitch(tr("Style sheet"), QStringLiteral("styleSheetSwitch"));
-    styleSheet->setChecked(!m_appearance.styleSheet.isEmpty());
+    const QToolButton* styleSheet = addSwitch(tr("Style sheet"), QStringLiteral("styleSheetSwitch"),
+                                              !m_appearance.styleSheet.isEmpty());
     connect(styleSheet, &QToolButton::toggled, this, [this](bool on) {
         m_appearance.styleSheet = on ? m_styleSheet : QString();
         applyAppearance();
     });
-    m_switches->addWidget(styleSheet);
+
     m_switches->addStretch();
+    m_propertiesSwitch = addSwitch(tr("Properties"), QStringLiteral("propertiesSwitch"), true);
+    connect(m_propertiesSwitch, &QToolButton::toggled, this, &GalleryWindow::updateProperties);
     return m_switches;
 }
 
 QLayout* GalleryWindow::makeColumns()
 {
-    m_list->setObjectName(QStringLiteral("pageList"));
-    m_list->setFixedWidth(listWidth);
-    m_list->setFrameShape(QFrame::NoFrame);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    touch::makeScrollable(m_list);
-    connect(m_list, &QListWidget::currentRowChanged, this, &GalleryWindow::makePage);
-
-    m_pageArea->setWidgetResizable(true);
-    m_pageArea->setFrameShape(QFrame::NoFrame);
-    touch::makeScrollable(m_pageArea);
-
     auto* columns = new QHBoxLayout;
     columns->setSpacing(0);
     columns->addWidget(m_list);
     columns->addWidget(m_pageArea, 1);
+    columns->addWidget(m_properties);
     return columns;
 }
 
-void GalleryWindow::fillList()
+void GalleryWindow::setUpList()
 {
-    for (const PageEntry& entry : qAsConst(m_pages)) {
-        auto* item = new QListWidgetItem(entry.title, m_list);
-        item->setSizeHint(QSize(0, touch::fingerSize));
-    }
-    m_list->setCurrentRow(0);
+    m_list->setObjectName(QStringLiteral("pageList"));
+    m_list->setFixedWidth(listWidth);
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    touch::makeItemsTall(m_list);
+    touch::makeScrollable(m_list);
+    for (const PageEntry& entry : qAsConst(m_pages))
+        m_list->addItem(entry.title);
+    connect(m_list, &QListWidget::currentRowChanged, this, &GalleryWindow::makePage);
+}
+
+void GalleryWindow::setUpPageArea()
+{
+    m_pageArea->setWidgetResizable(true);
+    m_pageArea->setFrameShape(QFrame::NoFrame);
+    touch::makeScrollable(m_pageArea);
+}
+
+void GalleryWindow::setUpProperties()
+{
+    m_properties->setFixedWidth(propertiesWidth);
+    connect(m_picker, &ExhibitPicker::picked, m_properties, &PropertyEditor::setTarget);
 }
 
 void GalleryWindow::makePage(int index)
 {
     GalleryPage* page = m_pages.at(index).create(nullptr);
-    m_pageArea->setWidget(page); // deletes the one before
     m_appearance.applyToPage(*page);
+    m_pageArea->setWidget(page); // deletes the one before
+    m_picker->setPage(page);
+    m_properties->setExhibits(page->exhibits());
+    updateProperties();
 }
 
 void GalleryWindow::applyAppearance()
@@ -136,4 +159,11 @@ void GalleryWindow::applyAppearance()
     m_appearance.applyToApplication();
     if (page())
         m_appearance.applyToPage(*page());
+}
+
+void GalleryWindow::updateProperties()
+{
+    const bool hasExhibits = page() && !page()->exhibits().isEmpty();
+    m_propertiesSwitch->setEnabled(hasExhibits);
+    m_properties->setVisible(hasExhibits && m_propertiesSwitch->isChecked());
 }

@@ -5,7 +5,9 @@
 
 #include <QWidget>
 
+class ExhibitPicker;
 class GalleryPage;
+class PropertyEditor;
 QT_BEGIN_NAMESPACE
 class QBoxLayout;
 class QListWidget;
@@ -15,7 +17,7 @@ QT_END_NAMESPACE
 
 /**
  * The gallery's window, made for a touch screen of 800 x 480: switches above, the list of pages at
- * its start, the page beside it.
+ * its start, the page in the middle and an editor of its widgets' properties at the end.
  */
 class GalleryWindow : public QWidget
 {
@@ -34,12 +36,16 @@ public:
     void showPage(const QString& id);
 
 private:
-    QToolButton* addSwitch(const QString& text, const QString& name, bool Appearance::*member);
+    QToolButton* addSwitch(const QString& text, const QString& name, bool on);
+    void addAppearanceSwitch(const QString& text, const QString& name, bool Appearance::*member);
     QLayout* makeSwitches();
     QLayout* makeColumns();
-    void fillList();
+    void setUpList();
+    void setUpPageArea();
+    void setUpProperties();
     void makePage(int index);
     void applyAppearance();
+    void updateProperties();
 
     QVector<PageEntry> m_pages;
     QString m_styleSheet;
@@ -47,4 +53,7 @@ private:
     QBoxLayout* m_switches;
     QListWidget* m_list;
     QScrollArea* m_pageArea;
+    PropertyEditor* m_properties;
+    QToolButton* m_propertiesSwitch;
+    ExhibitPicker* m_picker;
 };

@@ -77,8 +77,8 @@ QImage picture(const PageEntry& entry, const Variant& variant)
 
 } // namespace
 
-bool takeScreenshots(const QVector<PageEntry>& pages, const QDir& directory, const QString& styleSheet,
-                     QTextStream& out, QString* error)
+bool takeScreenshots(const QVector<PageEntry>& pages, const QDir& directory,
+                     const QString& styleSheet, QTextStream& out, QString* error)
 {
     for (const PageEntry& entry : pages) {
         for (const Variant& variant : variants(styleSheet)) {

@@ -14,5 +14,5 @@ QT_END_NAMESPACE
  * ID-right-to-left.png and ID-disabled.png; \a styleSheet applies to all of them. Existing files are
  * overwritten. Returns false, with a message in \a error, at the first file that cannot be written.
  */
-bool takeScreenshots(const QVector<PageEntry>& pages, const QDir& directory, const QString& styleSheet,
-                     QTextStream& out, QString* error);
+bool takeScreenshots(const QVector<PageEntry>& pages, const QDir& directory,
+                     const QString& styleSheet, QTextStream& out, QString* error);

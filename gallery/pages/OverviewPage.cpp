@@ -58,18 +58,18 @@ OverviewPage::OverviewPage(QWidget* parent)
     column->setContentsMargins(24, 24, 24, 24);
     column->setSpacing(16);
     column->addWidget(makeHeading(QStringLiteral("platform_widgets " GALLERY_VERSION)));
-    column->addWidget(makeParagraph(
-        tr("Fifteen Qt widgets for touch-screen applications: frames and layout containers, status "
-           "indicators, text entry with an on-screen keypad, animated switches and a file browser.")));
+    column->addWidget(makeParagraph(tr(
+        "Fifteen Qt widgets for touch-screen applications: frames and layout containers, status "
+        "indicators, text entry with an on-screen keypad, animated switches and a file browser.")));
     column->addWidget(makeParagraph(
         tr("Choose a page. Tap a widget of the page to edit its properties, and use the switches "
            "above to see it in a dark palette, mirrored, disabled or with a style sheet.")));
     column->addWidget(makeParagraph(tr("Icons of the library:")));
     column->addLayout(makeIcons());
     column->addStretch();
-    column->addWidget(makeParagraph(tr("Qt %1, platform plugin \"%2\"")
-                                        .arg(QString::fromLatin1(qVersion()),
-                                             QGuiApplication::platformName())));
+    column->addWidget(
+        makeParagraph(tr("Qt %1, platform plugin \"%2\"")
+                          .arg(QString::fromLatin1(qVersion()), QGuiApplication::platformName())));
 }
 
 QLayout* OverviewPage::makeIcons()

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ValueEditor.h"
+
+QT_BEGIN_NAMESPACE
+class QBoxLayout;
+class QToolButton;
+QT_END_NAMESPACE
+
+/// An editor of a value with several parts: a button with a summary, which unfolds the editors of the parts.
+class FoldoutEditor : public ValueEditor
+{
+    Q_OBJECT
+
+public:
+    explicit FoldoutEditor(QWidget* parent = nullptr);
+
+    void setValue(const QVariant& value) override;
+
+protected:
+    const QVariant& value() const;
+
+    /// The row that the summary stands in.
+    QBoxLayout* header() const;
+
+    virtual QString summary(const QVariant& value) const = 0;
+
+    /// Makes the editors of the parts, at the first unfolding.
+    virtual QWidget* makeBody() = 0;
+
+    /// Shows \a value in the body, which exists.
+    virtual void fillBody(const QVariant& value) = 0;
+
+private:
+    void unfold(bool open);
+
+    QVariant m_value;
+    QBoxLayout* m_header;
+    QToolButton* m_button;
+    QWidget* m_body;
+};

@@ -1,0 +1,156 @@
+#include "PropertyEditor.h"
+
+#include "PropertyGroup.h"
+#include "PropertyList.h"
+#include "Touch.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QScrollArea>
+#include <QTimerEvent>
+
+namespace {
+
+/// Milliseconds between two looks at the properties: fresh enough to follow, too rare to cost.
+constexpr int refreshInterval = 400;
+
+} // namespace
+
+PropertyEditor::PropertyEditor(QWidget* parent)
+    : QWidget(parent)
+    , m_choice(touch::makeComboBox())
+    , m_area(new QScrollArea)
+    , m_groupLayout(nullptr)
+    , m_dynamicGroup(nullptr)
+{
+    m_choice->setObjectName(QStringLiteral("exhibitChoice"));
+    connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &PropertyEditor::showExhibit);
+
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setWidgetResizable(true);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    touch::makeScrollable(m_area);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(4, 0, 0, 0);
+    column->setSpacing(4);
+    column->addWidget(m_choice);
+    column->addWidget(m_area, 1);
+}
+
+void PropertyEditor::setExhibits(const QList<GalleryPage::Exhibit>& exhibits)
+{
+    m_choice->clear();
+    m_widgets.clear();
+    for (const GalleryPage::Exhibit& exhibit : exhibits) {
+        m_widgets.append(exhibit.widget);
+        m_choice->addItem(exhibit.name); // the first one becomes the current one
+    }
+    if (exhibits.isEmpty())
+        showExhibit(-1);
+}
+
+QWidget* PropertyEditor::target() const
+{
+    return m_target;
+}
+
+void PropertyEditor::setTarget(QWidget* widget)
+{
+    const int index = m_widgets.indexOf(widget);
+    if (index >= 0)
+        m_choice->setCurrentIndex(index);
+}
+
+void PropertyEditor::refresh()
+{
+    if (!m_target) {
+        makeGroups();
+        return;
+    }
+    updateDynamicGroup();
+    for (PropertyGroup* group : qAsConst(m_groups))
+        group->refresh();
+}
+
+void PropertyEditor::showEvent(QShowEvent*)
+{
+    refresh();
+    m_timer.start(refreshInterval, this);
+}
+
+void PropertyEditor::hideEvent(QHideEvent*)
+{
+    m_timer.stop();
+}
+
+void PropertyEditor::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_timer.timerId())
+        refresh();
+}
+
+void PropertyEditor::showExhibit(int index)
+{
+    m_target = m_widgets.value(index);
+    makeGroups();
+}
+
+void PropertyEditor::makeGroups()
+{
+    for (const PropertyGroup* group : qAsConst(m_groups))
+        m_unfolded.insert(group->title(), group->isUnfolded());
+    m_groups.clear();
+    m_dynamicGroup = nullptr;
+
+    auto* contents = new QWidget;
+    m_groupLayout = new QVBoxLayout(contents);
+    m_groupLayout->setContentsMargins(0, 0, 0, 0);
+    m_groupLayout->setSpacing(0);
+    m_groupLayout->addStretch();
+    if (m_target) {
+        const QVector<ClassProperties> classes = propertiesByClass(*m_target);
+        for (const ClassProperties& properties : classes)
+            addGroup(m_groups.size(), properties);
+        updateDynamicGroup();
+    }
+    replaceContents(contents);
+}
+
+void PropertyEditor::replaceContents(QWidget* contents)
+{
+    // The old contents may be what is just reporting an edit.
+    if (QWidget* old = m_area->takeWidget()) {
+        old->hide();
+        old->deleteLater();
+    }
+    m_area->setWidget(contents);
+}
+
+PropertyGroup* PropertyEditor::addGroup(int position, const ClassProperties& properties)
+{
+    auto* group = new PropertyGroup(properties.className, m_target, properties.names);
+    m_groups.insert(position, group);
+    m_groupLayout->insertWidget(position, group);
+    connect(group, &PropertyGroup::edited, this, &PropertyEditor::refresh);
+
+    // The rows of the framework's classes are many, and made only when asked for.
+    group->setUnfolded(m_unfolded.value(properties.className, position == 0));
+    return group;
+}
+
+void PropertyEditor::updateDynamicGroup()
+{
+    const QVector<QByteArray> names = dynamicProperties(*m_target);
+    if (names == (m_dynamicGroup ? m_dynamicGroup->names() : QVector<QByteArray>()))
+        return;
+    if (m_dynamicGroup) {
+        m_groups.removeOne(m_dynamicGroup);
+        m_dynamicGroup->hide();
+        m_dynamicGroup->deleteLater();
+        m_dynamicGroup = nullptr;
+    }
+    if (!names.isEmpty())
+        m_dynamicGroup = addGroup(0, {tr("Dynamic properties"), names});
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "GalleryPage.h"
+
+#include <QBasicTimer>
+#include <QHash>
+#include <QPointer>
+#include <QWidget>
+
+class PropertyGroup;
+struct ClassProperties;
+QT_BEGIN_NAMESPACE
+class QComboBox;
+class QScrollArea;
+class QVBoxLayout;
+QT_END_NAMESPACE
+
+/**
+ * Edits the Qt properties of one of several widgets, straight from its meta-object: a group per class,
+ * a row per property.
+ *
+ * What a widget changes by itself is shown while the editor is visible, a few times a second.
+ */
+class PropertyEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PropertyEditor(QWidget* parent = nullptr);
+
+    /// Offers the widgets of \a exhibits, and shows the first of them.
+    void setExhibits(const QList<GalleryPage::Exhibit>& exhibits);
+
+    /// The widget whose properties are shown; null if there is none.
+    QWidget* target() const;
+
+    /// Shows the properties of \a widget; nothing happens if it is not among the exhibits.
+    void setTarget(QWidget* widget);
+
+    /// Shows the values that the properties have now.
+    void refresh();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    void showExhibit(int index);
+    void makeGroups();
+    void replaceContents(QWidget* contents);
+    PropertyGroup* addGroup(int position, const ClassProperties& properties);
+    void updateDynamicGroup();
+
+    QList<QPointer<QWidget>> m_widgets;
+    QPointer<QWidget> m_target;
+    QComboBox* m_choice;
+    QScrollArea* m_area;
+    QVBoxLayout* m_groupLayout;
+    QVector<PropertyGroup*> m_groups;
+    PropertyGroup* m_dynamicGroup;
+    QHash<QString, bool> m_unfolded; ///< By title, to leave the next widget's groups as they were.
+    QBasicTimer m_timer;
+};

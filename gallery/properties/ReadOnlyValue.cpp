@@ -1,0 +1,23 @@
+#include "ReadOnlyValue.h"
+
+#include "ValueText.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+
+ReadOnlyValue::ReadOnlyValue(QWidget* parent)
+    : ValueEditor(parent)
+    , m_label(new QLabel)
+{
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setWordWrap(true);
+    m_label->setEnabled(false); // the look of what cannot be changed
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_label);
+}
+
+void ReadOnlyValue::setValue(const QVariant& value)
+{
+    m_label->setText(valueText(value));
+}

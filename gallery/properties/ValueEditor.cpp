@@ -1,0 +1,11 @@
+#include "ValueEditor.h"
+
+ValueEditor::ValueEditor(QWidget* parent)
+    : QWidget(parent)
+{
+}
+
+bool ValueEditor::isNarrow() const
+{
+    return false;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QVariant>
+#include <QWidget>
+
+/**
+ * Shows a value of one type and lets the visitor edit it.
+ *
+ * An editor holds no truth of its own: it announces what was entered, and shows what it is told.
+ */
+class ValueEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ValueEditor(QWidget* parent = nullptr);
+
+    /// Shows \a value, without edited(). Showing the same value again disturbs no editing.
+    virtual void setValue(const QVariant& value) = 0;
+
+    /// Whether the editor is small enough to stand beside the name of what it edits.
+    virtual bool isNarrow() const;
+
+Q_SIGNALS:
+    void edited(const QVariant& value);
+};
