@@ -26,22 +26,9 @@ for preset in "${presets[@]}"; do
     esac
 done
 
-# Runs the tests of one build; adds to the variables passed and failed.
-run_tests() {
-    local preset=$1 log=build/$1/test.log count
-    ctest --preset "$preset" ${filter:+-R "$filter"} 2>&1 | tee "$log" || true
-    count=$(sed -nE 's/.* ([0-9]+) tests? failed out of ([0-9]+)$/\1 \2/p' "$log" | tail -n 1)
-    [ -n "$count" ] || die "test: no test was run with preset $preset"
-    failed=$((failed + ${count% *}))
-    passed=$((passed + ${count#* } - ${count% *}))
-}
-
 need_packages build test
-passed=0
-failed=0
 for preset in "${presets[@]}"; do
     build "$preset"
-    run_tests "$preset"
+    run_tests "$preset" "$filter"
 done
-echo "$passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+print_test_count

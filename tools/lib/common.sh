@@ -34,3 +34,4 @@ build() {
 }
 
 . "$DEV_ROOT/tools/lib/packages.sh"
+. "$DEV_ROOT/tools/lib/tests.sh"

@@ -9,13 +9,18 @@ missing_packages() {
     done
 }
 
+# Prints the packages of the named lists, one a line.
+packages_of() {
+    local list
+    for list in "$@"; do
+        sed 's/#.*//; /^[[:space:]]*$/d' "$DEV_ROOT/tools/packages/$list.txt"
+    done
+}
+
 # Sees to it that the packages of the named lists are installed; installs nothing when none is missing.
 need_packages() {
     local -a wanted=() missing=()
-    local list
-    for list in "$@"; do
-        mapfile -t -O "${#wanted[@]}" wanted < <(sed 's/#.*//; /^[[:space:]]*$/d' "$DEV_ROOT/tools/packages/$list.txt")
-    done
+    mapfile -t wanted < <(packages_of "$@")
     if ! command -v dpkg-query >/dev/null; then
         echo "dev: not a Debian system; going on in the hope that these are installed: ${wanted[*]}" >&2
         return
