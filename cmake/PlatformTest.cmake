@@ -40,3 +40,9 @@ set(PLATFORM_TEST_ENVIRONMENT
     "LC_ALL=C.UTF-8"
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
+
+if(CMAKE_CROSSCOMPILING)
+    # The emulator redirects only some of the calls by which Qt looks for its plugins into the sysroot.
+    list(APPEND PLATFORM_TEST_ENVIRONMENT
+        "QT_PLUGIN_PATH=$<TARGET_FILE_DIR:Qt5::QOffscreenIntegrationPlugin>/..")
+endif()
