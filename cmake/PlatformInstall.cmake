@@ -1,10 +1,14 @@
 include(CMakePackageConfigHelpers)
 
-# Installs what find_package(platform_widgets) and pkg-config need.
+# Installs what find_package(platform_widgets), pkg-config and qmake need.
 function(platform_install_package)
-    set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/platform_widgets)
-    set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    platform_install_cmake_package()
+    platform_install_pkgconfig_file()
+    platform_install_qmake_module()
+endfunction()
 
+function(platform_install_cmake_package)
+    set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/platform_widgets)
     install(EXPORT platform_widgets
         FILE platform_widgetsTargets.cmake
         NAMESPACE platform::
@@ -27,12 +31,34 @@ function(platform_install_package)
             DESTINATION ${package_dir}
             COMPONENT development)
     endif()
+endfunction()
 
+function(platform_install_pkgconfig_file)
     # The prefix is found from the file's own place, so that an installed tree can be moved.
+    set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
     file(RELATIVE_PATH pkgconfig_to_prefix "/${pkgconfig_dir}" "/")
     configure_file("${PROJECT_SOURCE_DIR}/cmake/platform_widgets.pc.in"
         "${PROJECT_BINARY_DIR}/cmake/platform_widgets.pc" @ONLY)
     install(FILES "${PROJECT_BINARY_DIR}/cmake/platform_widgets.pc"
         DESTINATION ${pkgconfig_dir}
+        COMPONENT development)
+endfunction()
+
+function(platform_install_qmake_module)
+    # With the prefix /usr this is where Debian's qmake looks by itself.
+    set(modules_dir ${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/modules)
+    file(RELATIVE_PATH modules_to_prefix "/${modules_dir}" "/")
+    string(REGEX REPLACE "/$" "" modules_to_prefix "${modules_to_prefix}")
+    if(PLATFORM_DEVICE_PREFIX)
+        set(keyboard_includes "${PLATFORM_DEVICE_keyboard_INCLUDE_DIR}")
+        get_filename_component(keyboard_libs "${PLATFORM_DEVICE_keyboard_LIBRARY}" DIRECTORY)
+    else()
+        set(keyboard_includes "$$QT.platform_widgets.includes")
+        set(keyboard_libs "$$QT.platform_widgets.libs")
+    endif()
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/qt_lib_platform_widgets.pri.in"
+        "${PROJECT_BINARY_DIR}/cmake/qt_lib_platform_widgets.pri" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/cmake/qt_lib_platform_widgets.pri"
+        DESTINATION ${modules_dir}
         COMPONENT development)
 endfunction()

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs a build into a temporary prefix and builds and runs a small application against it,
-# with CMake and with pkg-config: what users do is what is tested.
+# with CMake, with pkg-config and with qmake: what users do is what is tested.
 #
 # usage: installed-package.sh SOURCE_DIR BUILD_DIR
 # CXXFLAGS goes to the application's compiler, as a library built with sanitizers needs it.
@@ -52,3 +52,14 @@ export PKG_CONFIG_PATH
 ${CXX:-c++} -std=c++17 -fPIC ${CXXFLAGS:-} "$scratch/consumer/main.cpp" -o "$scratch/example" \
     $(pkg-config --cflags --libs platform_widgets) -Wl,-rpath,"$(pkg-config --variable=libdir platform_widgets)"
 runs_until_stopped "$scratch/example"
+
+echo "== qmake"
+QMAKEPATH=$(dirname "$(dirname "$(dirname "$(find "$prefix" -name qt_lib_platform_widgets.pri)")")")
+export QMAKEPATH
+mkdir "$scratch/qmake"
+(
+    cd "$scratch/qmake"
+    qmake -qt=5 "QMAKE_CXXFLAGS+=${CXXFLAGS:-}" "QMAKE_LFLAGS+=${CXXFLAGS:-}" "$scratch/consumer/example.pro" >/dev/null
+    make -s
+)
+runs_until_stopped "$scratch/qmake/example"
