@@ -1,7 +1,8 @@
 include(GenerateExportHeader)
 
-# platform_add_library(NAME): a shared library whose file name and soname are libplatform_NAME.so.1.2,
-# which exports only what carries its export macro and leaves no symbol undefined.
+# platform_add_library(NAME COMPONENT EXPORTED...): a shared library whose file name and soname are
+# libplatform_NAME.so.1.2 and which leaves no symbol undefined. It exports what carries its export
+# macro, as far as that belongs to the namespaces and classes EXPORTED (patterns of names).
 # It is installed in the given component and exported as platform::NAME.
 function(platform_add_library name component)
     set(target platform_${name})
@@ -25,6 +26,7 @@ function(platform_add_library name component)
         -fno-semantic-interposition)
     target_link_options(${target} PRIVATE
         LINKER:--no-undefined LINKER:--as-needed LINKER:-z,now LINKER:-z,relro)
+    platform_limit_exports(${target} ${ARGN})
 
     install(FILES "${PROJECT_BINARY_DIR}/include/${target}_export.h"
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/platform_widgets
@@ -34,6 +36,26 @@ function(platform_add_library name component)
             DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT ${component}
             NAMELINK_COMPONENT development)
+endfunction()
+
+# Hidden visibility does not reach everything that the compiler instantiates from the headers of Qt
+# and of the standard library: the linker keeps back whatever does not belong to the given names.
+function(platform_limit_exports target)
+    set(patterns "")
+    foreach(name IN LISTS ARGN)
+        # Members and functions; vtable, typeinfo and so on; what adjusts "this" for a second base.
+        string(APPEND patterns
+            "        ${name}::*;\n"
+            "        ${name};\n"
+            "        *?for?${name};\n"
+            "        *?for?${name}::*;\n"
+            "        *?thunk?to?${name}::*;\n")
+    endforeach()
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${target}.map")
+    file(CONFIGURE OUTPUT "${script}"
+        CONTENT "{\nglobal:\n    extern \"C++\" {\n${patterns}    };\nlocal:\n    *;\n};\n")
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${script}")
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${script}")
 endfunction()
 
 # platform_install_headers(FOLDER): everything below FOLDER as public headers.
