@@ -7,9 +7,9 @@
 #include "Touch.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QListWidget>
 #include <QScrollArea>
-#include <QToolButton>
 
 namespace {
 
@@ -64,23 +64,20 @@ void GalleryWindow::showPage(const QString& id)
     }
 }
 
-QToolButton* GalleryWindow::addSwitch(const QString& text, const QString& name, bool on)
+QCheckBox* GalleryWindow::addSwitch(const QString& text, const QString& name, bool on)
 {
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setText(text);
-    button->setCheckable(true);
-    button->setChecked(on);
-    button->setMinimumSize(touch::fingerSize, touch::fingerSize);
-    m_switches->addWidget(button);
-    return button;
+    QCheckBox* box = touch::makeCheckBox(text);
+    box->setObjectName(name);
+    box->setChecked(on);
+    m_switches->addWidget(box);
+    return box;
 }
 
 void GalleryWindow::addAppearanceSwitch(const QString& text, const QString& name,
                                         bool Appearance::*member)
 {
-    const QToolButton* button = addSwitch(text, name, m_appearance.*member);
-    connect(button, &QToolButton::toggled, this, [this, member](bool on) {
+    const QCheckBox* box = addSwitch(text, name, m_appearance.*member);
+    connect(box, &QCheckBox::toggled, this, [this, member](bool on) {
         m_appearance.*member = on;
         applyAppearance();
     });
@@ -95,16 +92,16 @@ QLayout* GalleryWindow::makeSwitches()
                         &Appearance::rightToLeft);
     addAppearanceSwitch(tr("Disabled"), QStringLiteral("disabledSwitch"), &Appearance::disabled);
 
-    const QToolButton* styleSheet = addSwitch(tr("Style sheet"), QStringLiteral("styleSheetSwitch"),
-                                              !m_appearance.styleSheet.isEmpty());
-    connect(styleSheet, &QToolButton::toggled, this, [this](bool on) {
+    const QCheckBox* styleSheet = addSwitch(tr("Style sheet"), QStringLiteral("styleSheetSwitch"),
+                                            !m_appearance.styleSheet.isEmpty());
+    connect(styleSheet, &QCheckBox::toggled, this, [this](bool on) {
         m_appearance.styleSheet = on ? m_styleSheet : QString();
         applyAppearance();
     });
 
     m_switches->addStretch();
     m_propertiesSwitch = addSwitch(tr("Properties"), QStringLiteral("propertiesSwitch"), true);
-    connect(m_propertiesSwitch, &QToolButton::toggled, this, &GalleryWindow::updateProperties);
+    connect(m_propertiesSwitch, &QCheckBox::toggled, this, &GalleryWindow::updateProperties);
     return m_switches;
 }
 

@@ -10,9 +10,9 @@ class GalleryPage;
 class PropertyEditor;
 QT_BEGIN_NAMESPACE
 class QBoxLayout;
+class QCheckBox;
 class QListWidget;
 class QScrollArea;
-class QToolButton;
 QT_END_NAMESPACE
 
 /**
@@ -36,7 +36,7 @@ public:
     void showPage(const QString& id);
 
 private:
-    QToolButton* addSwitch(const QString& text, const QString& name, bool on);
+    QCheckBox* addSwitch(const QString& text, const QString& name, bool on);
     void addAppearanceSwitch(const QString& text, const QString& name, bool Appearance::*member);
     QLayout* makeSwitches();
     QLayout* makeColumns();
@@ -54,6 +54,6 @@ private:
     QListWidget* m_list;
     QScrollArea* m_pageArea;
     PropertyEditor* m_properties;
-    QToolButton* m_propertiesSwitch;
+    QCheckBox* m_propertiesSwitch;
     ExhibitPicker* m_picker;
 };

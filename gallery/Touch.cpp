@@ -1,16 +1,24 @@
 #include "Touch.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QMouseEvent>
 #include <QScroller>
+#include <QSlider>
 #include <QStyledItemDelegate>
+#include <QStyleOption>
+#include <QStylePainter>
 #include <QToolButton>
 
 namespace touch {
 
 namespace {
+
+/// Between a text and what surrounds it.
+constexpr int margin = 8;
 
 class TallItemDelegate : public QStyledItemDelegate
 {
@@ -19,7 +27,19 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, fingerSize));
+        const QSize hint = QStyledItemDelegate::sizeHint(option, index) + QSize(2 * margin, 0);
+        return hint.expandedTo(QSize(0, fingerSize));
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem inset = option;
+        initStyleOption(&inset, index);
+        const QStyle* style = inset.widget ? inset.widget->style() : QApplication::style();
+        style->drawPrimitive(QStyle::PE_PanelItemViewItem, &inset, painter, inset.widget);
+        inset.rect.adjust(margin, 0, -margin, 0);
+        style->drawControl(QStyle::CE_ItemViewItem, &inset, painter, inset.widget);
     }
 };
 
@@ -37,15 +57,62 @@ public:
     }
 };
 
+/// The style's indicator is as small as a mouse pointer is precise.
 class TallCheckBox : public QCheckBox
 {
 public:
     using QCheckBox::QCheckBox;
 
+    QSize sizeHint() const override
+    {
+        const int textWidth =
+            text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text()) + margin;
+        return QSize(fingerSize + textWidth, fingerSize);
+    }
+
 protected:
     bool hitButton(const QPoint& position) const override
     {
         return rect().contains(position);
+    }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        QStylePainter painter(this);
+
+        const QRect text = option.rect.adjusted(fingerSize, 0, 0, 0);
+        painter.drawItemText(QStyle::visualRect(option.direction, rect(), text),
+                             Qt::AlignVCenter
+                                 | QStyle::visualAlignment(option.direction, Qt::AlignLeft),
+                             option.palette, isEnabled(), option.text, QPalette::WindowText);
+
+        QRect indicator(0, 0, indicatorSize, indicatorSize);
+        indicator.moveCenter(QRect(0, 0, fingerSize, height()).center());
+        option.rect = QStyle::visualRect(option.direction, rect(), indicator);
+        painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, option);
+    }
+
+private:
+    static constexpr int indicatorSize = 24;
+};
+
+/// Goes where it is pressed, since its handle is too small to be hit.
+class TouchSlider : public QSlider
+{
+public:
+    using QSlider::QSlider;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        const int handle = style()->pixelMetric(QStyle::PM_SliderLength, &option, this);
+        setValue(QStyle::sliderValueFromPosition(minimum(), maximum(), event->x() - handle / 2,
+                                                 width() - handle, option.upsideDown));
+        QSlider::mousePressEvent(event); // takes hold of the handle, which is there now
     }
 };
 
@@ -95,8 +162,15 @@ QCheckBox* makeCheckBox(const QString& text)
 {
     auto* box = new TallCheckBox(text);
     box->setMinimumSize(fingerSize, fingerSize);
-    box->setStyleSheet(QStringLiteral("QCheckBox::indicator { width: 24px; height: 24px; }"));
     return box;
+}
+
+QSlider* makeSlider()
+{
+    auto* slider = new TouchSlider(Qt::Horizontal);
+    slider->setMinimumHeight(fingerSize);
+    leaveWheelToScrollArea(slider);
+    return slider;
 }
 
 QToolButton* makeFoldButton(const QString& text)

@@ -7,6 +7,7 @@ class QAbstractItemView;
 class QAbstractScrollArea;
 class QCheckBox;
 class QComboBox;
+class QSlider;
 class QToolButton;
 class QWidget;
 QT_END_NAMESPACE
@@ -32,6 +33,9 @@ QComboBox* makeComboBox();
 
 /// A check box that can be hit all over.
 QCheckBox* makeCheckBox(const QString& text = QString());
+
+/// A horizontal slider that goes where it is pressed.
+QSlider* makeSlider();
 
 /// A button as wide as it may be that is checked to unfold something below it, with an arrow that tells so.
 QToolButton* makeFoldButton(const QString& text = QString());

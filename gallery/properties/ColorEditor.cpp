@@ -69,10 +69,8 @@ QWidget* ColorEditor::makeBody()
 
     const std::array<QString, 4> names = {tr("Red"), tr("Green"), tr("Blue"), tr("Alpha")};
     for (size_t i = 0; i < m_channels.size(); ++i) {
-        m_channels[i] = new QSlider(Qt::Horizontal);
+        m_channels[i] = touch::makeSlider();
         m_channels[i]->setRange(0, channelMaximum);
-        m_channels[i]->setMinimumHeight(touch::fingerSize);
-        touch::leaveWheelToScrollArea(m_channels[i]);
         connect(m_channels[i], &QSlider::valueChanged, this, &ColorEditor::enterChannels);
         form->addRow(names[i], m_channels[i]);
         form->labelForField(m_channels[i])->setMinimumHeight(touch::fingerSize);

@@ -15,7 +15,8 @@ FoldoutEditor::FoldoutEditor(QWidget* parent)
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addLayout(m_header);
-    m_header->addWidget(m_button);
+    m_button->setAutoRaise(false);
+    m_header->addWidget(m_button, 1);
     connect(m_button, &QToolButton::toggled, this, &FoldoutEditor::unfold);
 }
 
