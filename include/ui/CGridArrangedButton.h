@@ -30,7 +30,7 @@ namespace ui {
  * does not grow with it.
  *
  * Most functions do what the functions of QGridLayout with the same names do. Rows and columns
- * count from 0 to 9999. Null pointers, cells outside of these and widgets that contain the button
+ * count from 0 to 999. Null pointers, cells outside of these and widgets that contain the button
  * are refused with a warning and left alone.
  */
 class PLATFORM_WIDGETS_EXPORT CGridArrangedButton : public QPushButton {

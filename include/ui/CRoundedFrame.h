@@ -97,14 +97,16 @@ public:
     /**
      * Keeps a widget mask of the rounded shape of the whole widget, or none (the default).
      * Outside of it the widget is neither seen nor reached by the mouse. A visible widget has its
-     * mask when the call returns, a hidden one from its first paint on.
+     * mask when the call returns, a hidden one from its first paint on. A child that is opaque and
+     * covers the frame altogether keeps it from being painted, and so from being masked.
      */
     void enableWidgetMask(bool enable);
 
     /**
      * Computes the contents margins from radius, line width and shape, and sets them.
      * Each side gets the part of a corner that lies outside of its arc's middle, and one and a half
-     * line widths if there is an outline. Margins beyond the range of int stay at its end.
+     * line widths if there is an outline. A sum beyond the range of int stays at its end; QWidget
+     * itself keeps margins of up to 32767.
      */
     void updateMargins();
 

@@ -6,8 +6,9 @@ namespace ui {
 
 namespace {
 
-/// QGridLayout reserves memory for every row and column up to the last one and checks no index.
-constexpr int indexLimit = 10000;
+/// QGridLayout checks no index and keeps something for every row and column up to the last one, so
+/// that thousands of them take seconds to lay out.
+constexpr int indexLimit = 1000;
 
 bool isIndex(int index)
 {

@@ -57,8 +57,8 @@ int handleLength(const QStyleOptionSlider& option, int span)
 
 int handleStart(const QStyleOptionSlider& option, int freeSpace)
 {
-    // QStyle's function overflows, and may divide by zero, if the range does not fit an int. At
-    // half the scale it fits, and no handle moves by a pixel.
+    // QStyle's function overflows, and may divide by zero, where the range does not fit an int. At
+    // half the scale it fits, and a step still is far less than a pixel.
     const int scale = rangeOf(option) > uint(std::numeric_limits<int>::max()) ? 2 : 1;
     return QStyle::sliderPositionFromValue(option.minimum / scale, option.maximum / scale,
                                            option.sliderPosition / scale, freeSpace,

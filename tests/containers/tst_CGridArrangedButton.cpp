@@ -1,0 +1,450 @@
+#include "TestApplication.h"
+
+#include <ui/CGridArrangedButton.h>
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QMetaMethod>
+#include <QSignalSpy>
+
+#include <functional>
+#include <limits>
+
+using ui::CGridArrangedButton;
+
+namespace {
+
+using Call = std::function<void(CGridArrangedButton&)>;
+
+QGridLayout* gridOf(const CGridArrangedButton& button)
+{
+    return qobject_cast<QGridLayout*>(button.layout());
+}
+
+/// The row, column and spans of the only item in the grid.
+QRect onlyCell(const CGridArrangedButton& button)
+{
+    int row = -1;
+    int column = -1;
+    int rowSpan = -1;
+    int columnSpan = -1;
+    gridOf(button)->getItemPosition(0, &row, &column, &rowSpan, &columnSpan);
+    return QRect(column, row, columnSpan, rowSpan);
+}
+
+QIcon redIcon()
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    return QIcon(pixmap);
+}
+
+/// A button with a size hint of its own, to see who asks for it.
+class WideButton : public CGridArrangedButton {
+public:
+    using CGridArrangedButton::CGridArrangedButton;
+    QSize sizeHint() const override
+    {
+        return QSize(321, 12);
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Call)
+
+class tst_CGridArrangedButton : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void constructors();
+    void addsNothingToItsMetaObject();
+    void ownsItsGrid();
+
+    void hintsAtItsOwnContent();
+    void hintsAtItsGrid();
+    void minimumAsksForTheSizeHint();
+
+    void addsWidget();
+    void addsWidgetOverSpans();
+    void takesWidgetFromItsParent();
+    void addsItem();
+    void forwardsColumns();
+    void forwardsRows();
+    void forwardsSpacings();
+    void setsMarginsOfTheGrid();
+
+    void clicksThroughItsWidgets();
+
+    void refusesBadInput_data();
+    void refusesBadInput();
+    void leavesRefusedWidgetsAlone();
+    void refusesToContainItself();
+    void survivesAbsurdMeasures();
+};
+
+void tst_CGridArrangedButton::constructors()
+{
+    QWidget parent;
+    const QIcon icon = redIcon();
+    auto* plain = new CGridArrangedButton(&parent);
+    auto* titled = new CGridArrangedButton(QStringLiteral("Title"), &parent);
+    auto* decorated = new CGridArrangedButton(icon, QStringLiteral("Title"), &parent);
+    QCOMPARE(plain->text(), QString());
+    QCOMPARE(titled->text(), QStringLiteral("Title"));
+    QVERIFY(titled->icon().isNull());
+    QCOMPARE(decorated->text(), QStringLiteral("Title"));
+    QCOMPARE(decorated->icon().cacheKey(), icon.cacheKey());
+    for (const CGridArrangedButton* button : {plain, titled, decorated}) {
+        QCOMPARE(button->parentWidget(), &parent);
+        QVERIFY(gridOf(*button));
+        QCOMPARE(gridOf(*button)->count(), 0);
+    }
+    QVERIFY(!CGridArrangedButton().parent());
+    QVERIFY(!CGridArrangedButton(QStringLiteral("Title")).parent());
+    QVERIFY(!CGridArrangedButton(icon, QStringLiteral("Title")).parent());
+}
+
+void tst_CGridArrangedButton::addsNothingToItsMetaObject()
+{
+    const QMetaObject& meta = CGridArrangedButton::staticMetaObject;
+    QCOMPARE(meta.className(), "ui::CGridArrangedButton");
+    QCOMPARE(meta.superClass(), &QPushButton::staticMetaObject);
+    QCOMPARE(meta.methodCount(), meta.methodOffset());
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+}
+
+void tst_CGridArrangedButton::ownsItsGrid()
+{
+    QPointer<QGridLayout> grid;
+    QPointer<QLabel> label;
+    {
+        CGridArrangedButton button;
+        grid = gridOf(button);
+        QCOMPARE(grid->parent(), &button);
+        label = new QLabel;
+        button.addWidget(label, 0, 0);
+    }
+    QVERIFY(!grid);
+    QVERIFY(!label);
+}
+
+void tst_CGridArrangedButton::hintsAtItsOwnContent()
+{
+    const QString text = QStringLiteral("A rather long caption of the button");
+    CGridArrangedButton button(text);
+    button.setContentsMargins(0, 0, 0, 0);
+    const QPushButton reference(text);
+    QCOMPARE(button.sizeHint(), reference.sizeHint());
+    QCOMPARE(button.minimumSizeHint(), reference.minimumSizeHint());
+}
+
+void tst_CGridArrangedButton::hintsAtItsGrid()
+{
+    CGridArrangedButton button(QStringLiteral("A rather long caption of the button"));
+    const int ownWidth = button.sizeHint().width();
+    button.setContentsMargins(1, 2, 3, 4);
+    QLabel tall;
+    tall.setFixedSize(10, 200);
+    button.addWidget(&tall, 0, 0);
+    QCOMPARE(button.sizeHint(),
+             QSize(ownWidth, 206)); // the width of the one, the height of the other
+    QCOMPARE(button.minimumSizeHint(), QSize(ownWidth, 206));
+
+    QLabel wide;
+    wide.setMinimumSize(700, 10);
+    button.addWidget(&wide, 0, 1);
+    button.setHorizontalSpacing(5);
+    QCOMPARE(button.sizeHint(), QSize(719, 206));
+    QCOMPARE(button.minimumSizeHint(), QSize(719, 206));
+}
+
+void tst_CGridArrangedButton::minimumAsksForTheSizeHint()
+{
+    WideButton button(QStringLiteral("Text"));
+    QCOMPARE(button.minimumSizeHint().width(), 321);
+    QLabel tall;
+    tall.setFixedSize(10, 200);
+    button.setContentsMargins(0, 0, 0, 0);
+    button.addWidget(&tall, 0, 0);
+    QCOMPARE(button.minimumSizeHint(), QSize(321, 200));
+}
+
+void tst_CGridArrangedButton::addsWidget()
+{
+    CGridArrangedButton button;
+    auto* label = new QLabel;
+    button.addWidget(label, 2, 3, Qt::AlignRight | Qt::AlignTop);
+    QCOMPARE(label->parentWidget(), &button);
+    QCOMPARE(gridOf(button)->itemAtPosition(2, 3)->widget(), label);
+    QCOMPARE(gridOf(button)->itemAt(0)->alignment(), Qt::AlignRight | Qt::AlignTop);
+    QCOMPARE(onlyCell(button), QRect(3, 2, 1, 1));
+
+    button.addWidget(new QLabel, 0, 0);
+    QCOMPARE(gridOf(button)->itemAt(1)->alignment(), Qt::Alignment());
+}
+
+void tst_CGridArrangedButton::addsWidgetOverSpans()
+{
+    CGridArrangedButton button;
+    auto* label = new QLabel;
+    button.addWidget(label, 1, 2, 3, 4, Qt::AlignBottom);
+    QCOMPARE(label->parentWidget(), &button);
+    QCOMPARE(onlyCell(button), QRect(2, 1, 4, 3));
+    QCOMPARE(gridOf(button)->itemAt(0)->alignment(), Qt::Alignment(Qt::AlignBottom));
+
+    CGridArrangedButton open;
+    open.addWidget(new QLabel, 0, 0, 1, -1);
+    open.addWidget(new QLabel, 1, 4);
+    QCOMPARE(onlyCell(open), QRect(0, 0, 5, 1)); // reaches to the last column
+}
+
+void tst_CGridArrangedButton::takesWidgetFromItsParent()
+{
+    QWidget former;
+    auto* layout = new QVBoxLayout(&former);
+    auto* label = new QLabel(&former);
+    auto* other = new QLabel(&former);
+    layout->addWidget(label);
+    layout->addWidget(other);
+    CGridArrangedButton button;
+    button.addWidget(label, 0, 0);
+    button.addWidget(other, 1, 0, 1, 2);
+    QCOMPARE(label->parentWidget(), &button);
+    QCOMPARE(other->parentWidget(), &button);
+    QCOMPARE(layout->count(), 0);
+    QCOMPARE(gridOf(button)->count(), 2);
+}
+
+void tst_CGridArrangedButton::addsItem()
+{
+    CGridArrangedButton button;
+    auto* spacer = new QSpacerItem(40, 50);
+    button.addItem(spacer, 1, 2, 3, 4, Qt::AlignLeft);
+    QCOMPARE(gridOf(button)->itemAt(0), spacer);
+    QCOMPARE(onlyCell(button), QRect(2, 1, 4, 3));
+    QCOMPARE(spacer->alignment(), Qt::Alignment(Qt::AlignLeft));
+
+    QWidget parent;
+    QLabel label(&parent);
+    button.addItem(new QWidgetItem(&label), 0, 0);
+    QCOMPARE(label.parentWidget(), &parent);
+}
+
+void tst_CGridArrangedButton::forwardsColumns()
+{
+    CGridArrangedButton button;
+    QCOMPARE(button.columnStretch(0), 0);
+    button.setColumnStretch(2, 7);
+    button.setColumnMinimumWidth(3, 60);
+    QCOMPARE(gridOf(button)->columnStretch(2), 7);
+    QCOMPARE(button.columnStretch(2), 7);
+    QCOMPARE(button.columnStretch(1), 0);
+    QCOMPARE(gridOf(button)->columnMinimumWidth(3), 60);
+    gridOf(button)->setColumnStretch(2, 9);
+    QCOMPARE(button.columnStretch(2), 9);
+}
+
+void tst_CGridArrangedButton::forwardsRows()
+{
+    CGridArrangedButton button;
+    button.setRowStretch(2, 7);
+    button.setRowMinimumHeight(3, 60);
+    QCOMPARE(gridOf(button)->rowStretch(2), 7);
+    QCOMPARE(gridOf(button)->rowMinimumHeight(3), 60);
+}
+
+void tst_CGridArrangedButton::forwardsSpacings()
+{
+    CGridArrangedButton button;
+    button.setSpacing(3);
+    QCOMPARE(gridOf(button)->horizontalSpacing(), 3);
+    QCOMPARE(gridOf(button)->verticalSpacing(), 3);
+    button.setHorizontalSpacing(4);
+    QCOMPARE(gridOf(button)->horizontalSpacing(), 4);
+    QCOMPARE(gridOf(button)->verticalSpacing(), 3);
+    button.setVerticalSpacing(5);
+    QCOMPARE(gridOf(button)->horizontalSpacing(), 4);
+    QCOMPARE(gridOf(button)->verticalSpacing(), 5);
+
+    QWidget widget;
+    const QGridLayout reference(&widget);
+    button.setSpacing(-1);
+    QCOMPARE(gridOf(button)->horizontalSpacing(), reference.horizontalSpacing());
+}
+
+void tst_CGridArrangedButton::setsMarginsOfTheGrid()
+{
+    CGridArrangedButton button;
+    button.setContentsMargins(1, 2, 3, 4);
+    QCOMPARE(gridOf(button)->contentsMargins(), QMargins(1, 2, 3, 4));
+    QCOMPARE(button.contentsMargins(), QMargins());
+    button.QWidget::setContentsMargins(5, 6, 7, 8);
+    QCOMPARE(button.contentsMargins(), QMargins(5, 6, 7, 8));
+}
+
+void tst_CGridArrangedButton::clicksThroughItsWidgets()
+{
+    QWidget window;
+    CGridArrangedButton button(&window);
+    auto* label = new QLabel(QStringLiteral("Value"));
+    button.addWidget(label, 0, 0);
+    QSignalSpy clicked(&button, &QPushButton::clicked);
+    button.resize(200, 80);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    const QPoint point = label->mapTo(&window, label->rect().center());
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, point);
+    QVERIFY(button.isDown());
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, point);
+    QVERIFY(!button.isDown());
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_CGridArrangedButton::refusesBadInput_data()
+{
+    constexpr int huge = std::numeric_limits<int>::max();
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QString>("warning");
+    const auto row = [](const char* name, const Call& call, const char* warning) {
+        QTest::newRow(name)
+            << call << QStringLiteral("CGridArrangedButton::").append(QLatin1String(warning));
+    };
+    const char* nullWidget = "addWidget: cannot add a null widget";
+    row(
+        "null widget", [](auto& b) { b.addWidget(nullptr, 0, 0); }, nullWidget);
+    row(
+        "null widget, spans", [](auto& b) { b.addWidget(nullptr, 0, 0, 1, 1); }, nullWidget);
+    row(
+        "null item", [](auto& b) { b.addItem(nullptr, 0, 0, 1, 1); },
+        "addItem: cannot add a null item");
+
+    row(
+        "widget, row below",
+        [](auto& b) {
+            QLabel label;
+            b.addWidget(&label, -1, 0);
+        },
+        "addWidget: no such cells: row -1, column 0, 1 by 1");
+    row(
+        "widget, column beyond",
+        [](auto& b) {
+            QLabel label;
+            b.addWidget(&label, 0, 1000);
+        },
+        "addWidget: no such cells: row 0, column 1000, 1 by 1");
+    row(
+        "widget, span beyond",
+        [](auto& b) {
+            QLabel label;
+            b.addWidget(&label, 2, 0, huge, 1);
+        },
+        "addWidget: no such cells: row 2, column 0, 2147483647 by 1");
+    row(
+        "widget, span a little beyond",
+        [](auto& b) {
+            QLabel label;
+            b.addWidget(&label, 0, 999, 1, 2);
+        },
+        "addWidget: no such cells: row 0, column 999, 1 by 2");
+    row(
+        "item, row below",
+        [](auto& b) {
+            QSpacerItem item(1, 1);
+            b.addItem(&item, -1, 0, 1, 1);
+        },
+        "addItem: no such cells: row -1, column 0, 1 by 1");
+    row(
+        "item, column beyond",
+        [](auto& b) {
+            QSpacerItem item(1, 1);
+            b.addItem(&item, 0, huge, 1, 1);
+        },
+        "addItem: no such cells: row 0, column 2147483647, 1 by 1");
+
+    row(
+        "column width below", [](auto& b) { b.setColumnMinimumWidth(-1, 5); },
+        "setColumnMinimumWidth: no such row or column: -1");
+    row(
+        "column stretch beyond", [](auto& b) { b.setColumnStretch(huge, 5); },
+        "setColumnStretch: no such row or column: 2147483647");
+    row(
+        "row height beyond", [](auto& b) { b.setRowMinimumHeight(1000, 5); },
+        "setRowMinimumHeight: no such row or column: 1000");
+    row(
+        "row stretch below", [](auto& b) { b.setRowStretch(-1, 5); },
+        "setRowStretch: no such row or column: -1");
+}
+
+void tst_CGridArrangedButton::refusesBadInput()
+{
+    QFETCH(Call, call);
+    QFETCH(QString, warning);
+    CGridArrangedButton button;
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    call(button);
+    QCOMPARE(gridOf(button)->count(), 0);
+    QCOMPARE(gridOf(button)->rowCount(), 1);
+    QCOMPARE(gridOf(button)->columnCount(), 1);
+    QCOMPARE(button.columnStretch(-1), 0);
+    QCOMPARE(button.columnStretch(std::numeric_limits<int>::max()), 0);
+}
+
+void tst_CGridArrangedButton::leavesRefusedWidgetsAlone()
+{
+    QWidget parent;
+    QLabel label(&parent);
+    CGridArrangedButton button;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no such cells")));
+    button.addWidget(&label, -1, 0);
+    QCOMPARE(label.parentWidget(), &parent);
+}
+
+void tst_CGridArrangedButton::refusesToContainItself()
+{
+    QWidget window;
+    QWidget panel(&window);
+    CGridArrangedButton button(&panel);
+    for (QWidget* widget : {static_cast<QWidget*>(&button), &panel, &window}) {
+        QTest::ignoreMessage(QtWarningMsg,
+                             "CGridArrangedButton::addWidget: cannot add a widget that"
+                             " contains the button");
+        button.addWidget(widget, 0, 0);
+    }
+    QCOMPARE(gridOf(button)->count(), 0);
+    QCOMPARE(button.parentWidget(), &panel);
+    QCOMPARE(panel.parentWidget(), &window);
+}
+
+void tst_CGridArrangedButton::survivesAbsurdMeasures()
+{
+    using Limits = std::numeric_limits<int>;
+    QWidget window;
+    CGridArrangedButton button(&window);
+    button.addWidget(new QLabel(QStringLiteral("Text")), 0, 0);
+    button.addWidget(new QLabel(QStringLiteral("Text")), 1, 1, -7, -7);
+    button.addWidget(new QLabel(QStringLiteral("Text")), 999, 999);
+    button.resize(200, 80);
+    window.show();
+    for (int value : {Limits::min(), -1, 0, 20000000, Limits::max()}) {
+        button.setSpacing(value);
+        button.setContentsMargins(value, value, value, value);
+        button.setColumnMinimumWidth(0, value);
+        button.setRowMinimumHeight(1, value);
+        button.setColumnStretch(0, value);
+        button.setColumnStretch(1, Limits::max());
+        button.setRowStretch(0, value);
+        QCoreApplication::processEvents();
+        button.sizeHint();
+        button.minimumSizeHint();
+        QCOMPARE(button.columnStretch(0), value);
+    }
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_CGridArrangedButton>(argc, argv);
+}
+
+#include "tst_CGridArrangedButton.moc"
