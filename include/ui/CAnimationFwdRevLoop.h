@@ -32,7 +32,8 @@ namespace ui {
  * An animation that has no end to turn round at (an infinite loop count or an undefined duration)
  * is left alone, so that stop() ends it for good; so is one that lasts no time at all.
  */
-class PLATFORM_WIDGETS_EXPORT CAnimationFwdRevLoop : public QObject {
+class PLATFORM_WIDGETS_EXPORT CAnimationFwdRevLoop : public QObject
+{
     Q_OBJECT
 
 public:

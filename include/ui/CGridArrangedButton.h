@@ -33,7 +33,8 @@ namespace ui {
  * count from 0 to 999. Null pointers, cells outside of these and widgets that contain the button
  * are refused with a warning and left alone.
  */
-class PLATFORM_WIDGETS_EXPORT CGridArrangedButton : public QPushButton {
+class PLATFORM_WIDGETS_EXPORT CGridArrangedButton : public QPushButton
+{
     Q_OBJECT
 
 public:

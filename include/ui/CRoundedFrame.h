@@ -40,7 +40,8 @@ namespace ui {
  * No value is refused. Radii and widths that are too large for the widget leave no room for its
  * contents; then, and with margins of 0 or less, no outline is drawn and no mask is made.
  */
-class PLATFORM_WIDGETS_EXPORT CRoundedFrame : public QWidget {
+class PLATFORM_WIDGETS_EXPORT CRoundedFrame : public QWidget
+{
     Q_OBJECT
     Q_PROPERTY(int radius READ radius WRITE setRadius)
     Q_PROPERTY(int lineWidth READ lineWidth WRITE setLineWidth)

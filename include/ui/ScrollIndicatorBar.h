@@ -32,7 +32,8 @@ namespace widgets {
  * The handle's length stands to the groove's as the page step to range and page step together; it
  * has one pixel at least, and just one where the range is larger than 0x3FFFFFFF.
  */
-class PLATFORM_WIDGETS_EXPORT ScrollIndicatorBar : public QScrollBar {
+class PLATFORM_WIDGETS_EXPORT ScrollIndicatorBar : public QScrollBar
+{
     Q_OBJECT
 
 public:

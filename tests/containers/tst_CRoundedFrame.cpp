@@ -33,7 +33,8 @@ int clampedToInt(qint64 value)
 }
 
 /// A shown frame in a layout, with watches on its repaints and on the geometry updates it asks for.
-struct Stage {
+struct Stage
+{
     Stage()
         : frame(new CRoundedFrame)
         , repaints(frame)
@@ -64,7 +65,8 @@ struct Stage {
 
 Q_DECLARE_METATYPE(Change)
 
-class tst_CRoundedFrame : public QObject {
+class tst_CRoundedFrame : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

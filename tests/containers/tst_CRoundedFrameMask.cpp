@@ -23,7 +23,8 @@ QRegion roundedRegion(const QSize& size, int radius)
 }
 
 /// Counts the presses that reach it.
-class Pad : public QWidget {
+class Pad : public QWidget
+{
 public:
     using QWidget::QWidget;
     int presses = 0;
@@ -35,7 +36,8 @@ protected:
     }
 };
 
-class PressableFrame : public CRoundedFrame {
+class PressableFrame : public CRoundedFrame
+{
 public:
     using CRoundedFrame::CRoundedFrame;
     int presses = 0;
@@ -48,7 +50,8 @@ protected:
 };
 
 /// A frame that lies on a pad.
-struct Stage {
+struct Stage
+{
     Stage()
     {
         window.resize(300, 200);
@@ -76,7 +79,8 @@ struct Stage {
 
 } // namespace
 
-class tst_CRoundedFrameMask : public QObject {
+class tst_CRoundedFrameMask : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

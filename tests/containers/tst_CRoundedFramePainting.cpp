@@ -12,7 +12,8 @@ using ui::CRoundedFrame;
 namespace {
 
 /// The state of a frame, and the picture that follows from it.
-struct Look {
+struct Look
+{
     QSize size = QSize(90, 60);
     int radius = 18;
     int lineWidth = 2;
@@ -81,7 +82,8 @@ QImage expected(const Look& look)
     return image;
 }
 
-class OpenFrame : public CRoundedFrame {
+class OpenFrame : public CRoundedFrame
+{
 public:
     using CRoundedFrame::paintFrame;
 };
@@ -90,7 +92,8 @@ public:
 
 Q_DECLARE_METATYPE(Look)
 
-class tst_CRoundedFramePainting : public QObject {
+class tst_CRoundedFramePainting : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

@@ -9,7 +9,8 @@
 
 using ui::widgets::ScrollIndicatorBar;
 
-class tst_ScrollIndicatorBar : public QObject {
+class tst_ScrollIndicatorBar : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

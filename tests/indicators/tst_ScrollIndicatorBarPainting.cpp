@@ -1,104 +1,17 @@
 #include "Painting.h"
 #include "Palettes.h"
+#include "ScrollIndicatorLook.h"
 #include "TestApplication.h"
 
 #include <ui/ScrollIndicatorBar.h>
 
 #include <QPainter>
 
-#include <limits>
-
 using ui::widgets::ScrollIndicatorBar;
 
 namespace {
 
-using Limits = std::numeric_limits<int>;
-
-/// The state of a bar, and where its handle has to be.
-struct Look {
-    Qt::Orientation orientation = Qt::Vertical;
-    QSize size = QSize(5, 220);
-    int minimum = 0;
-    int maximum = 100;
-    int pageStep = 10;
-    int value = 0;
-    int handleStart = 0; ///< Along the orientation, from the left or the top.
-    int handleLength = 20;
-    bool highlighted = false;
-    bool enabled = true;
-    bool inverted = false;
-    QPalette palette = test::lightPalette();
-    qreal dpr = 1.0;
-    Qt::LayoutDirection direction = Qt::LeftToRight;
-
-    Look& horizontal()
-    {
-        orientation = Qt::Horizontal;
-        size.transpose();
-        return *this;
-    }
-    QColor color(QPalette::ColorRole role) const
-    {
-        return palette.color(enabled ? QPalette::Active : QPalette::Disabled, role);
-    }
-};
-
-void apply(Look& look, ScrollIndicatorBar& bar)
-{
-    bar.setOrientation(look.orientation);
-    bar.resize(look.size);
-    bar.setRange(look.minimum, look.maximum);
-    bar.setPageStep(look.pageStep);
-    bar.setValue(look.value);
-    bar.setHighlightBar(look.highlighted);
-    bar.setEnabled(look.enabled);
-    bar.setInvertedAppearance(look.inverted);
-    bar.setPalette(look.palette);
-    bar.setLayoutDirection(look.direction);
-    look.palette = bar.palette(); // with what it takes from the application's
-}
-
-QColor derived(const QColor& button, double saturation, double value)
-{
-    return QColor::fromHsv(button.hsvHue(), std::min(255, int(button.hsvSaturation() * saturation)),
-                           std::min(255, int(button.value() * value)));
-}
-
-QColor groove(const Look& look)
-{
-    const QColor window = look.color(QPalette::Window);
-    return window.lightness() <= 120 ? window : derived(look.color(QPalette::Button), 2.6, 0.9);
-}
-
-QColor firstLine(const Look& look)
-{
-    return look.highlighted && look.enabled ? look.color(QPalette::Highlight)
-                                            : derived(look.color(QPalette::Button), 1.9, 0.7);
-}
-
-void drawLine(QPainter& painter, const Look& look, int index, const QColor& color)
-{
-    const int inset = index == 0 || index == 4;
-    const int first = look.handleStart + inset;
-    const int last = look.handleStart + look.handleLength - 1 - inset;
-    painter.setPen(QPen(color, 1));
-    if (look.orientation == Qt::Horizontal)
-        painter.drawLine(first, index, last, index);
-    else
-        painter.drawLine(index, first, index, last);
-}
-
-QImage expected(const Look& look)
-{
-    QImage image = test::canvas(look.size, look.dpr, groove(look));
-    QPainter painter(&image);
-    QColor color = firstLine(look);
-    for (int i = 0; i < 5; ++i) {
-        drawLine(painter, look, i, color);
-        color = color.darker(108);
-    }
-    return image;
-}
+using Look = ScrollIndicatorLook;
 
 QPalette paletteWith(QPalette::ColorRole role, const QColor& color)
 {
@@ -111,25 +24,20 @@ QPalette paletteWith(QPalette::ColorRole role, const QColor& color)
 
 Q_DECLARE_METATYPE(Look)
 
-class tst_ScrollIndicatorBarPainting : public QObject {
+class tst_ScrollIndicatorBarPainting : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:
     void colours_data();
     void colours();
     void namedColours();
-    void handles_data();
-    void handles();
-    void handlesOfHugeRanges_data();
-    void handlesOfHugeRanges();
     void thickBarsKeepSlimHandles_data();
     void thickBarsKeepSlimHandles();
     void onePixelHandleRunsBackwards();
     void paintsOnlyWhereDamaged_data();
     void paintsOnlyWhereDamaged();
     void fillsBoundingRectangleOfDamage();
-    void survivesAbsurdRanges_data();
-    void survivesAbsurdRanges();
 };
 
 void tst_ScrollIndicatorBarPainting::colours_data()
@@ -203,84 +111,6 @@ void tst_ScrollIndicatorBarPainting::namedColours()
         QVERIFY2(qAbs(line.value() - values[i]) <= 1, qPrintable(line.name()));
         QVERIFY2(qAbs(line.hsvSaturation() - 114) <= 2, qPrintable(line.name()));
     }
-}
-
-void tst_ScrollIndicatorBarPainting::handles_data()
-{
-    QTest::addColumn<Look>("look");
-    const auto row = [](const char* name, int minimum, int maximum, int pageStep, int value,
-                        int start, int length) {
-        Look look;
-        look.minimum = minimum;
-        look.maximum = maximum;
-        look.pageStep = pageStep;
-        look.value = value;
-        look.handleStart = start;
-        look.handleLength = length;
-        QTest::newRow(name) << look;
-        Look upsideDown = look;
-        upsideDown.inverted = true;
-        upsideDown.handleStart = minimum == maximum ? 0 : 220 - length - start;
-        QTest::newRow(QByteArray(name) + ", inverted") << upsideDown;
-        QTest::newRow(QByteArray(name) + ", horizontal") << look.horizontal();
-        look.direction = Qt::RightToLeft;
-        look.handleStart = 220 - length - start;
-        QTest::newRow(QByteArray(name) + ", right to left") << look;
-    };
-    row("at the start", 0, 100, 10, 0, 0, 20);
-    row("in the middle", 0, 100, 10, 50, 100, 20);
-    row("at the end", 0, 100, 10, 100, 200, 20);
-    row("negative range", -80, -30, 60, -30, 100, 120);
-    row("length truncated", 0, 100, 13, 0, 0, 25);
-    row("no range", 7, 7, 10, 7, 0, 220);
-    row("no page", 0, 100, 0, 0, 0, 1);
-    row("page far beyond the range", 0, 1, Limits::max(), 0, 0, 219);
-    row("shorter than a pixel", 0, 100000, 10, 100000, 219, 1);
-}
-
-void tst_ScrollIndicatorBarPainting::handlesOfHugeRanges_data()
-{
-    QTest::addColumn<Look>("look");
-    const auto row = [](const char* name, int minimum, int maximum, int value, int start,
-                        int length) {
-        Look look;
-        look.minimum = minimum;
-        look.maximum = maximum;
-        look.pageStep = 0x3FFFFFFF;
-        look.value = value;
-        look.handleStart = start;
-        look.handleLength = length;
-        QTest::newRow(name) << look;
-        QTest::newRow(QByteArray(name) + ", horizontal") << look.horizontal();
-    };
-    constexpr int least = Limits::min();
-    constexpr int most = Limits::max();
-    row("largest range with a length", 0, 0x3FFFFFFF, 0, 0, 110);
-    row("first range without", 0, 0x40000000, 0, 0, 1);
-    row("largest int", 0, most, most, 219, 1);
-    // QStyle truncates positions in ranges of this size.
-    row("one beyond it, at the start", -1, most, -1, 0, 1);
-    row("one beyond it, in the middle", -1, most, most / 2, 109, 1);
-    row("one beyond it, at the end", -1, most, most, 218, 1);
-    row("widest, at the start", least, most, least, 0, 1);
-    row("widest, in the middle", least, most, 0, 109, 1);
-    row("widest, at the end", least, most, most, 219, 1);
-}
-
-void tst_ScrollIndicatorBarPainting::handlesOfHugeRanges()
-{
-    QFETCH(Look, look);
-    ScrollIndicatorBar bar;
-    apply(look, bar);
-    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
-}
-
-void tst_ScrollIndicatorBarPainting::handles()
-{
-    QFETCH(Look, look);
-    ScrollIndicatorBar bar;
-    apply(look, bar);
-    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
 }
 
 void tst_ScrollIndicatorBarPainting::thickBarsKeepSlimHandles_data()
@@ -363,7 +193,7 @@ void tst_ScrollIndicatorBarPainting::paintsOnlyWhereDamaged()
     if (reachesHandle)
         painter.drawImage(0, 0, expected(look));
     else
-        painter.fillRect(damaged, groove(look));
+        painter.fillRect(damaged, look.groove());
     painter.end();
     QVERIFY(test::sameImage(test::paintedBy(bar, 1.0, damaged), image));
 }
@@ -386,36 +216,6 @@ void tst_ScrollIndicatorBarPainting::fillsBoundingRectangleOfDamage()
     painter.drawImage(0, 0, expected(look));
     painter.end();
     QVERIFY(test::sameImage(test::paintedBy(bar, 1.0, damaged), image));
-}
-
-void tst_ScrollIndicatorBarPainting::survivesAbsurdRanges_data()
-{
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    const int values[] = {Limits::min(), Limits::min() + 1, -0x40000000,  -1, 0, 1,
-                          0x40000000,    Limits::max() - 1, Limits::max()};
-    for (int minimum : values) {
-        for (int maximum : values)
-            QTest::addRow("%d to %d", minimum, maximum) << minimum << maximum;
-    }
-}
-
-void tst_ScrollIndicatorBarPainting::survivesAbsurdRanges()
-{
-    QFETCH(int, minimum);
-    QFETCH(int, maximum);
-    ScrollIndicatorBar bar;
-    bar.setRange(minimum, maximum);
-    for (int pageStep : {0, 1, 10, Limits::max(), Limits::min()}) {
-        for (int value : {minimum, 0, maximum}) {
-            for (const QSize& size : {QSize(5, 220), QSize(1, 1), QSize(5, 20000)}) {
-                bar.setPageStep(pageStep);
-                bar.setValue(value);
-                bar.resize(size);
-                test::paintedBy(bar, 1.0, QRect(0, 0, 5, 5));
-            }
-        }
-    }
 }
 
 int main(int argc, char** argv)

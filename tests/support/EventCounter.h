@@ -6,7 +6,8 @@
 namespace test {
 
 /// Counts the events of one type that an object receives.
-class EventCounter : public QObject {
+class EventCounter : public QObject
+{
     Q_OBJECT
 
 public:

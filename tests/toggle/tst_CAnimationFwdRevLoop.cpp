@@ -31,7 +31,8 @@ void finish(QAbstractAnimation& animation)
 
 } // namespace
 
-class tst_CAnimationFwdRevLoop : public QObject {
+class tst_CAnimationFwdRevLoop : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

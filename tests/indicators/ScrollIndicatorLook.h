@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Palettes.h"
+
+#include <QImage>
+#include <QPalette>
+#include <QSize>
+
+namespace ui {
+namespace widgets {
+class ScrollIndicatorBar;
+}
+} // namespace ui
+
+/// The state of a bar, and where its handle has to be.
+struct ScrollIndicatorLook
+{
+    Qt::Orientation orientation = Qt::Vertical;
+    QSize size = QSize(5, 220);
+    int minimum = 0;
+    int maximum = 100;
+    int pageStep = 10;
+    int value = 0;
+    int handleStart = 0; ///< Along the orientation, from the left or the top.
+    int handleLength = 20;
+    bool highlighted = false;
+    bool enabled = true;
+    bool inverted = false;
+    QPalette palette = test::lightPalette();
+    qreal dpr = 1.0;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+
+    /// The same bar, lying.
+    ScrollIndicatorLook& horizontal();
+    QColor color(QPalette::ColorRole role) const;
+    QColor groove() const;
+};
+
+/// Brings \a bar to the state of \a look, which takes over what the palette inherits.
+void apply(ScrollIndicatorLook& look, ui::widgets::ScrollIndicatorBar& bar);
+
+/// The picture that follows from \a look.
+QImage expected(const ScrollIndicatorLook& look);
