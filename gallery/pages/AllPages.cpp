@@ -1,6 +1,10 @@
 #include "AllPages.h"
 
+#include "AnimationPage.h"
+#include "FramesPage.h"
+#include "GridButtonPage.h"
 #include "OverviewPage.h"
+#include "ScrollIndicatorPage.h"
 
 #include <QCoreApplication>
 
@@ -23,5 +27,9 @@ QVector<PageEntry> allPages()
 {
     return {
         {QStringLiteral("overview"), tr("Overview"), make<OverviewPage>},
+        {QStringLiteral("frames"), tr("Frames"), make<FramesPage>},
+        {QStringLiteral("grid-button"), tr("Grid button"), make<GridButtonPage>},
+        {QStringLiteral("scroll-indicator"), tr("Scroll indicator"), make<ScrollIndicatorPage>},
+        {QStringLiteral("animation"), tr("Animation"), make<AnimationPage>},
     };
 }

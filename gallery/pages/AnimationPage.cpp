@@ -1,0 +1,114 @@
+#include "AnimationPage.h"
+
+#include "Beacon.h"
+#include "Touch.h"
+
+#include <ui/CAnimationFwdRevLoop.h>
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPropertyAnimation>
+#include <QPushButton>
+
+namespace {
+
+constexpr int margin = 16;
+constexpr int spacing = 12;
+constexpr int pulseDuration = 900;
+constexpr int sweepDuration = 2500;
+
+QPropertyAnimation* makeAnimation(QWidget* target, const QByteArray& property, int duration)
+{
+    auto* animation = new QPropertyAnimation(target, property, target);
+    animation->setEasingCurve(QEasingCurve::InOutSine);
+    animation->setDuration(duration);
+    new ui::CAnimationFwdRevLoop(animation);
+    return animation;
+}
+
+} // namespace
+
+AnimationPage::AnimationPage(QWidget* parent)
+    : GalleryPage(parent)
+{
+    auto* hint = new QLabel(tr("Each animation runs to its end, turns round and runs back."));
+    hint->setWordWrap(true);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(2 * spacing);
+    column->addWidget(hint);
+    column->addLayout(makePulse());
+    column->addLayout(makeSweep());
+    column->addStretch();
+}
+
+QLayout* AnimationPage::makePulse()
+{
+    auto* beacon = new Beacon;
+    addExhibit(beacon, tr("Pulsing light"));
+    QPropertyAnimation* pulse = makeAnimation(beacon, "brightness", pulseDuration);
+    pulse->setStartValue(1.0);
+    pulse->setEndValue(0.0);
+    pulse->start();
+
+    auto* controls = new QVBoxLayout;
+    controls->setSpacing(spacing);
+    controls->addStretch();
+    controls->addWidget(makeDirection(pulse));
+    controls->addWidget(makeSwitch(pulse));
+    controls->addStretch();
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * spacing);
+    row->addWidget(beacon);
+    row->addLayout(controls, 1);
+    return row;
+}
+
+QLayout* AnimationPage::makeSweep()
+{
+    auto* bar = new QProgressBar;
+    bar->setRange(0, 1000);
+    bar->setTextVisible(false);
+    addExhibit(bar, tr("Sweeping bar"));
+    QPropertyAnimation* sweep = makeAnimation(bar, "value", sweepDuration);
+    sweep->setStartValue(bar->minimum());
+    sweep->setEndValue(bar->maximum());
+    sweep->start();
+
+    auto* column = new QVBoxLayout;
+    column->setSpacing(spacing);
+    column->addWidget(bar);
+    column->addWidget(makeDirection(sweep));
+    column->addWidget(makeSwitch(sweep));
+    return column;
+}
+
+QPushButton* AnimationPage::makeSwitch(QVariantAnimation* animation)
+{
+    auto* button = new QPushButton(tr("Stop"));
+    button->setMinimumHeight(touch::fingerSize);
+    connect(button, &QPushButton::clicked, animation, [animation] {
+        if (animation->state() == QAbstractAnimation::Running)
+            animation->stop();
+        else
+            animation->start();
+    });
+    connect(animation, &QAbstractAnimation::stateChanged, button,
+            [button](QAbstractAnimation::State state) {
+                button->setText(state == QAbstractAnimation::Running ? tr("Stop") : tr("Start"));
+            });
+    return button;
+}
+
+QLabel* AnimationPage::makeDirection(QVariantAnimation* animation)
+{
+    auto* label = new QLabel(tr("Running forwards"));
+    connect(animation, &QAbstractAnimation::directionChanged, label,
+            [label](QAbstractAnimation::Direction direction) {
+                label->setText(direction == QAbstractAnimation::Forward ? tr("Running forwards")
+                                                                        : tr("Running backwards"));
+            });
+    return label;
+}

@@ -1,0 +1,94 @@
+#include "FramesPage.h"
+
+#include "Picture.h"
+
+#include <ui/CRoundedFrame.h>
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+constexpr int margin = 16;
+constexpr int spacing = 12;
+constexpr QSize leastFrameSize(130, 76);
+/// Wide enough for the shades of a raised and a sunken frame to be seen.
+constexpr int shadedLineWidth = 5;
+constexpr int pictureHeight = 190;
+constexpr QSize cardSize(230, 130);
+constexpr int ribbonHeight = 40;
+
+/// A strip right up to the corners of its \a card, whose mask cuts it off.
+QLabel* makeRibbon(const QString& text, QWidget* card)
+{
+    auto* ribbon = new QLabel(text, card);
+    ribbon->setGeometry(0, 0, cardSize.width(), ribbonHeight);
+    ribbon->setAlignment(Qt::AlignCenter);
+    ribbon->setAutoFillBackground(true);
+    ribbon->setBackgroundRole(QPalette::Highlight);
+    ribbon->setForegroundRole(QPalette::HighlightedText);
+    return ribbon;
+}
+
+} // namespace
+
+FramesPage::FramesPage(QWidget* parent)
+    : GalleryPage(parent)
+{
+    ui::CRoundedFrame* plain = makeFrame(tr("Plain"));
+    ui::CRoundedFrame* raised = makeFrame(tr("Raised"));
+    raised->setFrameShadow(QFrame::Raised);
+    raised->setLineWidth(shadedLineWidth);
+    ui::CRoundedFrame* sunken = makeFrame(tr("Sunken"));
+    sunken->setFrameShadow(QFrame::Sunken);
+    sunken->setLineWidth(shadedLineWidth);
+    ui::CRoundedFrame* filled = makeFrame(tr("Filled"));
+    filled->setBackgroundRole(QPalette::Base);
+    filled->enableFillContents(true);
+
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setSpacing(spacing);
+    grid->addWidget(plain, 0, 0);
+    grid->addWidget(raised, 0, 1);
+    grid->addWidget(sunken, 1, 0);
+    grid->addWidget(filled, 1, 1);
+    grid->addWidget(makeMaskedFrame(), 2, 0, 1, 2);
+    grid->setRowStretch(3, 1);
+}
+
+ui::CRoundedFrame* FramesPage::makeFrame(const QString& name)
+{
+    auto* frame = new ui::CRoundedFrame;
+    frame->setMinimumSize(leastFrameSize);
+    auto* label = new QLabel(name);
+    label->setAlignment(Qt::AlignCenter);
+    auto* layout = new QGridLayout(frame);
+    layout->addWidget(label);
+    addExhibit(frame, name);
+    return frame;
+}
+
+QWidget* FramesPage::makeMaskedFrame()
+{
+    auto* card = new ui::CRoundedFrame;
+    card->setFixedSize(cardSize);
+    card->setRadius(28);
+    card->setFrameShape(ui::CRoundedFrame::NoFrame);
+    card->enableFillContents(true);
+    card->enableWidgetMask(true);
+    makeRibbon(tr("Masked"), card);
+    auto* text = new QLabel(tr("The corners are cut off, and what lies in them."));
+    text->setAlignment(Qt::AlignCenter);
+    text->setWordWrap(true);
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(0, ribbonHeight, 0, 0);
+    column->addWidget(text);
+    addExhibit(card, tr("Masked"));
+
+    auto* picture = new Picture;
+    picture->setFixedHeight(pictureHeight);
+    auto* stage = new QGridLayout(picture);
+    stage->addWidget(card, 0, 0, Qt::AlignCenter);
+    return picture;
+}

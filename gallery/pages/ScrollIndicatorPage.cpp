@@ -1,0 +1,95 @@
+#include "ScrollIndicatorPage.h"
+
+#include "Picture.h"
+#include "Touch.h"
+
+#include <ui/ScrollIndicatorBar.h>
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScroller>
+
+using ui::widgets::ScrollIndicatorBar;
+
+namespace {
+
+constexpr int margin = 16;
+constexpr int spacing = 12;
+constexpr int listLength = 30;
+constexpr int leastListHeight = 170;
+constexpr QSize panoramaSize(1500, 120);
+
+QWidget* makeRows()
+{
+    auto* rows = new QWidget;
+    auto* column = new QVBoxLayout(rows);
+    column->setSpacing(0);
+    for (int number = 1; number <= listLength; ++number) {
+        auto* row = new QLabel(ScrollIndicatorPage::tr("Track %1").arg(number));
+        row->setMinimumHeight(touch::fingerSize);
+        column->addWidget(row);
+    }
+    return rows;
+}
+
+} // namespace
+
+ScrollIndicatorPage::ScrollIndicatorPage(QWidget* parent)
+    : GalleryPage(parent)
+{
+    auto* hint =
+        new QLabel(tr("Drag the list and the picture: their indicators light up while they move."));
+    hint->setWordWrap(true);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
+    column->addWidget(hint);
+    column->addWidget(makeList(), 1);
+    column->addWidget(makePanorama());
+}
+
+QScrollArea* ScrollIndicatorPage::makeList()
+{
+    auto* area = new QScrollArea;
+    area->setObjectName(QStringLiteral("list"));
+    area->setWidget(makeRows());
+    area->setWidgetResizable(true);
+    area->setMinimumHeight(leastListHeight);
+    area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // it is there to be scrolled
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    addIndicator(area, Qt::Vertical, tr("Vertical indicator"));
+    return area;
+}
+
+QScrollArea* ScrollIndicatorPage::makePanorama()
+{
+    auto* picture = new Picture;
+    picture->setFixedSize(panoramaSize);
+    auto* area = new QScrollArea;
+    area->setObjectName(QStringLiteral("panorama"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(picture);
+    area->setFixedHeight(panoramaSize.height() + ScrollIndicatorBar::PERPENDICULAR_SIZE);
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    addIndicator(area, Qt::Horizontal, tr("Horizontal indicator"));
+    return area;
+}
+
+void ScrollIndicatorPage::addIndicator(QScrollArea* area, Qt::Orientation orientation,
+                                       const QString& name)
+{
+    auto* indicator = new ScrollIndicatorBar(orientation);
+    if (orientation == Qt::Vertical)
+        area->setVerticalScrollBar(indicator);
+    else
+        area->setHorizontalScrollBar(indicator);
+    addExhibit(indicator, name);
+
+    touch::makeScrollable(area);
+    connect(QScroller::scroller(area->viewport()), &QScroller::stateChanged, indicator,
+            [indicator](QScroller::State state) {
+                indicator->setHighlightBar(state == QScroller::Dragging
+                                           || state == QScroller::Scrolling);
+            });
+}

@@ -1,0 +1,53 @@
+#include "TestApplication.h"
+
+#include <pages/AnimationPage.h>
+#include <pages/Beacon.h>
+
+#include <QPropertyAnimation>
+#include <QPushButton>
+
+class tst_AnimationPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pulsesBackAndForth();
+    void stopsAndStarts();
+};
+
+void tst_AnimationPage::pulsesBackAndForth()
+{
+    AnimationPage page;
+    auto* beacon = page.findChild<Beacon*>();
+    QVERIFY(beacon);
+    auto* pulse = beacon->findChild<QPropertyAnimation*>();
+    QVERIFY(pulse);
+    pulse->setCurrentTime(pulse->totalDuration());
+    QCOMPARE(beacon->brightness(), 0.0);
+    QCOMPARE(pulse->direction(), QAbstractAnimation::Backward);
+    pulse->setCurrentTime(0);
+    QCOMPARE(beacon->brightness(), 1.0);
+    QCOMPARE(pulse->direction(), QAbstractAnimation::Forward);
+    QCOMPARE(pulse->state(), QAbstractAnimation::Running);
+}
+
+void tst_AnimationPage::stopsAndStarts()
+{
+    AnimationPage page;
+    auto* pulse = page.findChild<Beacon*>()->findChild<QPropertyAnimation*>();
+    auto* button = page.findChild<QPushButton*>();
+    QVERIFY(button);
+    button->click();
+    QCOMPARE(pulse->state(), QAbstractAnimation::Stopped);
+    QCOMPARE(button->text(), QStringLiteral("Start"));
+    button->click();
+    QCOMPARE(pulse->state(), QAbstractAnimation::Running);
+    QCOMPARE(button->text(), QStringLiteral("Stop"));
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_AnimationPage>(argc, argv);
+}
+
+#include "tst_AnimationPage.moc"
