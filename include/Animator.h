@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QEasingCurve>
+#include <QPointer>
+#include <QVariantAnimation>
+
+/**
+ * Animates one value on behalf of a target object.
+ *
+ * At every change of its current value the animator sends the target a QEvent::StyleAnimationUpdate,
+ * not accepted. A widget that receives it schedules a repaint, and its paint code then reads
+ * currentValue():
+ *
+ * \code
+ * auto* glow = new Animator(widget, widget);
+ * glow->setup(200, QEasingCurve::OutQuad);
+ * glow->interpolate(QColor(Qt::black), QColor(Qt::white));
+ * // in paintEvent():
+ * painter.fillRect(rect(), glow->currentValue().value<QColor>());
+ * \endcode
+ *
+ * The nearest class of Qt is QPropertyAnimation, which writes a property of its target. The animator
+ * writes nothing, so a value that only matters to the picture needs neither a property nor a field.
+ *
+ * The target is not owned. Once it has been destroyed the animator runs on, but tells nobody.
+ */
+class PLATFORM_WIDGETS_EXPORT Animator : public QVariantAnimation
+{
+    Q_OBJECT
+    Q_PROPERTY(QObject* targetObject READ targetObject WRITE setTargetObject)
+
+public:
+    /// Makes a stopped animator for \a object, which may be null, owned by \a parent.
+    explicit Animator(QObject* object, QObject* parent = nullptr);
+
+    /// Stops the animation first, so that nothing reaches a target that is half destroyed.
+    ~Animator() override;
+
+    /// The object that is told about new values; null if there is none or it has been destroyed.
+    QObject* targetObject() const;
+
+    /**
+     * Sets the object that is told about new values; null for none.
+     * A running animation refuses another target with a warning; a paused one accepts it.
+     */
+    void setTargetObject(QObject* object);
+
+public Q_SLOTS:
+    /**
+     * Sets the \a duration in milliseconds and the \a easing curve; a running animation runs on.
+     * A negative duration is refused by Qt with a warning and leaves the former one in place.
+     */
+    void setup(int duration, QEasingCurve easing = QEasingCurve(QEasingCurve::Linear));
+
+    /// Animates from \a start to \a end, from time 0 whether or not the animation is under way.
+    void interpolate(const QVariant& start, const QVariant& end);
+
+    /// Makes \a value the current value without animating and tells the target once.
+    void setCurrentValue(const QVariant& value);
+
+protected:
+    /**
+     * Warns when the animation leaves QAbstractAnimation::Stopped without a target, and when it
+     * changes its state forwards without an end value. It changes state in either case.
+     */
+    void updateState(QAbstractAnimation::State newState,
+                     QAbstractAnimation::State oldState) override;
+
+    /// Tells the target, if there is one, to look at currentValue().
+    void updateCurrentValue(const QVariant& value) override;
+
+private:
+    QPointer<QObject> target;
+};
