@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QAbstractButton>
+
+/**
+ * Base of the checkable controls that draw themselves, such as Switch.
+ *
+ * It turns the checked flag of QAbstractButton into a Qt::CheckState, reports every setting of it
+ * by stateChanged() and hands it to toggle(Qt::CheckState). A subclass paints the control and
+ * implements that function, typically to start a transition:
+ *
+ * \code
+ * class Lamp : public SelectionControl
+ * {
+ * public:
+ *     using SelectionControl::SelectionControl;
+ *     using SelectionControl::toggle;
+ *     void toggle(Qt::CheckState) override { update(); }
+ *
+ * protected:
+ *     void paintEvent(QPaintEvent*) override
+ *     {
+ *         QPainter(this).fillRect(rect(), checkState() == Qt::Checked ? Qt::yellow : Qt::gray);
+ *     }
+ * };
+ * \endcode
+ *
+ * The nearest class of Qt is QCheckBox. Unlike it, this one leaves all painting to the subclass, has
+ * no partially checked state, and also reports a state that is set again to what it was.
+ *
+ * Clicks, keys, shortcuts, groups and accessibility are those of QAbstractButton.
+ *
+ * Order of signals:
+ * - a click: toggled(), stateChanged(), toggle(Qt::CheckState), released(), clicked();
+ * - setChecked(): stateChanged(), toggle(Qt::CheckState), then toggled() if the state is new;
+ * - where QAbstractButton changes the state on its own account, as click(), auto-repeat and the
+ *   group that unchecks a button do: as setChecked(), then stateChanged() and
+ *   toggle(Qt::CheckState) once more.
+ *
+ * The state that toggle(Qt::CheckState) receives is the one that the preceding stateChanged()
+ * carried. To refuse a state, set the former one in a slot of toggled() or clicked().
+ */
+class PLATFORM_WIDGETS_EXPORT SelectionControl : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    /// Makes a checkable, unchecked control with the object name "SelectionControl".
+    explicit SelectionControl(QWidget* parent = nullptr);
+
+    /// Qt::Checked or Qt::Unchecked, after isChecked(); never Qt::PartiallyChecked.
+    Qt::CheckState checkState() const;
+
+    using QAbstractButton::toggle; // The slot toggle() inverts the state.
+
+    /// Reacts to the new \a state, once for every stateChanged().
+    virtual void toggle(Qt::CheckState state) = 0;
+
+Q_SIGNALS:
+    /// The state has been set to \a state, a Qt::CheckState, by the user or by setChecked().
+    void stateChanged(int state);
+
+protected:
+    /// Publishes the state: emits stateChanged() and calls toggle(Qt::CheckState).
+    void checkStateSet() override;
+
+    /// Inverts the state, as a click does, and publishes it.
+    void nextCheckState() override;
+};
