@@ -1,0 +1,272 @@
+#pragma once
+
+#include "SelectionControl.h"
+
+#include <QColor>
+#include <QEasingCurve>
+#include <QFont>
+#include <QMargins>
+#include <QMetaType>
+#include <QPixmap>
+#include <QPointer>
+
+class Animator;
+QT_BEGIN_NAMESPACE
+class QBrush;
+QT_END_NAMESPACE
+
+namespace Style {
+
+/**
+ * How a value changes over time.
+ *
+ * The type is known to QVariant, so QObject::property() and QObject::setProperty() carry it. An
+ * application that compares variants of it calls
+ * \c QMetaType::registerEqualsComparator<Style::Animation>() once; the library does not, because Qt
+ * could not forget the comparator when the library is unloaded.
+ */
+struct Animation
+{
+    QEasingCurve::Type easing = QEasingCurve::Linear;
+    int duration = 0; ///< Milliseconds; 0 for an immediate change.
+};
+
+inline bool operator==(const Animation& a, const Animation& b)
+{
+    return a.easing == b.easing && a.duration == b.duration;
+}
+
+inline bool operator!=(const Animation& a, const Animation& b)
+{
+    return !(a == b);
+}
+
+} // namespace Style
+
+Q_DECLARE_TYPEINFO(Style::Animation, Q_PRIMITIVE_TYPE);
+Q_DECLARE_METATYPE(Style::Animation)
+
+/**
+ * An on/off switch: a round thumb that slides along a track, with an optional label beside it.
+ *
+ * \code
+ * auto* wifi = new Switch(tr("Wi-Fi"), QColor(Qt::darkGreen), this);
+ * wifi->setThumbOffBrush(Qt::white);
+ * connect(wifi, &QAbstractButton::clicked, this, &Settings::enableWifi);
+ * \endcode
+ *
+ * The nearest class of Qt is QCheckBox, which is drawn by the style. The switch draws itself from
+ * its properties, so it looks the same under every style, and animates every change of its state.
+ *
+ * \par Looks
+ * The colours of the track and thumb are the properties', those of the label
+ * QPalette::ButtonText, in the group Active or, when disabled, Disabled. The constructor sets that
+ * role to black; an application with a dark palette sets it with setPalette(). A switch that nobody
+ * configured draws black in different opacities: dark thumb, lighter track, the track lighter still
+ * when off. Track and thumb have fixed radii; at the default height and margins the track is a pill
+ * of 36 x 16 pixels, and the thumb and its shadow just fit.
+ *
+ * \par Opacities
+ * Fractions 0...1. Where an opacity makes up the alpha of a colour (all but those of the disabled
+ * look), a value outside the range, not a number included, draws nothing. The disabled look limits
+ * its opacities to the range.
+ *
+ * \par Setters
+ * A setter that changes its property repaints the switch and asks for no new layout: call
+ * updateGeometry() after setHeight() or setIndicatorMargin() in a layout. It also puts the colours
+ * at rest back to those of the off state, until the state is set the next time; so set the colours
+ * before the state, or call setChecked(isChecked()) after them.
+ *
+ * \par Motion
+ * Every setting of the state starts a transition, also to the state that the switch already has.
+ * Switching on moves the thumb from the off end, switching off from where it is. A switch that is not
+ * visible changes at once. A disabled one shows its state without motion. In a right-to-left layout
+ * the switch is at the right edge, but its on end stays on the right.
+ */
+class PLATFORM_WIDGETS_EXPORT Switch : public SelectionControl
+{
+    Q_OBJECT
+    Q_PROPERTY(int height READ indicatorHeight WRITE setHeight)
+    Q_PROPERTY(QFont font READ labelFont WRITE setFont)
+    Q_PROPERTY(QColor thumbOnBrush READ thumbOnBrush WRITE setThumbOnBrush)
+    Q_PROPERTY(double thumbOnOpacity READ thumbOnOpacity WRITE setThumbOnOpacity)
+    Q_PROPERTY(QColor trackOnBrush READ trackOnBrush WRITE setTrackOnBrush)
+    Q_PROPERTY(double trackOnOpacity READ trackOnOpacity WRITE setTrackOnOpacity)
+    Q_PROPERTY(QColor thumbOffBrush READ thumbOffBrush WRITE setThumbOffBrush)
+    Q_PROPERTY(double thumbOffOpacity READ thumbOffOpacity WRITE setThumbOffOpacity)
+    Q_PROPERTY(QColor trackOffBrush READ trackOffBrush WRITE setTrackOffBrush)
+    Q_PROPERTY(double trackOffOpacity READ trackOffOpacity WRITE setTrackOffOpacity)
+    Q_PROPERTY(QColor thumbDisabled READ thumbDisabled WRITE setThumbDisabled)
+    Q_PROPERTY(double thumbDisabledOpacity READ thumbDisabledOpacity WRITE setThumbDisabledOpacity)
+    Q_PROPERTY(QColor trackDisabled READ trackDisabled WRITE setTrackDisabled)
+    Q_PROPERTY(double trackDisabledOpacity READ trackDisabledOpacity WRITE setTrackDisabledOpacity)
+    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
+    Q_PROPERTY(double disabledTextOpacity READ disabledTextOpacity WRITE setDisabledTextOpacity)
+    Q_PROPERTY(
+        Style::Animation thumbBrushAnimation READ thumbBrushAnimation WRITE setThumbBrushAnimation)
+    Q_PROPERTY(
+        Style::Animation trackBrushAnimation READ trackBrushAnimation WRITE setTrackBrushAnimation)
+    Q_PROPERTY(Style::Animation thumbPosAnimation READ thumbPosAnimation WRITE setThumbPosAnimation)
+
+public:
+    /// Makes a switch without label, with the object name "Switch".
+    explicit Switch(QWidget* parent = nullptr);
+
+    /// Makes a switch with the label \a text.
+    explicit Switch(const QString& text, QWidget* parent = nullptr);
+
+    /// Makes a switch with the label \a text whose track and thumb have the colour of \a brush when on.
+    Switch(const QString& text, const QBrush& brush, QWidget* parent = nullptr);
+
+    ~Switch() override;
+
+    /// The indicator and the label in the widget's font, side by side; indicatorHeight() tall.
+    QSize sizeHint() const override;
+
+    /// The area of track and thumb, margins included: at the leading edge and indicatorHeight() tall.
+    QRect indicatorRect() const;
+
+    /// The area of the label: what indicatorRect() leaves of the width, in the full height.
+    QRect textRect() const;
+
+    /**
+     * Height of the indicator in pixels, and the width of its track. Default 36.
+     * Any value is kept; geometry is computed with at most QWIDGETSIZE_MAX either way. This is the
+     * property \c height; height() is the widget's own.
+     */
+    int indicatorHeight() const;
+    void setHeight(int height);
+
+    /**
+     * Font of the label. Default: the application's default font at construction.
+     * This is the property \c font; font() is the widget's own, which sizeHint() measures with and
+     * which QWidget::setFont() sets.
+     */
+    QFont labelFont() const;
+    void setFont(QFont font);
+
+    /// Colour of the thumb when on, at thumbOnOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    QColor thumbOnBrush() const;
+    void setThumbOnBrush(QColor color);
+
+    /// Opacity of the thumb when on. Default 1.0.
+    double thumbOnOpacity() const;
+    void setThumbOnOpacity(double opacity);
+
+    /// Colour of the track when on, at trackOnOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    QColor trackOnBrush() const;
+    void setTrackOnBrush(QColor color);
+
+    /// Opacity of the track when on. Default 0.5.
+    double trackOnOpacity() const;
+    void setTrackOnOpacity(double opacity);
+
+    /// Colour of the thumb when off, at thumbOffOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    QColor thumbOffBrush() const;
+    void setThumbOffBrush(QColor color);
+
+    /// Opacity of the thumb when off. Default 1.0.
+    double thumbOffOpacity() const;
+    void setThumbOffOpacity(double opacity);
+
+    /// Colour of the track when off, at trackOffOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    QColor trackOffBrush() const;
+    void setTrackOffBrush(QColor color);
+
+    /// Opacity of the track when off. Default 0.25.
+    double trackOffOpacity() const;
+    void setTrackOffOpacity(double opacity);
+
+    /// Colour of the thumb when disabled, with its own alpha. Default: invalid, drawn as opaque black.
+    QColor thumbDisabled() const;
+    void setThumbDisabled(QColor color);
+
+    /// Kept for the application; the disabled thumb is drawn at full opacity. Default 1.0.
+    double thumbDisabledOpacity() const;
+    void setThumbDisabledOpacity(double opacity);
+
+    /// Colour of the track when disabled, with its own alpha. Default: invalid, drawn as opaque black.
+    QColor trackDisabled() const;
+    void setTrackDisabled(QColor color);
+
+    /// Opacity of the track when disabled, on top of the colour's own alpha. Default 0.15.
+    double trackDisabledOpacity() const;
+    void setTrackDisabledOpacity(double opacity);
+
+    /// Kept for the application; the label has the colour of QPalette::ButtonText. Default: invalid.
+    QColor textColor() const;
+    void setTextColor(QColor color);
+
+    /// Opacity of the label when disabled. Default 0.4.
+    double disabledTextOpacity() const;
+    void setDisabledTextOpacity(double opacity);
+
+    /// How the colour of the thumb changes. Default: linear, 150 ms.
+    Style::Animation thumbBrushAnimation() const;
+    void setThumbBrushAnimation(Style::Animation animation);
+
+    /// How the colour of the track changes. Default: linear, 150 ms.
+    Style::Animation trackBrushAnimation() const;
+    void setTrackBrushAnimation(Style::Animation animation);
+
+    /// How the thumb moves. Default: QEasingCurve::InOutQuad, 150 ms.
+    Style::Animation thumbPosAnimation() const;
+    void setThumbPosAnimation(Style::Animation animation);
+
+    /**
+     * Sets the space around the track in pixels. Default 8 on every side.
+     * The sum of the left and right margins also sets how far the thumb travels. Any value is kept;
+     * geometry is computed with at most QWIDGETSIZE_MAX either way.
+     */
+    void setIndicatorMargin(QMargins margin);
+
+    /// Hands the animation properties and the colours of the off state to the animators and repaints.
+    void refresh();
+
+    using SelectionControl::toggle; // The slot toggle() inverts the state.
+
+    /// Starts the transition to \a state, or makes it at once if the switch is not visible.
+    void toggle(Qt::CheckState state) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Rest; ///< What the animators show when a transition is over.
+    struct Look; ///< What the painting routine needs to know of the state.
+
+    void init();
+    template <typename T>
+    void assign(T& field, const T& value);
+    Rest restAt(bool on) const;
+    void animateTo(bool on);
+    void jumpTo(bool on);
+    Look enabledLook() const;
+    Look disabledLook() const;
+
+    int m_height = 36; // makes the track as tall as its two corner radii
+    QFont m_font;
+    QMargins m_indicatorMargin{8, 8, 8, 8};
+    QColor m_thumbOnBrush;
+    double m_thumbOnOpacity = 1.0;
+    QColor m_trackOnBrush;
+    double m_trackOnOpacity = 0.5;
+    QColor m_thumbOffBrush;
+    double m_thumbOffOpacity = 1.0;
+    QColor m_trackOffBrush;
+    double m_trackOffOpacity = 0.25;
+    QColor m_thumbDisabled;
+    double m_thumbDisabledOpacity = 1.0;
+    QColor m_trackDisabled;
+    double m_trackDisabledOpacity = 0.15;
+    QColor m_textColor;
+    double m_disabledTextOpacity = 0.4;
+    Style::Animation m_thumbBrushAnimation{QEasingCurve::Linear, 150};
+    Style::Animation m_trackBrushAnimation{QEasingCurve::Linear, 150};
+    Style::Animation m_thumbPosAnimation{QEasingCurve::InOutQuad, 150};
+    QPixmap m_shadowPixmap;
+    QPointer<Animator> m_thumbBrushAnimator;
+    QPointer<Animator> m_trackBrushAnimator;
+    QPointer<Animator> m_thumbPosAnimator;
+};

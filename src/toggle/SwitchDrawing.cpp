@@ -1,0 +1,106 @@
+#include "SwitchDrawing.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QtWidgets/qtwidgetsglobal.h>
+
+// Qt exports its blur for its own graphics effects, but declares it in no header.
+QT_BEGIN_NAMESPACE
+extern Q_WIDGETS_EXPORT void qt_blurImage(QPainter* painter, QImage& image, qreal radius,
+                                          bool quality, bool alphaOnly, int transposed = 0);
+QT_END_NAMESPACE
+
+namespace SwitchDrawing {
+
+namespace {
+
+constexpr double trackRadius = 8.0;
+constexpr double thumbDiameter = 23.0;
+
+constexpr int shadowSize = 29; // the disc and 2 pixels around it for the blur
+constexpr double shadowDiameter = 25.0;
+constexpr double shadowBlurRadius = 8.0;
+constexpr int shadowAlpha = 70;
+constexpr double shadowDrop = 1.0; // the light comes from above
+
+QRectF disc(const QPointF& centre, double diameter)
+{
+    return {centre.x() - diameter / 2.0, centre.y() - diameter / 2.0, diameter, diameter};
+}
+
+QPixmap sharpShadow()
+{
+    QPixmap shadow(shadowSize, shadowSize);
+    shadow.fill(Qt::transparent);
+    QPainter painter(&shadow);
+    painter.setPen(Qt::NoPen);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(0, 0, 0, shadowAlpha));
+    painter.drawEllipse(disc(QPointF(shadowSize, shadowSize) / 2.0, shadowDiameter));
+    return shadow;
+}
+
+QImage transparentImage(const QPixmap& like)
+{
+    QImage image(like.size(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(like.devicePixelRatio());
+    image.fill(0);
+    return image;
+}
+
+QPixmap blurred(const QPixmap& pixmap)
+{
+    QImage source = transparentImage(pixmap);
+    QPainter copy(&source);
+    copy.setCompositionMode(QPainter::CompositionMode_Source);
+    copy.drawPixmap(0, 0, pixmap);
+    copy.end();
+
+    QImage result = transparentImage(pixmap);
+    QPainter blur(&result);
+    qt_blurImage(&blur, source, shadowBlurRadius, true, false);
+    blur.end();
+    return QPixmap::fromImage(result);
+}
+
+} // namespace
+
+QColor withOpacity(const QColor& color, double opacity)
+{
+    const double alpha = opacity * 255.0;
+    // Rounding is only defined for what an int can hold; the colour itself refuses -1 and 256.
+    const bool roundable = alpha > -2.0 && alpha < 257.0;
+    return {color.red(), color.green(), color.blue(), roundable ? qRound(alpha) : -1};
+}
+
+QPixmap thumbShadow()
+{
+    return blurred(sharpShadow());
+}
+
+QPointF thumbCentre(const QRectF& track, double shift)
+{
+    return track.adjusted(shift, 0.0, 0.0, 0.0).center();
+}
+
+void drawTrack(QPainter* painter, const QRectF& track, const QColor& color)
+{
+    painter->setBrush(color);
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    painter->drawRoundedRect(track, trackRadius, trackRadius);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+}
+
+void drawThumb(QPainter* painter, const QPointF& centre, const QColor& color, const QPixmap& shadow)
+{
+    if (!shadow.isNull()) {
+        const QPointF offset(shadowSize / 2.0, shadowSize / 2.0 - shadowDrop);
+        painter->drawPixmap(centre - offset, shadow);
+    }
+    painter->setBrush(color);
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    painter->drawEllipse(disc(centre, thumbDiameter));
+    painter->setRenderHint(QPainter::Antialiasing, false);
+}
+
+} // namespace SwitchDrawing
