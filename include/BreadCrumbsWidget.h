@@ -1,0 +1,80 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QDir>
+#include <QStringList>
+#include <QWidget>
+
+#include <memory>
+
+QT_BEGIN_NAMESPACE
+class QHBoxLayout;
+class QPushButton;
+QT_END_NAMESPACE
+
+/**
+ * A path bar: the components of a directory's path below a root directory, each of them tappable.
+ *
+ * At most three components ("crumbs") are shown, the last ones, each after a "/". The others are
+ * in the menu of a "..." button in front of them. The bar only reports what is picked: call
+ * changeDir() to follow. Qt has no such widget; QFileDialog's list of recent and parent directories
+ * comes nearest.
+ *
+ * \code
+ * auto* bar = new BreadCrumbsWidget(this);
+ * bar->setRootPath("/data");
+ * bar->changeDir("/data/music/live");
+ * connect(bar, &BreadCrumbsWidget::dirChanged, bar, &BreadCrumbsWidget::changeDir);
+ * \endcode
+ *
+ * The crumbs are ClickableLabel objects with the object name "breadcrumb", for style sheets, and
+ * the dynamic property "directory", the path that a crumb stands for. The root has no crumb.
+ * The file system is not consulted: paths need not exist.
+ */
+class PLATFORM_WIDGETS_EXPORT BreadCrumbsWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// An empty bar below "/"; \a parent owns it. The first crumbs come with the first path set.
+    explicit BreadCrumbsWidget(QWidget* parent = nullptr);
+    ~BreadCrumbsWidget() override;
+
+    /// Makes \a path both the root and the current directory, so that no crumb is shown.
+    void setRootPath(QString path);
+
+    /**
+     * Shows the components of \a path below the root; none if it lies outside the root.
+     *
+     * The path relative to the root is cut to as many characters, from its end, as stand before its
+     * first "."; names without a dot are shown in full.
+     */
+    void changeDir(QString path);
+
+    /// Rebuilds the row. The crumbs shown until then are deleted at once.
+    void refresh();
+
+Q_SIGNALS:
+    /**
+     * Emitted when a crumb is pressed or an entry of the "..." menu is chosen. The bar itself does
+     * not change. In a slot the bar may be deleted if a crumb was pressed; a menu is still open
+     * otherwise, so use deleteLater() where both can happen.
+     *
+     * \param path the directory picked: the root's path, a slash and the components up to it. Below
+     * the root "/" it begins with two slashes.
+     */
+    void dirChanged(QString path);
+
+private:
+    void addCrumb(const QString& crumb, const QString& path);
+    void showHiddenCrumbs();
+
+    QDir m_rootDir;
+    QDir m_currentDir;
+    int m_maxVisibleCrumbs;
+    QStringList m_crumbs;
+    // Members go in reverse order: the layout first, then the button.
+    std::unique_ptr<QPushButton> m_moreButton;
+    std::unique_ptr<QHBoxLayout> m_layout;
+};

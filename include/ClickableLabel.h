@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QLabel>
+
+/**
+ * A label that can be tapped, and that elides a text too long for it in the middle.
+ *
+ * It is the crumb of BreadCrumbsWidget. Unlike a flat QPushButton it reports the press, not the
+ * release, and takes no part in keyboard activation; unlike a QLabel it paints its text() plainly,
+ * whatever the text format, without frame, margin and alignment.
+ *
+ * \code
+ * auto* label = new ClickableLabel(this);
+ * label->setText("A rather long name of a directory");
+ * label->setMaximumWidth(150);
+ * connect(label, &ClickableLabel::clicked, this, &Page::open);
+ * \endcode
+ *
+ * The text is painted with the palette's foreground role, as in a QLabel.
+ */
+class PLATFORM_WIDGETS_EXPORT ClickableLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// An empty label; \a parent owns it.
+    explicit ClickableLabel(QWidget* parent = nullptr);
+    ~ClickableLabel() override;
+
+Q_SIGNALS:
+    /// Emitted when a mouse button is pressed on the label. The label may be deleted in a slot.
+    void clicked();
+
+protected:
+    /// Emits clicked(); the label's own press handling, such as selecting text, does not take place.
+    void mousePressEvent(QMouseEvent* event) override;
+
+    /**
+     * Paints the text from the left edge. Its baseline lies at y() + height() minus half of the
+     * font's height: the position of the label in its parent counts as well.
+     */
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+class BreadCrumbsWidget;
+QT_BEGIN_NAMESPACE
+class QComboBox;
+class QHBoxLayout;
+class QListView;
+class QTreeView;
+class QVBoxLayout;
+QT_END_NAMESPACE
+
+namespace ui {
+
+class FileSystemModel;
+
+/**
+ * A file picker for touch screens, to be embedded in an application's own screens.
+ *
+ * It shows one directory at a time, either in a tile view or in a list view with size and date.
+ * Above them stand a combo box of the directories that the user may start from, a path bar
+ * (BreadCrumbsWidget) that leads back up, and the two buttons that switch the views. A directory is
+ * opened by selecting it in the tile view. QFileDialog comes nearest in Qt; unlike it this is no
+ * dialog, has no buttons to accept or reject, and offers only the allowed directories.
+ *
+ * \code
+ * auto* browser = new ui::FileBrowserWidget(this);
+ * browser->setFilters({"*.txt", "*.csv"});
+ * browser->setAllowedDirs({"/data", "/media/usb"});
+ * connect(browser, &ui::FileBrowserWidget::selectionChanged, this,
+ *         [=] { openButton->setEnabled(!browser->selectedFiles().isEmpty()); });
+ * \endcode
+ *
+ * For style sheets the browser has the object name "FileBrowser", its view buttons "toolbarButton"
+ * and its crumbs "breadcrumb". The combo box and the views use the device's file browser font. All
+ * painting is done by Qt's own widgets and by the path bar, with their usual palette roles.
+ */
+class PLATFORM_WIDGETS_EXPORT FileBrowserWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// How many files the user may select. The type is open to any int, see setSelectionMode().
+    enum SelectionMode : int {
+        NoSelection = 0, ///< None; directories cannot be opened from the views either.
+        SingleSelection = 1, ///< One; the default.
+        MultiSelection = 2 ///< Any number: a tap selects one, Ctrl and Shift extend the selection.
+    };
+
+    /// A browser without allowed directories, showing the tile view; \a parent owns it.
+    explicit FileBrowserWidget(QWidget* parent = nullptr);
+    ~FileBrowserWidget() override;
+
+    /**
+     * Builds the upper half of the browser: combo box, path bar and view buttons. The constructor
+     * calls it once; it is of no use afterwards. The caller owns the layout.
+     */
+    QHBoxLayout* createNavBar();
+
+    /// Builds the lower half: the two views, one of them hidden. Otherwise as createNavBar().
+    QVBoxLayout* createFileView();
+
+    /**
+     * Offers \a dirs in the combo box, in this order and with these texts, and shows the first.
+     * Directories that do not exist at this moment are left out. With nothing left the browser and
+     * the path bar are given an empty path, but only if there were directories to choose from before.
+     *
+     * The user is confined to these directories by what is offered; setRootPath() is not.
+     */
+    void setAllowedDirs(QStringList const& dirs);
+
+    /**
+     * Shows only the files that match one of the wildcard patterns \a filters, such as "*.txt", and
+     * all directories. All files if the list is empty, the default.
+     */
+    void setFilters(QStringList const& filters);
+
+    /// The directory that is shown, as the model has normalised it.
+    QString currentPath() const;
+
+    /// Sets the selection mode of both views. A value out of range leaves them as they are.
+    void setSelectionMode(ui::FileBrowserWidget::SelectionMode mode);
+
+    /// The selection mode of the tile view; NoSelection for any that has no name here.
+    ui::FileBrowserWidget::SelectionMode selectionMode() const;
+
+    /**
+     * Shows the directory \a path in both views, whether it lies in an allowed directory or not.
+     * The path bar is not changed. A path that does not exist is ignored; an empty one shows the top
+     * of the file system.
+     */
+    void setRootPath(QString path);
+
+    /**
+     * The paths of what is selected in the view that is visible, in the order of its selection
+     * model. In the tile view an opened directory stays selected until something else is; in the
+     * list view directories can be selected like files. While the browser itself is not visible,
+     * this is the selection of the list view.
+     */
+    QStringList selectedFiles() const;
+
+Q_SIGNALS:
+    /**
+     * Emitted when the selection of either view has changed, after a directory selected in the tile
+     * view has been opened or, among several rows, deselected. Each such deselection adds one
+     * emission. By the first of them they have all been made, unless directories alone had been
+     * selected: the last of these is opened first.
+     *
+     * The browser may be deleted in a slot if the selection was changed by the program. The views'
+     * own event handling is still under way if the user changed it: use deleteLater() then.
+     */
+    void selectionChanged();
+
+private:
+    void changeRoot(int index);
+    void openDirectory(const QString& path);
+
+    QPointer<FileSystemModel> m_model; // owned; a program may delete it before
+    QPointer<BreadCrumbsWidget> m_breadCrumbs; // a program may delete it in dirChanged()
+    QComboBox* m_rootCombo;
+    QListView* m_tileView;
+    QTreeView* m_listView;
+    int m_selectionMode;
+};
+
+} // namespace ui

@@ -1,0 +1,26 @@
+#include "ClickableLabel.h"
+
+#include <QPainter>
+
+ClickableLabel::ClickableLabel(QWidget* parent)
+    : QLabel(parent)
+{
+}
+
+ClickableLabel::~ClickableLabel() = default;
+
+void ClickableLabel::mousePressEvent(QMouseEvent*)
+{
+    Q_EMIT clicked(); // may delete this label
+}
+
+void ClickableLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QString shown = metrics.elidedText(text(), Qt::ElideMiddle, width());
+    const int baseline = y() + height() - metrics.height() / 2;
+    painter.drawText(QPointF(0, baseline), shown);
+}

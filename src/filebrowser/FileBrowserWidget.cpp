@@ -1,0 +1,239 @@
+#include "ui/FileBrowserWidget.h"
+
+#include "BreadCrumbsWidget.h"
+#include "SelectionHandler.h"
+#include "SelectionSnapshot.h"
+#include "ui/FileSystemModel.h"
+
+#include <platform/ui/style/StyleManager.h>
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QListView>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using platform::ui::style::Fonts;
+using platform::ui::style::StyleManager;
+
+namespace ui {
+
+namespace {
+
+constexpr int maxSectionSize = 350; // pixels; leaves room for the date beside a long name
+
+void useFileBrowserFont(QWidget* widget)
+{
+    widget->setFont(StyleManager::getInstance()->getStyleFont(Fonts::FileBrowser));
+}
+
+QPushButton* newToolbarButton(const QString& icon, QWidget* parent)
+{
+    auto* button = new QPushButton(QIcon(icon), QString(), parent);
+    button->setObjectName(QStringLiteral("toolbarButton"));
+    return button;
+}
+
+void setUpHeader(QHeaderView* header)
+{
+    header->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    header->setSectionHidden(2, true);
+    header->setSectionResizeMode(3, QHeaderView::Stretch);
+    header->setMaximumSectionSize(maxSectionSize);
+}
+
+} // namespace
+
+FileBrowserWidget::FileBrowserWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_model(new FileSystemModel)
+    , m_rootCombo(new QComboBox(this))
+    , m_tileView(new QListView(this))
+    , m_listView(new QTreeView(this))
+    , m_selectionMode(SingleSelection)
+{
+    setObjectName(QStringLiteral("FileBrowser"));
+    m_model->setFilter(QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot);
+    m_model->setRootPath(QStringLiteral("~")); // a name like any other, not the home directory
+    useFileBrowserFont(m_rootCombo);
+    useFileBrowserFont(m_tileView);
+    useFileBrowserFont(m_listView);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(createNavBar());
+    layout->addLayout(createFileView());
+}
+
+FileBrowserWidget::~FileBrowserWidget()
+{
+    delete m_model;
+}
+
+QHBoxLayout* FileBrowserWidget::createNavBar()
+{
+    auto* layout = new QHBoxLayout;
+    layout->setAlignment(Qt::AlignTop);
+
+    m_rootCombo->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
+    layout->addWidget(m_rootCombo);
+    connect(m_rootCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &FileBrowserWidget::changeRoot);
+
+    m_breadCrumbs = new BreadCrumbsWidget(this);
+    connect(m_breadCrumbs, &BreadCrumbsWidget::dirChanged, this, &FileBrowserWidget::openDirectory);
+    layout->addWidget(m_breadCrumbs, 1);
+    layout->addStretch(0);
+
+    auto* tileButton = newToolbarButton(QStringLiteral(":/icons/tile_view.svg"), this);
+    connect(tileButton, &QPushButton::clicked, this, [this] {
+        m_tileView->show();
+        m_listView->hide();
+    });
+    layout->addWidget(tileButton);
+
+    auto* listButton = newToolbarButton(QStringLiteral(":/icons/list_view.svg"), this);
+    connect(listButton, &QPushButton::clicked, this, [this] {
+        m_tileView->hide();
+        m_listView->show();
+    });
+    layout->addWidget(listButton);
+    return layout;
+}
+
+QVBoxLayout* FileBrowserWidget::createFileView()
+{
+    auto* layout = new QVBoxLayout;
+    const auto handler = std::make_shared<SelectionHandler>(
+        this, m_model, m_tileView, [this](const QString& path) { openDirectory(path); });
+
+    m_tileView->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_tileView->setWrapping(true);
+    m_tileView->setResizeMode(QListView::Adjust);
+    m_tileView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_tileView->setDragDropMode(QAbstractItemView::NoDragDrop);
+    m_tileView->setModel(m_model);
+    m_tileView->setRootIndex(m_model->index(m_model->rootPath()));
+    connect(m_tileView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [handler] { handler->run(); });
+    layout->addWidget(m_tileView);
+
+    m_listView->setModel(m_model);
+    m_listView->setRootIndex(m_model->index(m_model->rootPath()));
+    m_listView->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_listView->setRootIsDecorated(false);
+    m_listView->setItemsExpandable(false);
+    m_listView->setSortingEnabled(true);
+    m_listView->header()->setSortIndicator(0, Qt::AscendingOrder);
+    m_listView->setTextElideMode(Qt::ElideMiddle);
+    m_listView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_listView->setDragDropMode(QAbstractItemView::NoDragDrop);
+    m_listView->setUniformRowHeights(true);
+    setUpHeader(m_listView->header());
+    // The same handler: it reads the tile view, whichever view reports a change.
+    connect(m_listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [handler] { handler->run(); });
+    layout->addWidget(m_listView);
+    m_listView->hide();
+    return layout;
+}
+
+void FileBrowserWidget::setAllowedDirs(QStringList const& dirs)
+{
+    m_rootCombo->clear();
+    for (const QString& dir : dirs) {
+        if (QDir(dir).exists())
+            m_rootCombo->addItem(style()->standardIcon(QStyle::SP_DriveNetIcon), dir);
+    }
+}
+
+void FileBrowserWidget::setFilters(QStringList const& filters)
+{
+    if (!m_model)
+        return;
+    m_model->setNameFilters(filters);
+    m_model->setNameFilterDisables(false);
+}
+
+QString FileBrowserWidget::currentPath() const
+{
+    return m_model ? m_model->rootPath() : QString();
+}
+
+void FileBrowserWidget::setSelectionMode(ui::FileBrowserWidget::SelectionMode mode)
+{
+    m_selectionMode = mode;
+    const auto setViewMode = [this](QAbstractItemView::SelectionMode viewMode) {
+        m_tileView->setSelectionMode(viewMode);
+        m_listView->setSelectionMode(viewMode);
+    };
+    switch (mode) {
+    case NoSelection:
+        setViewMode(QAbstractItemView::NoSelection);
+        break;
+    case SingleSelection:
+        setViewMode(QAbstractItemView::SingleSelection);
+        break;
+    case MultiSelection:
+        setViewMode(QAbstractItemView::ExtendedSelection);
+        break;
+    }
+}
+
+ui::FileBrowserWidget::SelectionMode FileBrowserWidget::selectionMode() const
+{
+    switch (m_tileView->selectionMode()) {
+    case QAbstractItemView::SingleSelection:
+        return SingleSelection;
+    case QAbstractItemView::ExtendedSelection:
+        return MultiSelection;
+    default:
+        return NoSelection;
+    }
+}
+
+void FileBrowserWidget::setRootPath(QString path)
+{
+    if (!m_model)
+        return;
+    m_model->setRootPath(path);
+    m_tileView->setRootIndex(m_model->index(m_model->rootPath()));
+    m_listView->setRootIndex(m_model->index(m_model->rootPath()));
+}
+
+QStringList FileBrowserWidget::selectedFiles() const
+{
+    const QAbstractItemView* view = m_listView;
+    if (m_tileView->isVisible())
+        view = m_tileView;
+
+    QStringList files;
+    for (const QModelIndex& row : SelectionSnapshot(view->selectionModel()).rows())
+        files.append(m_model->filePath(row));
+    return files;
+}
+
+/// Shows the allowed directory at \a index of the combo box, in the path bar too.
+void FileBrowserWidget::changeRoot(int index)
+{
+    const QString path = m_rootCombo->itemText(index);
+    setRootPath(path);
+    if (!m_breadCrumbs)
+        return;
+    m_breadCrumbs->setRootPath(path);
+    m_breadCrumbs->changeDir(path);
+}
+
+/// Shows the directory \a path, in the path bar too.
+void FileBrowserWidget::openDirectory(const QString& path)
+{
+    setRootPath(path);
+    if (m_breadCrumbs)
+        m_breadCrumbs->changeDir(path);
+}
+
+} // namespace ui

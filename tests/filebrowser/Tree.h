@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+namespace test {
+
+/// A temporary directory to fill, removed with all that it holds at the end.
+class Tree
+{
+public:
+    Tree();
+
+    /// The path of the tree, or of \a relative in it.
+    QString path(const QString& relative = QString()) const;
+
+    /// Makes a directory and those above it.
+    void makeDir(const QString& relative) const;
+    void makeFile(const QString& relative, const QByteArray& content = QByteArray()) const;
+    /// A symbolic link with any text as its target.
+    void makeLink(const QString& target, const QString& relative) const;
+    /// A file whose name, in the tree's top directory, is any sequence of bytes.
+    void makeFileNamed(const QByteArray& name) const;
+    void makeDirNamed(const QByteArray& name) const;
+
+    /// \a count names that sort in their order: "d000", "d001"…
+    static QStringList names(const QString& prefix, int count);
+
+private:
+    QTemporaryDir m_dir;
+};
+
+} // namespace test
