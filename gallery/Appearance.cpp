@@ -5,8 +5,14 @@
 
 void Appearance::applyToApplication() const
 {
-    QApplication::setPalette(dark ? darkPalette() : lightPalette());
     QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+
+    const QPalette palette = dark ? darkPalette() : lightPalette();
+    if (QApplication::palette() != palette) {
+        // Widgets under a style sheet would keep the palette that they have.
+        qApp->setStyleSheet(QString());
+        QApplication::setPalette(palette);
+    }
     // Setting a style sheet polishes every widget anew, even if it is the same one.
     if (qApp->styleSheet() != styleSheet)
         qApp->setStyleSheet(styleSheet);

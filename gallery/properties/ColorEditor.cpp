@@ -1,10 +1,10 @@
 #include "ColorEditor.h"
 
+#include "PartsForm.h"
 #include "Touch.h"
 
 #include <QBoxLayout>
 #include <QColor>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -59,23 +59,20 @@ QString ColorEditor::summary(const QVariant& value) const
 
 QWidget* ColorEditor::makeBody()
 {
-    auto* body = new QWidget;
-    auto* form = new QFormLayout(body);
-    form->setContentsMargins(0, 0, 0, 0);
+    auto* form = new PartsForm;
     m_name = new QLineEdit;
     m_name->setMinimumHeight(touch::fingerSize);
     connect(m_name, &QLineEdit::textEdited, this, &ColorEditor::enterName);
-    form->addRow(m_name);
+    form->addPart(m_name);
 
     const std::array<QString, 4> names = {tr("Red"), tr("Green"), tr("Blue"), tr("Alpha")};
     for (size_t i = 0; i < m_channels.size(); ++i) {
         m_channels[i] = touch::makeSlider();
         m_channels[i]->setRange(0, channelMaximum);
         connect(m_channels[i], &QSlider::valueChanged, this, &ColorEditor::enterChannels);
-        form->addRow(names[i], m_channels[i]);
-        form->labelForField(m_channels[i])->setMinimumHeight(touch::fingerSize);
+        form->addPart(names[i], m_channels[i]);
     }
-    return body;
+    return form;
 }
 
 void ColorEditor::fillBody(const QVariant& value)

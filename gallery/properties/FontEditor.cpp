@@ -2,11 +2,11 @@
 
 #include "BoolEditor.h"
 #include "IntEditor.h"
+#include "PartsForm.h"
 #include "Touch.h"
 
 #include <QFont>
 #include <QFontComboBox>
-#include <QFormLayout>
 
 namespace {
 
@@ -45,9 +45,7 @@ QString FontEditor::summary(const QVariant& value) const
 
 QWidget* FontEditor::makeBody()
 {
-    auto* body = new QWidget;
-    auto* form = new QFormLayout(body);
-    form->setContentsMargins(0, 0, 0, 0);
+    auto* form = new PartsForm;
 
     m_family = new QFontComboBox;
     m_family->setEditable(false);
@@ -57,7 +55,7 @@ QWidget* FontEditor::makeBody()
         changed.setFamily(chosen.family());
         Q_EMIT edited(changed);
     });
-    form->addRow(m_family);
+    form->addPart(m_family);
 
     m_size = new IntEditor;
     connect(m_size, &IntEditor::edited, this, [this](const QVariant& size) {
@@ -65,12 +63,12 @@ QWidget* FontEditor::makeBody()
         setSize(changed, size.toInt());
         Q_EMIT edited(changed);
     });
-    form->addRow(m_size);
+    form->addPart(m_size);
 
     m_bold = addSwitch(form, tr("Bold"), &QFont::setBold);
     m_italic = addSwitch(form, tr("Italic"), &QFont::setItalic);
     m_underline = addSwitch(form, tr("Underline"), &QFont::setUnderline);
-    return body;
+    return form;
 }
 
 void FontEditor::fillBody(const QVariant& value)
@@ -89,7 +87,7 @@ QFont FontEditor::shownFont() const
     return value().value<QFont>();
 }
 
-BoolEditor* FontEditor::addSwitch(QFormLayout* form, const QString& label, void (QFont::*set)(bool))
+BoolEditor* FontEditor::addSwitch(PartsForm* form, const QString& label, void (QFont::*set)(bool))
 {
     auto* editor = new BoolEditor;
     connect(editor, &BoolEditor::edited, this, [this, set](const QVariant& on) {
@@ -97,6 +95,6 @@ BoolEditor* FontEditor::addSwitch(QFormLayout* form, const QString& label, void 
         (changed.*set)(on.toBool());
         Q_EMIT edited(changed);
     });
-    form->addRow(label, editor);
+    form->addPart(label, editor);
     return editor;
 }

@@ -4,10 +4,10 @@
 
 class BoolEditor;
 class IntEditor;
+class PartsForm;
 QT_BEGIN_NAMESPACE
 class QFont;
 class QFontComboBox;
-class QFormLayout;
 QT_END_NAMESPACE
 
 /// Edits a font's family, size (in the unit that the font was given in), weight and slope.
@@ -25,7 +25,7 @@ protected:
 
 private:
     QFont shownFont() const;
-    BoolEditor* addSwitch(QFormLayout* form, const QString& label, void (QFont::*set)(bool));
+    BoolEditor* addSwitch(PartsForm* form, const QString& label, void (QFont::*set)(bool));
 
     QFontComboBox* m_family;
     IntEditor* m_size;

@@ -1,9 +1,9 @@
 #include "TupleEditor.h"
 
 #include "IntEditor.h"
+#include "PartsForm.h"
 #include "ValueText.h"
 
-#include <QFormLayout>
 #include <QRect>
 
 namespace {
@@ -56,18 +56,16 @@ QString TupleEditor::summary(const QVariant& value) const
 
 QWidget* TupleEditor::makeBody()
 {
-    auto* body = new QWidget;
-    auto* form = new QFormLayout(body);
-    form->setContentsMargins(0, 0, 0, 0);
+    auto* form = new PartsForm;
     const QVector<Number> numbers = numbersOf(value());
     for (int index = 0; index < numbers.size(); ++index) {
         auto* editor = new IntEditor;
         connect(editor, &IntEditor::edited, this,
                 [this, index](const QVariant& number) { enterNumber(index, number.toInt()); });
-        form->addRow(numbers.at(index).name, editor);
+        form->addPart(numbers.at(index).name, editor);
         m_editors.append(editor);
     }
-    return body;
+    return form;
 }
 
 void TupleEditor::fillBody(const QVariant& value)
