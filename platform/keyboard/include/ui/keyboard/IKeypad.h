@@ -20,7 +20,7 @@ class PLATFORM_KEYBOARD_EXPORT IKeypad : public QWidget
     Q_OBJECT
 
 public:
-    /// Makes a keypad with the layout \a type, owned by \a parent.
+    /// Makes a keypad with the layout \a type, owned by \a parent; null if there is no such layout.
     static IKeypad* create(KeyboardType type, QWidget* parent);
 
     ~IKeypad() override;
@@ -28,6 +28,10 @@ public:
     /**
      * Shows or hides one \a section of the keypad, which changes its size hint.
      * A number that names no section of the layout is ignored.
+     *
+     * The sections of the text layout are 0: letters, 1: digits, 2: symbols; at first only the letters
+     * are shown, and a key of the keypad exchanges them for the other two. The number layouts have one
+     * section, 0: digits, sign and separator.
      */
     virtual void setSectionVisible(int section, bool visible) = 0;
 
