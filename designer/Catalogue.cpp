@@ -1,0 +1,187 @@
+#include "Catalogue.h"
+
+#include <BreadCrumbsWidget.h>
+#include <ClickableLabel.h>
+#include <designer/KeypadField.h>
+#include <Switch.h>
+#include <ui/CBatteryStatusWidget.h>
+#include <ui/CGridArrangedButton.h>
+#include <ui/CRoundedFrame.h>
+#include <ui/FileBrowserWidget.h>
+#include <ui/LineEdit.h>
+#include <ui/ScrollIndicatorBar.h>
+
+#include <QCoreApplication>
+
+namespace {
+
+template <typename Widget>
+QWidget* make(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+/// A bar that shows a path, so that the form gives an idea of it.
+QWidget* makeBreadCrumbs(QWidget* parent)
+{
+    auto* bar = new BreadCrumbsWidget(parent);
+    bar->setRootPath(QStringLiteral("/"));
+    bar->changeDir(QStringLiteral("/home/user"));
+    return bar;
+}
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Designer", text);
+}
+
+QString stringProperty(const char* name, const QString& value)
+{
+    return QStringLiteral("<property name=\"%1\"><string>%2</string></property>")
+        .arg(QLatin1String(name), value);
+}
+
+QString verticalOrientation()
+{
+    return QStringLiteral("<property name=\"orientation\"><enum>Qt::Vertical</enum></property>");
+}
+
+QString icon(const char* stem)
+{
+    return QStringLiteral(":/platform_widgets_designer/%1.svg").arg(QLatin1String(stem));
+}
+
+QVector<WidgetDescription> containers()
+{
+    const QString group = tr("Platform Containers");
+    return {
+        {QStringLiteral("ui::CRoundedFrame"),
+         QStringLiteral("QWidget"),
+         QStringLiteral("ui/CRoundedFrame.h"),
+         group,
+         tr("Container with a rounded outline"),
+         icon("rounded-frame"),
+         {200, 140},
+         {},
+         true,
+         make<ui::CRoundedFrame>},
+        {QStringLiteral("ui::CGridArrangedButton"),
+         QStringLiteral("QPushButton"),
+         QStringLiteral("ui/CGridArrangedButton.h"),
+         group,
+         tr("Push button that carries a grid of widgets"),
+         icon("grid-button"),
+         {160, 80},
+         {},
+         true,
+         make<ui::CGridArrangedButton>},
+    };
+}
+
+QVector<WidgetDescription> indicators()
+{
+    const QString group = tr("Platform Indicators");
+    return {
+        {QStringLiteral("ui::CBatteryStatusWidget"),
+         QStringLiteral("QWidget"),
+         QStringLiteral("ui/CBatteryStatusWidget.h"),
+         group,
+         tr("Battery symbol"),
+         icon("battery"),
+         {60, 100},
+         {},
+         false,
+         make<ui::CBatteryStatusWidget>},
+        {QStringLiteral("ui::widgets::ScrollIndicatorBar"),
+         QStringLiteral("QScrollBar"),
+         QStringLiteral("ui/ScrollIndicatorBar.h"),
+         group,
+         tr("Thin scroll bar"),
+         icon("scroll-indicator"),
+         {5, 160},
+         verticalOrientation(),
+         false,
+         make<ui::widgets::ScrollIndicatorBar>},
+    };
+}
+
+QVector<WidgetDescription> inputs()
+{
+    const QString group = tr("Platform Input");
+    return {
+        {QStringLiteral("ui::LineEdit"),
+         QStringLiteral("QLineEdit"),
+         QStringLiteral("ui/LineEdit.h"),
+         group,
+         tr("Line edit that commits on OK and reverts on Cancel"),
+         icon("line-edit"),
+         {160, 40},
+         {},
+         false,
+         make<ui::LineEdit>},
+        {QStringLiteral("KeypadField"),
+         QStringLiteral("QLineEdit"),
+         QStringLiteral("designer/KeypadField.h"),
+         group,
+         tr("Line edit with an on-screen keypad"),
+         icon("keypad-line-edit"),
+         {160, 40},
+         {},
+         false,
+         make<KeypadField>},
+        {QStringLiteral("Switch"),
+         QStringLiteral("QAbstractButton"),
+         QStringLiteral("Switch.h"),
+         group,
+         tr("Animated on/off switch with a label"),
+         icon("switch"),
+         {160, 40},
+         stringProperty("text", tr("Switch")),
+         false,
+         make<Switch>},
+    };
+}
+
+QVector<WidgetDescription> fileBrowsing()
+{
+    const QString group = tr("Platform File Browsing");
+    return {
+        {QStringLiteral("ui::FileBrowserWidget"),
+         QStringLiteral("QWidget"),
+         QStringLiteral("ui/FileBrowserWidget.h"),
+         group,
+         tr("File picker below allowed directories"),
+         icon("file-browser"),
+         {400, 280},
+         {},
+         false,
+         make<ui::FileBrowserWidget>},
+        {QStringLiteral("BreadCrumbsWidget"),
+         QStringLiteral("QWidget"),
+         QStringLiteral("BreadCrumbsWidget.h"),
+         group,
+         tr("Path of clickable components"),
+         icon("bread-crumbs"),
+         {240, 40},
+         {},
+         false,
+         makeBreadCrumbs},
+        {QStringLiteral("ClickableLabel"),
+         QStringLiteral("QLabel"),
+         QStringLiteral("ClickableLabel.h"),
+         group,
+         tr("Label that reports a press"),
+         icon("clickable-label"),
+         {120, 32},
+         stringProperty("text", tr("Label")),
+         false,
+         make<ClickableLabel>},
+    };
+}
+
+} // namespace
+
+QVector<WidgetDescription> widgetCatalogue()
+{
+    return containers() + indicators() + inputs() + fileBrowsing();
+}

@@ -1,0 +1,82 @@
+#include "WidgetPlugin.h"
+
+#include <QIcon>
+
+namespace {
+
+/// Object name of the first instance on a form: the class name without namespace, in lower camel case.
+QString objectName(const QString& className)
+{
+    QString name = className.section(QStringLiteral("::"), -1);
+    const bool prefixed = name.startsWith(QLatin1Char('C')) && name.at(1).isUpper();
+    if (prefixed)
+        name.remove(0, 1);
+    name[0] = name.at(0).toLower();
+    return name;
+}
+
+} // namespace
+
+WidgetPlugin::WidgetPlugin(const WidgetDescription& description, QObject* parent)
+    : QObject(parent)
+    , m_description(description)
+{
+}
+
+QString WidgetPlugin::name() const
+{
+    return m_description.className;
+}
+
+QString WidgetPlugin::group() const
+{
+    return m_description.group;
+}
+
+QString WidgetPlugin::toolTip() const
+{
+    return m_description.toolTip;
+}
+
+QString WidgetPlugin::whatsThis() const
+{
+    return m_description.toolTip;
+}
+
+QString WidgetPlugin::includeFile() const
+{
+    return m_description.header;
+}
+
+QIcon WidgetPlugin::icon() const
+{
+    return QIcon(m_description.icon);
+}
+
+bool WidgetPlugin::isContainer() const
+{
+    return m_description.container;
+}
+
+QWidget* WidgetPlugin::createWidget(QWidget* parent)
+{
+    return m_description.create(parent);
+}
+
+QString WidgetPlugin::domXml() const
+{
+    const QString form =
+        QStringLiteral("<ui language=\"c++\" displayname=\"%1\">"
+                       "<widget class=\"%2\" name=\"%3\">"
+                       "<property name=\"geometry\">"
+                       "<rect><x>0</x><y>0</y><width>%4</width><height>%5</height></rect>"
+                       "</property>%6</widget>"
+                       "<customwidgets><customwidget><class>%2</class><extends>%7</extends>"
+                       "</customwidget></customwidgets></ui>");
+    const WidgetDescription& d = m_description;
+    return form
+        .arg(d.className.section(QStringLiteral("::"), -1), d.className, objectName(d.className))
+        .arg(d.size.width())
+        .arg(d.size.height())
+        .arg(d.properties, d.baseClassName);
+}
