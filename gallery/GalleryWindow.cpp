@@ -145,6 +145,7 @@ void GalleryWindow::makePage(int index)
 {
     GalleryPage* page = m_pages.at(index).create(nullptr);
     m_appearance.applyToPage(*page);
+    touch::stopScrolling(m_pageArea);
     m_pageArea->setWidget(page); // deletes the one before
     m_picker->setPage(page);
     m_properties->setExhibits(page->exhibits());

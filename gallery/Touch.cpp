@@ -133,6 +133,11 @@ void makeScrollable(QAbstractScrollArea* area)
     scroller->setScrollerProperties(properties);
 }
 
+void stopScrolling(QAbstractScrollArea* area)
+{
+    QScroller::scroller(area->viewport())->stop();
+}
+
 void makeItemsTall(QAbstractItemView* view)
 {
     view->setItemDelegate(new TallItemDelegate(view));

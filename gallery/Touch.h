@@ -21,6 +21,9 @@ constexpr int fingerSize = 44;
 /// Lets a finger, or the left mouse button, drag and flick the contents of \a area.
 void makeScrollable(QAbstractScrollArea* area);
 
+/// Ends the movement that a flick has left, before \a area gets other contents.
+void stopScrolling(QAbstractScrollArea* area);
+
 /// Gives the items of \a view finger size.
 void makeItemsTall(QAbstractItemView* view);
 

@@ -120,6 +120,7 @@ void PropertyEditor::makeGroups()
 
 void PropertyEditor::replaceContents(QWidget* contents)
 {
+    touch::stopScrolling(m_area);
     // The old contents may be what is just reporting an edit.
     if (QWidget* old = m_area->takeWidget()) {
         old->hide();

@@ -42,10 +42,8 @@ QString debugText(const QVariant& value)
     QDebug(&printed).nospace() << value;
     const QString prefix =
         QStringLiteral("QVariant(%1, ").arg(QString::fromLatin1(value.typeName()));
-    if (!printed.startsWith(prefix))
-        return QString::fromLatin1(value.typeName());
-    const QString content = printed.mid(prefix.size()).trimmed();
-    return content.left(content.size() - 1);
+    const QString content = printed.mid(prefix.size()).trimmed().chopped(1);
+    return content.isEmpty() ? QString::fromLatin1(value.typeName()) : content;
 }
 
 QString fullText(const QVariant& value)

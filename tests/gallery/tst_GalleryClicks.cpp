@@ -1,0 +1,193 @@
+#include "Appearance.h"
+#include "GalleryPage.h"
+#include "GalleryWindow.h"
+#include "properties/PropertyEditor.h"
+#include "properties/PropertyRow.h"
+#include "Specimen.h"
+#include "TestApplication.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QProcess>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QToolButton>
+
+namespace {
+
+GalleryPage* makeSpecimens(QWidget* parent)
+{
+    return new test::SpecimenPage(parent);
+}
+
+GalleryPage* makeTall(QWidget* parent)
+{
+    auto* page = new test::EmptyPage(parent);
+    page->setMinimumHeight(2000);
+    return page;
+}
+
+} // namespace
+
+/// A visit to the gallery with the clicks and drags of a real X server.
+class tst_GalleryClicks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void dragsPage();
+    void choosesPage();
+    void switchesAppearance();
+    void picksExhibitAndEditsIt();
+    void dragsProperties();
+    void choosesFromCombo();
+
+private:
+    static bool xdotool(const QStringList& arguments);
+    static bool click(const QWidget* widget, const QPoint& position);
+    static bool click(const QWidget* widget);
+    static bool drag(const QWidget* widget, const QPoint& from, const QPoint& to);
+    PropertyRow* row(const QByteArray& name) const;
+
+    GalleryWindow* m_window = nullptr;
+    PropertyEditor* m_properties = nullptr;
+};
+
+bool tst_GalleryClicks::xdotool(const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(QStringLiteral("xdotool"), arguments);
+    QEventLoop loop; // the clicks reach this program while xdotool runs
+    connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
+            &QEventLoop::quit);
+    connect(&process, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
+    loop.exec();
+    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
+bool tst_GalleryClicks::click(const QWidget* widget, const QPoint& position)
+{
+    const QPoint global = widget->mapToGlobal(position);
+    return xdotool({QStringLiteral("mousemove"), QString::number(global.x()),
+                    QString::number(global.y()), QStringLiteral("click"), QStringLiteral("1")});
+}
+
+bool tst_GalleryClicks::click(const QWidget* widget)
+{
+    return click(widget, widget->rect().center());
+}
+
+bool tst_GalleryClicks::drag(const QWidget* widget, const QPoint& from, const QPoint& to)
+{
+    constexpr int steps = 10;
+    QStringList arguments;
+    for (int step = 0; step <= steps; ++step) {
+        const QPoint global = widget->mapToGlobal(from + (to - from) * step / steps);
+        arguments << QStringLiteral("mousemove") << QString::number(global.x())
+                  << QString::number(global.y());
+        if (step == 0)
+            arguments << QStringLiteral("mousedown") << QStringLiteral("1");
+        arguments << QStringLiteral("sleep") << QStringLiteral("0.02"); // as fast as a finger
+    }
+    return xdotool(arguments << QStringLiteral("mouseup") << QStringLiteral("1"));
+}
+
+PropertyRow* tst_GalleryClicks::row(const QByteArray& name) const
+{
+    for (PropertyRow* row : m_properties->findChildren<PropertyRow*>()) {
+        if (row->name() == name && row->isVisible())
+            return row;
+    }
+    return nullptr;
+}
+
+void tst_GalleryClicks::initTestCase()
+{
+    m_window = new GalleryWindow(
+        {{QStringLiteral("tall"), QStringLiteral("Tall"), makeTall},
+         {QStringLiteral("specimens"), QStringLiteral("Specimens"), makeSpecimens}});
+    m_properties = m_window->findChild<PropertyEditor*>();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+}
+
+void tst_GalleryClicks::cleanupTestCase()
+{
+    delete m_window;
+}
+
+void tst_GalleryClicks::dragsPage()
+{
+    const QWidget* area = m_window->page()->parentWidget();
+    const QPoint start(area->width() / 2, area->height() - 20);
+    QVERIFY(drag(area, start, start - QPoint(0, 250)));
+    QTRY_VERIFY(m_window->page()->y() < -150);
+}
+
+void tst_GalleryClicks::choosesPage()
+{
+    const auto* list = m_window->findChild<QListWidget*>(QStringLiteral("pageList"));
+    QVERIFY(click(list->viewport(), list->visualItemRect(list->item(1)).center()));
+    QTRY_VERIFY(qobject_cast<test::SpecimenPage*>(m_window->page()));
+    QTRY_VERIFY(m_properties->isVisible());
+}
+
+void tst_GalleryClicks::switchesAppearance()
+{
+    const auto* dark = m_window->findChild<QCheckBox*>(QStringLiteral("darkSwitch"));
+    QVERIFY(click(dark));
+    QTRY_COMPARE(m_window->palette().color(QPalette::Window),
+                 Appearance::darkPalette().color(QPalette::Window));
+    const auto* mirrored = m_window->findChild<QCheckBox*>(QStringLiteral("rightToLeftSwitch"));
+    QVERIFY(click(mirrored));
+    QTRY_COMPARE(m_window->layoutDirection(), Qt::RightToLeft);
+    QTRY_VERIFY(m_properties->x() < m_window->width() / 2);
+    QVERIFY(click(mirrored));
+    QTRY_VERIFY(m_properties->x() > m_window->width() / 2);
+}
+
+void tst_GalleryClicks::picksExhibitAndEditsIt()
+{
+    QWidget* second = m_window->page()->exhibits().at(1).widget;
+    QVERIFY(click(second));
+    QTRY_COMPARE(m_properties->target(), second);
+    QTRY_VERIFY(row("level"));
+    const QList<QToolButton*> buttons = row("level")->findChildren<QToolButton*>();
+    QVERIFY(click(buttons.at(1)));
+    QTRY_COMPARE(second->property("level").toInt(), 51);
+    QVERIFY(click(row("marked")->findChild<QCheckBox*>()));
+    QTRY_COMPARE(second->property("marked"), QVariant(true));
+}
+
+void tst_GalleryClicks::dragsProperties()
+{
+    const auto* area = m_properties->findChild<QScrollArea*>();
+    const QPoint start(area->width() / 2, area->height() - 20);
+    const int level = m_properties->target()->property("level").toInt();
+    QVERIFY(drag(area, start, start - QPoint(0, 250)));
+    QTRY_VERIFY(area->widget()->y() < -150);
+    QCOMPARE(m_properties->target()->property("level").toInt(), level); // no button was hit
+}
+
+void tst_GalleryClicks::choosesFromCombo()
+{
+    const auto* choice = m_properties->findChild<QComboBox*>(QStringLiteral("exhibitChoice"));
+    QVERIFY(click(choice));
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    const QAbstractItemView* items = choice->view();
+    QTRY_VERIFY(items->isVisible());
+    QVERIFY(click(items->viewport(), items->visualRect(choice->model()->index(0, 0)).center()));
+    QTRY_COMPARE(m_properties->target(), m_window->page()->exhibits().at(0).widget);
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_GalleryClicks>(argc, argv);
+}
+
+#include "tst_GalleryClicks.moc"

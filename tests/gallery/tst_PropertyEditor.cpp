@@ -1,0 +1,304 @@
+#include "properties/PropertyEditor.h"
+#include "properties/PropertyGroup.h"
+#include "properties/PropertyList.h"
+#include "properties/PropertyRow.h"
+#include "Specimen.h"
+#include "TestApplication.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QToolButton>
+
+namespace {
+
+QList<PropertyGroup*> groupsOf(const PropertyEditor& editor)
+{
+    QList<PropertyGroup*> groups;
+    for (PropertyGroup* group : editor.findChildren<PropertyGroup*>()) {
+        if (!group->isHidden() && !group->parentWidget()->isHidden())
+            groups.append(group);
+    }
+    std::sort(groups.begin(), groups.end(), [](const QWidget* a, const QWidget* b) {
+        return a->parentWidget()->layout()->indexOf(const_cast<QWidget*>(a))
+            < b->parentWidget()->layout()->indexOf(const_cast<QWidget*>(b));
+    });
+    return groups;
+}
+
+QStringList titlesOf(const PropertyEditor& editor)
+{
+    QStringList titles;
+    for (const PropertyGroup* group : groupsOf(editor))
+        titles.append(group->title());
+    return titles;
+}
+
+PropertyGroup* groupOf(const PropertyEditor& editor, const QString& title)
+{
+    for (PropertyGroup* group : groupsOf(editor)) {
+        if (group->title() == title)
+            return group;
+    }
+    return nullptr;
+}
+
+PropertyRow* rowOf(const PropertyEditor& editor, const QByteArray& name)
+{
+    for (const PropertyGroup* group : groupsOf(editor)) {
+        for (PropertyRow* row : group->findChildren<PropertyRow*>()) {
+            if (row->name() == name)
+                return row;
+        }
+    }
+    return nullptr;
+}
+
+int shownLevel(const PropertyEditor& editor)
+{
+    return rowOf(editor, "level")->findChild<QSpinBox*>()->value();
+}
+
+const QString specimenClass = QStringLiteral("test::Specimen");
+const QString dynamicTitle = QStringLiteral("Dynamic properties");
+
+} // namespace
+
+class tst_PropertyEditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void listsPropertiesByClass();
+    void listsDynamicProperties();
+    void groupsInClassOrder();
+    void leavesOutClassesWithoutProperties();
+    void unfoldsFirstGroup();
+    void rowsInOrderOfDeclaration();
+    void choosesExhibit();
+    void keepsFoldsForNextExhibit();
+    void ignoresStrangeTargets();
+    void refreshesEveryRowAfterEdit();
+    void followsChangesWhileVisible();
+    void rowsOfFoldedGroupsCatchUp();
+    void dynamicPropertiesComeAndGo();
+    void clearsWhenTargetDies();
+    void clearsWithoutExhibits();
+};
+
+void tst_PropertyEditor::listsPropertiesByClass()
+{
+    const test::Specimen specimen;
+    const QVector<ClassProperties> classes = propertiesByClass(specimen);
+    QCOMPARE(classes.size(), 3);
+    QCOMPARE(classes.at(0).className, specimenClass);
+    QCOMPARE(classes.at(1).className, QStringLiteral("QWidget"));
+    QCOMPARE(classes.at(2).className, QStringLiteral("QObject"));
+    QCOMPARE(classes.at(2).names, QVector<QByteArray>{"objectName"});
+    QVERIFY(!classes.at(0).names.contains("secret")); // cannot be read
+    QVERIFY(classes.at(0).names.contains("height"));
+    QVERIFY(!classes.at(1).names.contains("height")); // declared again by the class derived from it
+    QVERIFY(classes.at(1).names.contains("width"));
+}
+
+void tst_PropertyEditor::listsDynamicProperties()
+{
+    QObject object;
+    QVERIFY(dynamicProperties(object).isEmpty());
+    object.setProperty("inputValid", true);
+    object.setProperty("_q_private", 1);
+    QCOMPARE(dynamicProperties(object), QVector<QByteArray>{"inputValid"});
+}
+
+void tst_PropertyEditor::groupsInClassOrder()
+{
+    PropertyEditor editor;
+    QPushButton button;
+    button.setProperty("inputValid", true);
+    editor.setExhibits({{&button, QStringLiteral("button")}});
+    QCOMPARE(
+        titlesOf(editor),
+        QStringList({dynamicTitle, QStringLiteral("QPushButton"), QStringLiteral("QAbstractButton"),
+                     QStringLiteral("QWidget"), QStringLiteral("QObject")}));
+}
+
+void tst_PropertyEditor::leavesOutClassesWithoutProperties()
+{
+    PropertyEditor editor;
+    test::EmptyPage page;
+    editor.setExhibits({{&page, QStringLiteral("page")}});
+    QCOMPARE(titlesOf(editor), QStringList({QStringLiteral("QWidget"), QStringLiteral("QObject")}));
+}
+
+void tst_PropertyEditor::unfoldsFirstGroup()
+{
+    PropertyEditor editor;
+    test::Specimen specimen;
+    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    QVERIFY(groupOf(editor, specimenClass)->isUnfolded());
+    QVERIFY(!groupOf(editor, QStringLiteral("QWidget"))->isUnfolded());
+    QVERIFY(!rowOf(editor, "windowTitle")); // not even made
+    groupOf(editor, QStringLiteral("QWidget"))->setUnfolded(true);
+    QVERIFY(rowOf(editor, "windowTitle"));
+}
+
+void tst_PropertyEditor::rowsInOrderOfDeclaration()
+{
+    QWidget stage;
+    PropertyEditor editor(&stage);
+    test::Specimen specimen;
+    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    editor.resize(250, 400);
+    stage.show();
+    const QVector<QByteArray> names = propertiesByClass(specimen).at(0).names;
+    QCOMPARE(names.size(), 16);
+    int bottom = 0;
+    for (const QByteArray& name : names) {
+        const PropertyRow* row = rowOf(editor, name);
+        QVERIFY2(row, name.constData());
+        const int top = row->mapTo(&editor, QPoint()).y();
+        QVERIFY2(top >= bottom, name.constData());
+        bottom = top + row->height();
+    }
+}
+
+void tst_PropertyEditor::choosesExhibit()
+{
+    PropertyEditor editor;
+    test::SpecimenPage page;
+    editor.setExhibits(page.exhibits());
+    auto* choice = editor.findChild<QComboBox*>(QStringLiteral("exhibitChoice"));
+    QWidget* first = page.exhibits().at(0).widget;
+    QWidget* second = page.exhibits().at(1).widget;
+    QCOMPARE(choice->count(), 2);
+    QCOMPARE(choice->currentText(), QStringLiteral("first"));
+    QCOMPARE(editor.target(), first);
+
+    choice->setCurrentIndex(1);
+    QCOMPARE(editor.target(), second);
+    rowOf(editor, "level")->findChild<QSpinBox*>()->stepUp();
+    QCOMPARE(first->property("level").toInt(), 50);
+    QCOMPARE(second->property("level").toInt(), 51);
+
+    editor.setTarget(first);
+    QCOMPARE(choice->currentText(), QStringLiteral("first"));
+    QCOMPARE(shownLevel(editor), 50);
+}
+
+void tst_PropertyEditor::keepsFoldsForNextExhibit()
+{
+    PropertyEditor editor;
+    test::SpecimenPage page;
+    editor.setExhibits(page.exhibits());
+    groupOf(editor, specimenClass)->setUnfolded(false);
+    groupOf(editor, QStringLiteral("QObject"))->setUnfolded(true);
+    editor.setTarget(page.exhibits().at(1).widget);
+    QVERIFY(!groupOf(editor, specimenClass)->isUnfolded());
+    QVERIFY(!groupOf(editor, QStringLiteral("QWidget"))->isUnfolded());
+    QVERIFY(groupOf(editor, QStringLiteral("QObject"))->isUnfolded());
+}
+
+void tst_PropertyEditor::ignoresStrangeTargets()
+{
+    PropertyEditor editor;
+    test::SpecimenPage page;
+    editor.setExhibits(page.exhibits());
+    editor.setTarget(nullptr);
+    editor.setTarget(&page);
+    QCOMPARE(editor.target(), page.exhibits().at(0).widget);
+}
+
+void tst_PropertyEditor::refreshesEveryRowAfterEdit()
+{
+    PropertyEditor editor;
+    test::Specimen specimen;
+    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    specimen.setLevel(12);
+    QCOMPARE(shownLevel(editor), 50); // not visible
+    rowOf(editor, "marked")->findChild<QCheckBox*>()->click();
+    QCOMPARE(shownLevel(editor), 12);
+}
+
+void tst_PropertyEditor::followsChangesWhileVisible()
+{
+    QWidget stage;
+    PropertyEditor editor(&stage);
+    test::Specimen specimen;
+    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    stage.show();
+    specimen.setLevel(12);
+    QTRY_COMPARE(shownLevel(editor), 12);
+
+    editor.hide();
+    specimen.setLevel(13);
+    editor.show();
+    QCOMPARE(shownLevel(editor), 13);
+}
+
+void tst_PropertyEditor::rowsOfFoldedGroupsCatchUp()
+{
+    PropertyEditor editor;
+    test::Specimen specimen;
+    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    groupOf(editor, specimenClass)->setUnfolded(false);
+    specimen.setLevel(14);
+    editor.refresh();
+    QCOMPARE(shownLevel(editor), 50);
+    groupOf(editor, specimenClass)->setUnfolded(true);
+    QCOMPARE(shownLevel(editor), 14);
+}
+
+void tst_PropertyEditor::dynamicPropertiesComeAndGo()
+{
+    PropertyEditor editor;
+    test::Specimen specimen;
+    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    QVERIFY(!groupOf(editor, dynamicTitle));
+
+    specimen.setProperty("inputValid", true);
+    editor.refresh();
+    QCOMPARE(titlesOf(editor).constFirst(), dynamicTitle);
+    rowOf(editor, "inputValid")->findChild<QCheckBox*>()->click();
+    QCOMPARE(specimen.property("inputValid"), QVariant(false));
+
+    specimen.setProperty("directory", QStringLiteral("/data"));
+    editor.refresh();
+    QVERIFY(rowOf(editor, "directory"));
+    QCOMPARE(titlesOf(editor).count(dynamicTitle), 1);
+
+    specimen.setProperty("inputValid", QVariant());
+    specimen.setProperty("directory", QVariant());
+    editor.refresh();
+    QVERIFY(!groupOf(editor, dynamicTitle));
+}
+
+void tst_PropertyEditor::clearsWhenTargetDies()
+{
+    PropertyEditor editor;
+    auto* specimen = new test::Specimen;
+    editor.setExhibits({{specimen, QStringLiteral("specimen")}});
+    delete specimen;
+    editor.refresh();
+    QVERIFY(!editor.target());
+    QVERIFY(titlesOf(editor).isEmpty());
+}
+
+void tst_PropertyEditor::clearsWithoutExhibits()
+{
+    PropertyEditor editor;
+    test::SpecimenPage page;
+    editor.setExhibits(page.exhibits());
+    editor.setExhibits({});
+    QVERIFY(!editor.target());
+    QVERIFY(titlesOf(editor).isEmpty());
+    QCOMPARE(editor.findChild<QComboBox*>(QStringLiteral("exhibitChoice"))->count(), 0);
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_PropertyEditor>(argc, argv);
+}
+
+#include "tst_PropertyEditor.moc"

@@ -1,0 +1,490 @@
+#include "properties/EnumEditor.h"
+#include "properties/PropertyRow.h"
+#include "properties/ReadOnlyValue.h"
+#include "properties/ValueEditors.h"
+#include "Specimen.h"
+#include "TestApplication.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFontComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMargins>
+#include <QSlider>
+#include <QSpinBox>
+#include <QToolButton>
+
+Q_DECLARE_METATYPE(QMargins)
+
+namespace {
+
+/// The control number \a index of a kind, in the order of their making.
+template <typename Widget>
+Widget* control(const PropertyRow& row, int index = 0)
+{
+    return row.findChildren<Widget*>().value(index);
+}
+
+void unfold(const PropertyRow& row)
+{
+    control<QToolButton>(row)->click();
+}
+
+void type(QLineEdit* edit, const QString& text)
+{
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+}
+
+void type(QAbstractSpinBox* box, const QString& text)
+{
+    box->selectAll();
+    QTest::keyClicks(box, text);
+    QTest::keyClick(box, Qt::Key_Return);
+}
+
+QString summaryOf(const PropertyRow& row)
+{
+    return control<QToolButton>(row)->text();
+}
+
+} // namespace
+
+class tst_ValueEditors : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void editorOfType_data();
+    void editorOfType();
+    void everyPropertyOfWidgets();
+    void editsBool();
+    void editsInt();
+    void showsWhatBecameOfAnInt();
+    void editsDouble();
+    void showsIgnoredDouble();
+    void editsText();
+    void keepsCursorOfText();
+    void editsColorByName();
+    void editsColorByChannels();
+    void leavesUnfinishedColorNameAlone();
+    void showsNoColor();
+    void editsFont();
+    void fontSizeKeepsItsUnit();
+    void editsEnum();
+    void showsNoChoiceForUnknownEnumValue();
+    void editsFlags();
+    void editsFlagsOfAnotherClass();
+    void editsPoint();
+    void editsSize();
+    void editsRect();
+    void editsEasingCurve();
+    void showsReadOnlyValues_data();
+    void showsReadOnlyValues();
+    void shortensLongText();
+    void registeredEditor();
+    void editsDynamicProperty();
+    void survivesItsTarget();
+};
+
+void tst_ValueEditors::editorOfType_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QByteArray>("editor");
+
+    const auto row = [](const char* property, const char* editor) {
+        QTest::newRow(property) << QByteArray(property) << QByteArray(editor);
+    };
+    row("marked", "BoolEditor");
+    row("level", "IntEditor");
+    row("fraction", "DoubleEditor");
+    row("caption", "TextEditor");
+    row("color", "ColorEditor");
+    row("captionFont", "FontEditor");
+    row("mood", "EnumEditor");
+    row("sides", "FlagsEditor");
+    row("alignment", "FlagsEditor");
+    row("origin", "TupleEditor");
+    row("extent", "TupleEditor");
+    row("area", "TupleEditor");
+    row("curve", "EasingCurveEditor");
+    row("companion", "ReadOnlyValue");
+    row("answer", "ReadOnlyValue"); // an int without a setter
+    row("palette", "ReadOnlyValue"); // a type without an editor
+}
+
+void tst_ValueEditors::editorOfType()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(QByteArray, editor);
+
+    test::Specimen specimen;
+    const PropertyRow row(&specimen, property);
+    QCOMPARE(row.editor()->metaObject()->className(), editor.constData());
+}
+
+void tst_ValueEditors::everyPropertyOfWidgets()
+{
+    QSpinBox spinBox;
+    QLineEdit lineEdit;
+    QToolButton button;
+    QSlider slider;
+    for (QWidget* widget : std::initializer_list<QWidget*>{&spinBox, &lineEdit, &button, &slider}) {
+        const QMetaObject* meta = widget->metaObject();
+        for (int i = 0; i < meta->propertyCount(); ++i) {
+            PropertyRow row(widget, meta->property(i).name());
+            row.refresh();
+        }
+    }
+}
+
+void tst_ValueEditors::editsBool()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "marked");
+    auto* box = control<QCheckBox>(row);
+    QVERIFY(!box->isChecked());
+
+    row.resize(200, 60);
+    box->resize(60, 60);
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(2, 58)); // it can be hit all over
+    QCOMPARE(specimen.property("marked"), QVariant(true));
+
+    specimen.setProperty("marked", false);
+    row.refresh();
+    QVERIFY(!box->isChecked());
+}
+
+void tst_ValueEditors::editsInt()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "level");
+    const QSignalSpy edits(&row, &PropertyRow::edited);
+    control<QToolButton>(row, 0)->click();
+    QCOMPARE(specimen.level(), 49);
+    control<QToolButton>(row, 1)->click();
+    control<QToolButton>(row, 1)->click();
+    QCOMPARE(specimen.level(), 51);
+    type(control<QSpinBox>(row), QStringLiteral("7"));
+    QCOMPARE(specimen.level(), 7);
+    QCOMPARE(edits.count(), 4);
+
+    specimen.setLevel(8);
+    row.refresh();
+    QCOMPARE(control<QSpinBox>(row)->value(), 8);
+    QCOMPARE(edits.count(), 4);
+}
+
+void tst_ValueEditors::showsWhatBecameOfAnInt()
+{
+    test::Specimen specimen;
+    specimen.setLevel(100);
+    PropertyRow row(&specimen, "level");
+    control<QToolButton>(row, 1)->click();
+    QCOMPARE(control<QSpinBox>(row)->value(), 100);
+    type(control<QSpinBox>(row), QStringLiteral("-2147483648"));
+    QCOMPARE(specimen.level(), 0);
+    QCOMPARE(control<QSpinBox>(row)->value(), 0);
+}
+
+void tst_ValueEditors::editsDouble()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "fraction");
+    control<QToolButton>(row, 1)->click();
+    QCOMPARE(specimen.fraction(), 0.55);
+    type(control<QDoubleSpinBox>(row), QLocale().toString(0.125));
+    QCOMPARE(specimen.fraction(), 0.125);
+}
+
+void tst_ValueEditors::showsIgnoredDouble()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "fraction");
+    type(control<QDoubleSpinBox>(row), QStringLiteral("7"));
+    QCOMPARE(specimen.fraction(), 0.5);
+    QCOMPARE(control<QDoubleSpinBox>(row)->value(), 0.5);
+}
+
+void tst_ValueEditors::editsText()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "caption");
+    type(control<QLineEdit>(row), QStringLiteral("new"));
+    QCOMPARE(specimen.property("caption"), QVariant(QStringLiteral("new")));
+}
+
+void tst_ValueEditors::keepsCursorOfText()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "caption");
+    auto* edit = control<QLineEdit>(row);
+    edit->setCursorPosition(3);
+    QTest::keyClicks(edit, QStringLiteral("--"));
+    row.refresh();
+    QCOMPARE(specimen.property("caption"), QVariant(QStringLiteral("cap--tion")));
+    QCOMPARE(edit->cursorPosition(), 5);
+}
+
+void tst_ValueEditors::editsColorByName()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "color");
+    QCOMPARE(summaryOf(row), QStringLiteral("#280a141e"));
+    unfold(row);
+    type(control<QLineEdit>(row), QStringLiteral("steelblue"));
+    QCOMPARE(specimen.property("color").value<QColor>(), QColor(70, 130, 180));
+    QCOMPARE(summaryOf(row), QStringLiteral("#ff4682b4"));
+    QCOMPARE(control<QLineEdit>(row)->text(), QStringLiteral("steelblue"));
+    QCOMPARE(control<QSlider>(row, 1)->value(), 130);
+}
+
+void tst_ValueEditors::editsColorByChannels()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "color");
+    unfold(row);
+    for (int channel = 0; channel < 4; ++channel)
+        control<QSlider>(row, channel)->setValue(50 + channel);
+    QCOMPARE(specimen.property("color").value<QColor>(), QColor(50, 51, 52, 53));
+    QCOMPARE(control<QLineEdit>(row)->text(), QStringLiteral("#35323334"));
+
+    auto* red = control<QSlider>(row);
+    red->resize(200, 44);
+    QTest::mouseClick(red, Qt::LeftButton, {}, QPoint(199, 22)); // it goes where it is pressed
+    QCOMPARE(specimen.property("color").value<QColor>().red(), 255);
+}
+
+void tst_ValueEditors::leavesUnfinishedColorNameAlone()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "color");
+    unfold(row);
+    type(control<QLineEdit>(row), QStringLiteral("steel"));
+    row.refresh();
+    QCOMPARE(specimen.property("color").value<QColor>(), QColor(10, 20, 30, 40));
+    QCOMPARE(control<QLineEdit>(row)->text(), QStringLiteral("steel"));
+}
+
+void tst_ValueEditors::showsNoColor()
+{
+    test::Specimen specimen;
+    specimen.setProperty("color", QColor());
+    PropertyRow row(&specimen, "color");
+    unfold(row);
+    QCOMPARE(summaryOf(row), QStringLiteral("none"));
+    QCOMPARE(control<QLineEdit>(row)->text(), QString());
+    control<QSlider>(row)->setValue(9);
+    QCOMPARE(specimen.property("color").value<QColor>(), QColor(9, 0, 0));
+}
+
+void tst_ValueEditors::editsFont()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "captionFont");
+    QCOMPARE(summaryOf(row), QStringLiteral("DejaVu Sans, 12 pt"));
+    unfold(row);
+    control<QSpinBox>(row)->stepUp();
+    for (int index = 0; index < 3; ++index)
+        control<QCheckBox>(row, index)->click();
+
+    QFont expected(QStringLiteral("DejaVu Sans"), 13);
+    expected.setBold(true);
+    expected.setItalic(true);
+    expected.setUnderline(true);
+    QCOMPARE(specimen.property("captionFont").value<QFont>(), expected);
+
+    type(control<QSpinBox>(row), QStringLiteral("-5"));
+    QCOMPARE(specimen.property("captionFont").value<QFont>().pointSize(), 1);
+
+    auto* family = control<QFontComboBox>(row);
+    const int other = (family->currentIndex() + 1) % family->count();
+    family->setCurrentIndex(other);
+    QCOMPARE(specimen.property("captionFont").value<QFont>().family(), family->itemText(other));
+}
+
+void tst_ValueEditors::fontSizeKeepsItsUnit()
+{
+    test::Specimen specimen;
+    QFont font;
+    font.setPixelSize(20);
+    specimen.setProperty("captionFont", font);
+    PropertyRow row(&specimen, "captionFont");
+    QVERIFY(summaryOf(row).endsWith(QStringLiteral(", 20 px")));
+    unfold(row);
+    control<QSpinBox>(row)->stepDown();
+    QCOMPARE(specimen.property("captionFont").value<QFont>().pixelSize(), 19);
+}
+
+void tst_ValueEditors::editsEnum()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "mood");
+    auto* box = control<QComboBox>(row);
+    QCOMPARE(box->count(), 3);
+    QCOMPARE(box->currentText(), QStringLiteral("Calm"));
+    QTest::keyClick(box, Qt::Key_Down);
+    QCOMPARE(specimen.property("mood").toInt(), 4);
+    QTest::keyClick(box, Qt::Key_Down);
+    QCOMPARE(specimen.property("mood").toInt(), -2);
+    QCOMPARE(box->currentText(), QStringLiteral("Grumpy"));
+}
+
+void tst_ValueEditors::showsNoChoiceForUnknownEnumValue()
+{
+    EnumEditor editor(QMetaEnum::fromType<test::Specimen::Mood>());
+    editor.setValue(77);
+    QCOMPARE(editor.findChild<QComboBox*>()->currentIndex(), -1);
+}
+
+void tst_ValueEditors::editsFlags()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "sides");
+    QCOMPARE(summaryOf(row), QStringLiteral("Left")); // "Start" is the same bit
+    unfold(row);
+    QCOMPARE(row.findChildren<QCheckBox*>().size(), 3); // neither the alias nor the combinations
+    control<QCheckBox>(row, 2)->click();
+    QCOMPARE(specimen.sides(), test::Specimen::Left | test::Specimen::Top);
+    QCOMPARE(summaryOf(row), QStringLiteral("Left | Top"));
+    control<QCheckBox>(row, 0)->click();
+    control<QCheckBox>(row, 2)->click();
+    QCOMPARE(specimen.sides(), test::Specimen::Sides());
+    QCOMPARE(summaryOf(row), QStringLiteral("none"));
+}
+
+void tst_ValueEditors::editsFlagsOfAnotherClass()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "alignment");
+    unfold(row);
+    for (QCheckBox* box : row.findChildren<QCheckBox*>()) {
+        if (box->text() == QLatin1String("AlignVCenter"))
+            box->click();
+    }
+    QCOMPARE(specimen.property("alignment").toInt(), int(Qt::AlignLeft | Qt::AlignVCenter));
+}
+
+void tst_ValueEditors::editsPoint()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "origin");
+    QCOMPARE(summaryOf(row), QStringLiteral("1, 2"));
+    unfold(row);
+    control<QSpinBox>(row, 1)->stepUp();
+    QCOMPARE(specimen.property("origin").toPoint(), QPoint(1, 3));
+}
+
+void tst_ValueEditors::editsSize()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "extent");
+    QCOMPARE(summaryOf(row), QStringLiteral("3 \u00d7 4"));
+    unfold(row);
+    control<QSpinBox>(row, 0)->stepUp();
+    QCOMPARE(specimen.property("extent").toSize(), QSize(4, 4));
+}
+
+void tst_ValueEditors::editsRect()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "area");
+    QCOMPARE(summaryOf(row), QStringLiteral("7 \u00d7 8 at 5, 6"));
+    unfold(row);
+    for (int index = 0; index < 4; ++index)
+        type(control<QSpinBox>(row, index), QString::number(20 + index));
+    QCOMPARE(specimen.property("area").toRect(), QRect(20, 21, 22, 23));
+}
+
+void tst_ValueEditors::editsEasingCurve()
+{
+    test::Specimen specimen;
+    PropertyRow row(&specimen, "curve");
+    auto* box = control<QComboBox>(row);
+    QCOMPARE(box->currentText(), QStringLiteral("Linear"));
+    QCOMPARE(box->findText(QStringLiteral("Custom")), -1); // its type does not define it
+    QTest::keyClicks(box, QStringLiteral("OutBounce"));
+    QCOMPARE(specimen.property("curve").toEasingCurve().type(), QEasingCurve::OutBounce);
+}
+
+void tst_ValueEditors::showsReadOnlyValues_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("nothing") << QVariant() << QStringLiteral("none");
+    QTest::newRow("null object") << QVariant::fromValue<QObject*>(nullptr)
+                                 << QStringLiteral("none");
+    QTest::newRow("object") << QVariant::fromValue<QObject*>(this)
+                            << QStringLiteral("tst_ValueEditors");
+    QTest::newRow("list") << QVariant(QVariantList{1, 2})
+                          << QStringLiteral("(QVariant(int, 1), QVariant(int, 2))");
+    QTest::newRow("type without a text")
+        << QVariant::fromValue(QMargins(1, 2, 3, 4)) << QStringLiteral("QMargins");
+    QTest::newRow("line") << QVariant(QLine(1, 2, 3, 4))
+                          << QStringLiteral("QLine(QPoint(1,2),QPoint(3,4))");
+    QTest::newRow("uint") << QVariant(7u) << QStringLiteral("7");
+}
+
+void tst_ValueEditors::showsReadOnlyValues()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, text);
+
+    ReadOnlyValue display;
+    display.setValue(value);
+    QCOMPARE(display.findChild<QLabel*>()->text(), text);
+}
+
+void tst_ValueEditors::shortensLongText()
+{
+    ReadOnlyValue display;
+    display.setValue(QString(1000, QLatin1Char('x')));
+    QCOMPARE(display.findChild<QLabel*>()->text(), QString(79, QLatin1Char('x')) + QChar(0x2026));
+}
+
+void tst_ValueEditors::registeredEditor()
+{
+    QWidget widget;
+    widget.setProperty("margins", QVariant::fromValue(QMargins()));
+    const QScopedPointer<ValueEditor> before(makeValueEditor(widget, "margins"));
+    QVERIFY(qobject_cast<ReadOnlyValue*>(before.data()));
+
+    registerValueEditor(qMetaTypeId<QMargins>(),
+                        []() -> ValueEditor* { return new EnumEditor(QMetaEnum()); });
+    const QScopedPointer<ValueEditor> after(makeValueEditor(widget, "margins"));
+    QVERIFY(qobject_cast<EnumEditor*>(after.data()));
+}
+
+void tst_ValueEditors::editsDynamicProperty()
+{
+    QWidget widget;
+    widget.setStyleSheet(QStringLiteral("[inputValid=\"false\"] { max-width: 77px; }"));
+    widget.setProperty("inputValid", true);
+    widget.ensurePolished();
+    QVERIFY(widget.maximumWidth() != 77);
+
+    PropertyRow row(&widget, "inputValid");
+    control<QCheckBox>(row)->click();
+    QCOMPARE(widget.property("inputValid"), QVariant(false));
+    QCOMPARE(widget.maximumWidth(), 77); // the style sheet has been asked again
+}
+
+void tst_ValueEditors::survivesItsTarget()
+{
+    auto* specimen = new test::Specimen;
+    PropertyRow row(specimen, "level");
+    delete specimen;
+    row.refresh();
+    control<QToolButton>(row, 1)->click();
+    QCOMPARE(control<QSpinBox>(row)->value(), 51); // there is nothing to read it back from
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_ValueEditors>(argc, argv);
+}
+
+#include "tst_ValueEditors.moc"
