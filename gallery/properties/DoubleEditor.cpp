@@ -30,6 +30,8 @@ DoubleEditor::DoubleEditor(QWidget* parent)
 
 void DoubleEditor::setValue(const QVariant& value)
 {
+    if (m_box->textFromValue(m_box->value()) == m_box->textFromValue(value.toDouble()))
+        return; // keeps digits that are being typed
     const QSignalBlocker blocker(m_box);
     m_box->setValue(value.toDouble());
 }

@@ -19,6 +19,8 @@ IntEditor::IntEditor(QWidget* parent)
 
 void IntEditor::setValue(const QVariant& value)
 {
+    if (m_box->value() == value.toInt())
+        return; // keeps digits that are being typed
     const QSignalBlocker blocker(m_box);
     m_box->setValue(value.toInt());
 }

@@ -1,5 +1,6 @@
 #include "ValueEditors.h"
 
+#include "AnimationEditor.h"
 #include "BoolEditor.h"
 #include "ColorEditor.h"
 #include "DoubleEditor.h"
@@ -9,6 +10,7 @@
 #include "FontEditor.h"
 #include "IntEditor.h"
 #include "ReadOnlyValue.h"
+#include "Switch.h"
 #include "TextEditor.h"
 #include "TupleEditor.h"
 
@@ -26,11 +28,17 @@ ValueEditor* make()
 QHash<int, ValueEditorFactory>& factories()
 {
     static QHash<int, ValueEditorFactory> table = {
-        {QMetaType::Bool, make<BoolEditor>},     {QMetaType::Int, make<IntEditor>},
-        {QMetaType::Double, make<DoubleEditor>}, {QMetaType::QString, make<TextEditor>},
-        {QMetaType::QColor, make<ColorEditor>},  {QMetaType::QFont, make<FontEditor>},
-        {QMetaType::QPoint, make<TupleEditor>},  {QMetaType::QSize, make<TupleEditor>},
-        {QMetaType::QRect, make<TupleEditor>},   {QMetaType::QEasingCurve, make<EasingCurveEditor>},
+        {QMetaType::Bool, make<BoolEditor>},
+        {QMetaType::Int, make<IntEditor>},
+        {QMetaType::Double, make<DoubleEditor>},
+        {QMetaType::QString, make<TextEditor>},
+        {QMetaType::QColor, make<ColorEditor>},
+        {QMetaType::QFont, make<FontEditor>},
+        {QMetaType::QPoint, make<TupleEditor>},
+        {QMetaType::QSize, make<TupleEditor>},
+        {QMetaType::QRect, make<TupleEditor>},
+        {QMetaType::QEasingCurve, make<EasingCurveEditor>},
+        {qMetaTypeId<Style::Animation>(), make<AnimationEditor>},
     };
     return table;
 }

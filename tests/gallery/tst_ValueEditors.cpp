@@ -1,8 +1,10 @@
 #include "properties/EnumEditor.h"
 #include "properties/PropertyRow.h"
 #include "properties/ReadOnlyValue.h"
+#include "properties/ValueEditor.h"
 #include "properties/ValueEditors.h"
 #include "Specimen.h"
+#include "Switch.h"
 #include "TestApplication.h"
 
 #include <QCheckBox>
@@ -63,6 +65,7 @@ private Q_SLOTS:
     void editsBool();
     void editsInt();
     void showsWhatBecameOfAnInt();
+    void keepsDigitsThatAreTyped();
     void editsDouble();
     void showsIgnoredDouble();
     void editsText();
@@ -81,6 +84,7 @@ private Q_SLOTS:
     void editsSize();
     void editsRect();
     void editsEasingCurve();
+    void editsAnimation();
     void showsReadOnlyValues_data();
     void showsReadOnlyValues();
     void shortensLongText();
@@ -187,6 +191,19 @@ void tst_ValueEditors::showsWhatBecameOfAnInt()
     type(control<QSpinBox>(row), QStringLiteral("-2147483648"));
     QCOMPARE(specimen.level(), 0);
     QCOMPARE(control<QSpinBox>(row)->value(), 0);
+}
+
+void tst_ValueEditors::keepsDigitsThatAreTyped()
+{
+    test::Specimen specimen;
+    for (const char* name : {"level", "fraction"}) {
+        PropertyRow row(&specimen, name);
+        auto* box = control<QAbstractSpinBox>(row);
+        box->selectAll();
+        QTest::keyClicks(box, QStringLiteral("0"));
+        row.editor()->setValue(specimen.property(name)); // nothing has changed
+        QCOMPARE(box->text(), QStringLiteral("0"));
+    }
 }
 
 void tst_ValueEditors::editsDouble()
@@ -407,6 +424,24 @@ void tst_ValueEditors::editsEasingCurve()
     QCOMPARE(box->findText(QStringLiteral("Custom")), -1); // its type does not define it
     QTest::keyClicks(box, QStringLiteral("OutBounce"));
     QCOMPARE(specimen.property("curve").toEasingCurve().type(), QEasingCurve::OutBounce);
+}
+
+void tst_ValueEditors::editsAnimation()
+{
+    Switch target;
+    target.setThumbPosAnimation({QEasingCurve::InQuad, 100});
+    PropertyRow row(&target, "thumbPosAnimation");
+    QCOMPARE(summaryOf(row), QStringLiteral("InQuad, 100 ms"));
+    unfold(row);
+    QTest::keyClicks(control<QComboBox>(row), QStringLiteral("OutBounce"));
+    type(control<QSpinBox>(row), QStringLiteral("250"));
+    QCOMPARE(target.thumbPosAnimation(), (Style::Animation{QEasingCurve::OutBounce, 250}));
+    QCOMPARE(summaryOf(row), QStringLiteral("OutBounce, 250 ms"));
+
+    target.setThumbPosAnimation({QEasingCurve::Linear, 7});
+    row.refresh();
+    QCOMPARE(control<QComboBox>(row)->currentText(), QStringLiteral("Linear"));
+    QCOMPARE(control<QSpinBox>(row)->value(), 7);
 }
 
 void tst_ValueEditors::showsReadOnlyValues_data()
