@@ -11,11 +11,7 @@ build_dir=$2
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 prefix=$scratch/prefix
-
-# The first C++ block of the README: the example that users copy.
-readme_example() {
-    awk '/^```cpp/ {inside = 1; next} /^```/ && inside {exit} inside' "$source_dir/README.md"
-}
+. "$source_dir/tests/package/example.sh"
 
 # A program that includes every installed header and runs an application object.
 all_headers() {
@@ -25,23 +21,17 @@ all_headers() {
     echo 'int main(int argc, char** argv) { QApplication application(argc, argv); return Switch().isChecked(); }'
 }
 
-# The example shows a window and runs until it is closed: alive after a while is a success.
-runs_until_stopped() {
-    local status=0
-    timeout --preserve-status --signal=TERM 3 "$@" || status=$?
-    [ "$status" -eq $((128 + 15)) ] || { echo "$1 ended by itself with status $status" >&2; return 1; }
-}
-
 cmake --install "$build_dir" --prefix "$prefix" >/dev/null
 
 cp -r "$source_dir/tests/package/consumer" "$scratch/consumer"
-readme_example >"$scratch/consumer/main.cpp"
+readme_example "$source_dir" >"$scratch/consumer/main.cpp"
 all_headers >"$scratch/consumer/all_headers.cpp"
 
 echo "== CMake"
 cmake -S "$scratch/consumer" -B "$scratch/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$scratch/cmake"
 "$scratch/cmake/all_headers"
+"$scratch/cmake/icons"
 runs_until_stopped "$scratch/cmake/example"
 
 echo "== pkg-config"

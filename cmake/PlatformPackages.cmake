@@ -1,0 +1,89 @@
+# Debian packages, one for each install component that the build has. Made by ./dev package.
+#
+# platform_describe_package(COMPONENT PACKAGE
+#     SUMMARY text      the first line of its description, less the common end
+#     SECTION section   of Debian's archive; libs by default
+#     [DEPENDS ...]     besides the shared libraries, which are computed
+#     [PROVIDES ...]
+#     [SHLIBS lines]    which package other packages need that link its libraries
+#     [ALL])            the same for every processor
+macro(platform_describe_package component package)
+    cmake_parse_arguments(arg "ALL" "SUMMARY;SECTION" "DEPENDS;PROVIDES;SHLIBS" ${ARGN})
+    string(TOUPPER ${component} upper)
+    string(REPLACE ";" ", " CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${arg_DEPENDS}")
+    string(REPLACE ";" ", " CPACK_DEBIAN_${upper}_PACKAGE_PROVIDES "${arg_PROVIDES}")
+    set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
+    set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${arg_SECTION})
+    set(CPACK_DEBIAN_${upper}_DESCRIPTION "${arg_SUMMARY}\n${PROJECT_DESCRIPTION}.")
+    set(CPACK_DEBIAN_${upper}_PACKAGE_SHLIBDEPS ON)
+    if(arg_SHLIBS)
+        list(JOIN arg_SHLIBS "\n" shlibs)
+        file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/packages/${component}/shlibs" CONTENT "${shlibs}\n")
+        set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA
+            "${PROJECT_BINARY_DIR}/packages/${component}/shlibs")
+    endif()
+    if(arg_ALL)
+        set(CPACK_DEBIAN_${upper}_PACKAGE_ARCHITECTURE all)
+        set(CPACK_DEBIAN_${upper}_PACKAGE_SHLIBDEPS OFF)
+    endif()
+endmacro()
+
+set(same_version "(= ${PROJECT_VERSION})")
+
+# The device brings libraries of its own in place of the stand-ins: built against those, the
+# library's package leaves them to the device.
+set(device_libraries "platform-widgets-standins ${same_version} | platform-device-libraries")
+set(standins "platform-widgets-standins ${same_version}")
+if(PLATFORM_DEVICE_PREFIX)
+    set(device_libraries)
+    set(standins)
+endif()
+
+platform_describe_package(runtime platform-widgets
+    SUMMARY "touch-screen widgets for Qt 5"
+    SECTION libs
+    DEPENDS ${device_libraries} libqt5svg5 # Qt loads the plugin that reads the icons by itself
+    SHLIBS "libplatform_widgets 1.2 platform-widgets (>= ${PROJECT_VERSION})")
+platform_describe_package(standins platform-widgets-standins
+    SUMMARY "touch-screen widgets for Qt 5 - stand-ins for a device's libraries"
+    SECTION libs
+    PROVIDES platform-device-libraries
+    SHLIBS
+        "libplatform_style 1.2 platform-widgets-standins | platform-device-libraries"
+        "libplatform_keyboard 1.2 platform-widgets-standins | platform-device-libraries")
+platform_describe_package(development platform-widgets-dev
+    SUMMARY "touch-screen widgets for Qt 5 - development files"
+    SECTION libdevel
+    DEPENDS "platform-widgets ${same_version}" ${standins} "qtbase5-dev (>= 5.15)")
+platform_describe_package(gallery platform-widgets-gallery
+    SUMMARY "touch-screen widgets for Qt 5 - gallery"
+    SECTION x11
+    DEPENDS "platform-widgets ${same_version}" fonts-dejavu-core)
+platform_describe_package(designer platform-widgets-designer
+    SUMMARY "touch-screen widgets for Qt 5 - plugin for Qt Designer"
+    SECTION devel
+    DEPENDS "platform-widgets ${same_version}" qttools5-dev-tools)
+platform_describe_package(documentation platform-widgets-doc
+    SUMMARY "touch-screen widgets for Qt 5 - reference"
+    SECTION doc
+    ALL)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has a summary of its own
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_PACKAGE_VENDOR "platform_widgets")
+set(CPACK_PACKAGE_CONTACT "platform_widgets developers <platform-widgets@example.org>")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+# Where the project's own libraries are while the packages are made.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+    "${PROJECT_BINARY_DIR}/src"
+    "${PROJECT_BINARY_DIR}/platform/style"
+    "${PROJECT_BINARY_DIR}/platform/keyboard")
+get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
+list(REMOVE_ITEM CPACK_COMPONENTS_ALL Unspecified)
+
+include(CPack)
