@@ -1,0 +1,100 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <QLineEdit>
+
+namespace ui {
+
+/**
+ * A single-line text field that commits on OK and reverts on Cancel.
+ *
+ * The text that the field holds when it gains the focus is kept. OK (Return, Enter or the signal
+ * signalOkKey()) ends editing with the new text; Cancel (Escape, the signal signalCancelKey() or any
+ * loss of the focus) ends it with the kept text. Every edit by the user, and every Cancel, runs the
+ * field's validator and publishes the verdict as the dynamic property "inputValid" and as the signal
+ * resultValidated().
+ *
+ * @code
+ * auto* name = new ui::LineEdit(form);
+ * name->setValidator(new QRegularExpressionValidator(QRegularExpression("[a-z]{3,8}"), name));
+ * connect(name, &ui::LineEdit::valueChanged, form, [=] { store(name->text()); });
+ * @endcode
+ *
+ * An application's style sheet can colour text that is not acceptable. The dynamic property is true
+ * from construction on and is not reset when the focus changes; setText() does not touch it:
+ *
+ * @code
+ * ui--LineEdit[inputValid="false"] { color: red; }
+ * @endcode
+ *
+ * The field takes the focus from a click or tap only and opens no context menu. It paints what
+ * QLineEdit paints, from the same palette roles. Its nearest neighbour is QLineEdit, which keeps what
+ * was typed when it loses the focus and which lets the validator refuse Return and Enter: here OK does
+ * not ask the validator.
+ *
+ * The field emits, in this order:
+ *  - OK: signalOkKey() (from the keyboard), valueChanged(), editingFinished();
+ *  - Cancel: signalCancelKey(), textEdited() with the kept text, resultValidated(),
+ *    editingFinished(); when the focus goes to another widget, QLineEdit may have emitted
+ *    editingFinished() once before.
+ *
+ * The field reacts to its own signals first: a slot that an application connects to signalOkKey(),
+ * signalCancelKey() or textEdited() runs after what that signal sets off.
+ *
+ * A slot of one of these signals may delete the field, and the rest of the sequence is dropped. Only
+ * while Qt itself handles typed text or a change of the focus does a slot have to use deleteLater(), as
+ * with any QLineEdit.
+ */
+class PLATFORM_WIDGETS_EXPORT LineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit LineEdit(QWidget* parent = nullptr);
+    ~LineEdit() override;
+
+Q_SIGNALS:
+    /// Escape was pressed or the focus is lost; emitted by an application, it cancels the edit.
+    void signalCancelKey();
+
+    /// Return or Enter was pressed; emitted by an application, it commits the text.
+    void signalOkKey();
+
+    /// Never emitted by the library: for applications to emit and to connect.
+    void signalClicked();
+
+    /// The text has been validated, with the verdict: true if it is acceptable.
+    void resultValidated(bool valid);
+
+    /// An OK has committed the text; not emitted by a Cancel.
+    void valueChanged();
+
+protected Q_SLOTS:
+    /**
+     * Validates \a text, which the user has edited or a Cancel has restored: writes the verdict to the
+     * property "inputValid", polishes the field again so that a style sheet can react, and emits
+     * resultValidated().
+     *
+     * The text is valid if the validator calls it QValidator::Acceptable, or if there is no validator.
+     */
+    virtual void textEditedSlot(const QString& text);
+
+    /// Commits: emits valueChanged(), gives up the focus without a Cancel, emits editingFinished().
+    void onOkKey();
+
+    /// Reverts to the kept text, validates it, gives up the focus and emits editingFinished().
+    void onCancelKey();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void clearFocusSilently();
+
+    QString savedText; // what a Cancel restores: the text at the last focus-in
+};
+
+} // namespace ui
