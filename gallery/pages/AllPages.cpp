@@ -5,6 +5,7 @@
 #include "GridButtonPage.h"
 #include "OverviewPage.h"
 #include "ScrollIndicatorPage.h"
+#include "SwitchPage.h"
 
 #include <QCoreApplication>
 
@@ -31,5 +32,6 @@ QVector<PageEntry> allPages()
         {QStringLiteral("grid-button"), tr("Grid button"), make<GridButtonPage>},
         {QStringLiteral("scroll-indicator"), tr("Scroll indicator"), make<ScrollIndicatorPage>},
         {QStringLiteral("animation"), tr("Animation"), make<AnimationPage>},
+        {QStringLiteral("switch"), tr("Switch"), make<SwitchPage>},
     };
 }

@@ -1,0 +1,164 @@
+#include "SwitchPage.h"
+
+#include <Switch.h>
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+const QColor blue(33, 150, 243);
+const QColor green(76, 175, 80);
+const QColor orange(255, 152, 0);
+
+/// Colours that suit a light and a dark background, with \a accent for the on state.
+void dress(Switch* control, const QColor& accent)
+{
+    control->setThumbOnBrush(accent);
+    control->setTrackOnBrush(accent);
+    control->setThumbOffBrush(QColor(250, 250, 250));
+    control->setTrackOffBrush(Qt::gray);
+    control->setTrackOffOpacity(0.6);
+    control->setThumbDisabled(QColor(190, 190, 190));
+    control->setTrackDisabled(Qt::gray);
+    control->setTrackDisabledOpacity(0.3);
+}
+
+Switch* makeSwitch(const QString& text, const QColor& accent, bool on)
+{
+    auto* control = new Switch(text);
+    dress(control, accent);
+    control->setChecked(on); // after the colours, which show those of the off state at first
+    return control;
+}
+
+QLabel* makeCaption(const QString& text)
+{
+    auto* label = new QLabel(text);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+} // namespace
+
+SwitchPage::SwitchPage(QWidget* parent)
+    : GalleryPage(parent)
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->addWidget(makeCaption(tr("As it comes: off, on, disabled")));
+    column->addLayout(makePlain());
+    column->addWidget(makeCaption(tr("With a label")));
+    column->addLayout(makeLabelled());
+    column->addWidget(makeCaption(tr("Colours, times and directions")));
+    column->addLayout(makeCustom());
+    column->addWidget(makeCaption(tr("One of three")));
+    column->addLayout(makeGroup());
+    column->addStretch();
+    followPalette();
+}
+
+Switch* SwitchPage::addSwitch(Switch* control, const QString& name)
+{
+    addExhibit(control, name);
+    return control;
+}
+
+QLayout* SwitchPage::makePlain()
+{
+    auto* row = new QHBoxLayout;
+    for (const bool enabled : {true, false}) {
+        for (const bool on : {false, true}) {
+            auto* control = new Switch;
+            control->setChecked(on);
+            control->setEnabled(enabled);
+            row->addWidget(addSwitch(
+                control,
+                enabled ? (on ? tr("Plain, on") : tr("Plain, off"))
+                        : (on ? tr("Plain, disabled and on") : tr("Plain, disabled and off"))));
+        }
+    }
+    row->addStretch();
+    return row;
+}
+
+QLayout* SwitchPage::makeLabelled()
+{
+    auto* off = addSwitch(makeSwitch(tr("Bluetooth"), blue, false), tr("Labelled, off"));
+    auto* on = addSwitch(makeSwitch(tr("Wi-Fi"), blue, true), tr("Labelled, on"));
+    auto* disabledOff =
+        addSwitch(makeSwitch(tr("Hotspot"), blue, false), tr("Labelled, disabled and off"));
+    auto* disabledOn =
+        addSwitch(makeSwitch(tr("Firewall"), blue, true), tr("Labelled, disabled and on"));
+    disabledOff->setEnabled(false);
+    disabledOn->setEnabled(false);
+
+    auto* grid = new QGridLayout;
+    grid->addWidget(off, 0, 0);
+    grid->addWidget(on, 0, 1);
+    grid->addWidget(disabledOff, 1, 0);
+    grid->addWidget(disabledOn, 1, 1);
+    return grid;
+}
+
+QLayout* SwitchPage::makeCustom()
+{
+    auto* colored = addSwitch(makeSwitch(tr("Heating"), orange, true), tr("Coloured"));
+    auto* slow = makeSwitch(tr("Slow and springy"), green, false);
+    slow->setThumbPosAnimation({QEasingCurve::OutBounce, 1200});
+    slow->setThumbBrushAnimation({QEasingCurve::InOutQuad, 600});
+    slow->setTrackBrushAnimation({QEasingCurve::InOutQuad, 600});
+    addSwitch(slow, tr("Slow"));
+
+    auto* instant = makeSwitch(tr("At once"), green, false);
+    for (const auto set : {&Switch::setThumbPosAnimation, &Switch::setThumbBrushAnimation,
+                           &Switch::setTrackBrushAnimation})
+        (instant->*set)({QEasingCurve::Linear, 0});
+    addSwitch(instant, tr("At once"));
+
+    auto* mirrored = addSwitch(makeSwitch(tr("Right to left"), orange, true), tr("Right to left"));
+    mirrored->setLayoutDirection(Qt::RightToLeft);
+
+    auto* grid = new QGridLayout;
+    grid->addWidget(colored, 0, 0);
+    grid->addWidget(slow, 0, 1);
+    grid->addWidget(instant, 1, 0);
+    grid->addWidget(mirrored, 1, 1);
+    return grid;
+}
+
+QLayout* SwitchPage::makeGroup()
+{
+    auto* row = new QHBoxLayout;
+    auto* group = new QButtonGroup(this);
+    for (const QString& text : {tr("Low"), tr("Medium"), tr("High")}) {
+        Switch* control = addSwitch(makeSwitch(text, green, false), tr("Group: %1").arg(text));
+        group->addButton(control);
+        row->addWidget(control);
+    }
+    group->buttons().first()->setChecked(true);
+    return row;
+}
+
+// A switch keeps its labels black unless the application says otherwise.
+void SwitchPage::followPalette()
+{
+    const QList<Switch*> controls = findChildren<Switch*>();
+    for (Switch* control : controls) {
+        QPalette labels = control->palette();
+        labels.setBrush(QPalette::ButtonText, palette().windowText());
+        control->setPalette(labels);
+    }
+}
+
+void SwitchPage::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        followPalette();
+    GalleryPage::changeEvent(event);
+}
