@@ -34,7 +34,8 @@ private Q_SLOTS:
     void onMidwayStartsFromTheOffEnd();
     void sameStateReplaysTheTransition();
     void hiddenSwitchJumps();
-    void hiddenSwitchStaysSilent();
+    void hiddenSwitchTellsOncePerAnimator();
+    void hiddenSwitchJumpsInOrder();
     void hiddenSwitchIsFirstShownAtRest();
     void marginsSetTheTravel();
     void animatedFramesRepaint();
@@ -249,12 +250,33 @@ void tst_SwitchTransition::hiddenSwitchJumps()
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOff));
 }
 
-void tst_SwitchTransition::hiddenSwitchStaysSilent()
+void tst_SwitchTransition::hiddenSwitchTellsOncePerAnimator()
 {
     control().hide();
     test::UpdateCounter updates(m_control.get());
     control().setChecked(true);
-    QCOMPARE(updates.take(), 3); // once for each animator
+    QCOMPARE(updates.take(), 3);
+    control().setChecked(false);
+    QCOMPARE(updates.take(), 3);
+}
+
+void tst_SwitchTransition::hiddenSwitchJumpsInOrder()
+{
+    control().hide();
+    QVector<QObject*> order;
+    const test::Animators its = animators();
+    for (Animator* animator : {its.thumbBrush, its.trackBrush, its.thumbPos}) {
+        connect(animator, &Animator::valueChanged, this, [&order, animator] {
+            if (!order.contains(animator))
+                order << animator;
+        });
+    }
+    const QVector<QObject*> expected{its.thumbPos, its.thumbBrush, its.trackBrush};
+    control().setChecked(true);
+    QCOMPARE(order, expected);
+    order.clear();
+    control().setChecked(false);
+    QCOMPARE(order, expected);
 }
 
 void tst_SwitchTransition::hiddenSwitchIsFirstShownAtRest()
