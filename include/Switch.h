@@ -11,6 +11,7 @@
 #include <QPointer>
 
 class Animator;
+class SwitchGeometry;
 QT_BEGIN_NAMESPACE
 class QBrush;
 QT_END_NAMESPACE
@@ -237,6 +238,7 @@ private:
     struct Look; ///< What the painting routine needs to know of the state.
 
     void init();
+    SwitchGeometry measures() const;
     template <typename T>
     void assign(T& field, const T& value);
     Rest restAt(bool on) const;

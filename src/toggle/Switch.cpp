@@ -100,237 +100,34 @@ void Switch::init()
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
+SwitchGeometry Switch::measures() const
+{
+    return {m_height, m_indicatorMargin};
+}
+
 QSize Switch::sizeHint() const
 {
-    const QSize indicator = SwitchGeometry(m_height, m_indicatorMargin).indicatorSize();
+    const QSize indicator = measures().indicatorSize();
     const int textWidth = QFontMetrics(font()).horizontalAdvance(text());
     return {indicator.width() + textWidth, indicator.height()};
 }
 
 QRect Switch::indicatorRect() const
 {
-    return SwitchGeometry(m_height, m_indicatorMargin).indicatorRect(width(), layoutDirection());
+    return measures().indicatorRect(width(), layoutDirection());
 }
 
 QRect Switch::textRect() const
 {
-    return SwitchGeometry(m_height, m_indicatorMargin).textRect(size(), layoutDirection());
+    return measures().textRect(size(), layoutDirection());
 }
-
-template <typename T>
-void Switch::assign(T& field, const T& value)
-{
-    if (field == value)
-        return;
-    field = value;
-    refresh();
-}
-
-// The setters take their values as the properties do. NOLINTBEGIN(performance-unnecessary-value-param)
-
-int Switch::indicatorHeight() const
-{
-    return m_height;
-}
-
-void Switch::setHeight(int height)
-{
-    assign(m_height, height);
-}
-
-QFont Switch::labelFont() const
-{
-    return m_font;
-}
-
-void Switch::setFont(QFont font)
-{
-    assign(m_font, font);
-}
-
-QColor Switch::thumbOnBrush() const
-{
-    return m_thumbOnBrush;
-}
-
-void Switch::setThumbOnBrush(QColor color)
-{
-    assign(m_thumbOnBrush, color);
-}
-
-double Switch::thumbOnOpacity() const
-{
-    return m_thumbOnOpacity;
-}
-
-void Switch::setThumbOnOpacity(double opacity)
-{
-    assign(m_thumbOnOpacity, opacity);
-}
-
-QColor Switch::trackOnBrush() const
-{
-    return m_trackOnBrush;
-}
-
-void Switch::setTrackOnBrush(QColor color)
-{
-    assign(m_trackOnBrush, color);
-}
-
-double Switch::trackOnOpacity() const
-{
-    return m_trackOnOpacity;
-}
-
-void Switch::setTrackOnOpacity(double opacity)
-{
-    assign(m_trackOnOpacity, opacity);
-}
-
-QColor Switch::thumbOffBrush() const
-{
-    return m_thumbOffBrush;
-}
-
-void Switch::setThumbOffBrush(QColor color)
-{
-    assign(m_thumbOffBrush, color);
-}
-
-double Switch::thumbOffOpacity() const
-{
-    return m_thumbOffOpacity;
-}
-
-void Switch::setThumbOffOpacity(double opacity)
-{
-    assign(m_thumbOffOpacity, opacity);
-}
-
-QColor Switch::trackOffBrush() const
-{
-    return m_trackOffBrush;
-}
-
-void Switch::setTrackOffBrush(QColor color)
-{
-    assign(m_trackOffBrush, color);
-}
-
-double Switch::trackOffOpacity() const
-{
-    return m_trackOffOpacity;
-}
-
-void Switch::setTrackOffOpacity(double opacity)
-{
-    assign(m_trackOffOpacity, opacity);
-}
-
-QColor Switch::thumbDisabled() const
-{
-    return m_thumbDisabled;
-}
-
-void Switch::setThumbDisabled(QColor color)
-{
-    assign(m_thumbDisabled, color);
-}
-
-double Switch::thumbDisabledOpacity() const
-{
-    return m_thumbDisabledOpacity;
-}
-
-void Switch::setThumbDisabledOpacity(double opacity)
-{
-    assign(m_thumbDisabledOpacity, opacity);
-}
-
-QColor Switch::trackDisabled() const
-{
-    return m_trackDisabled;
-}
-
-void Switch::setTrackDisabled(QColor color)
-{
-    assign(m_trackDisabled, color);
-}
-
-double Switch::trackDisabledOpacity() const
-{
-    return m_trackDisabledOpacity;
-}
-
-void Switch::setTrackDisabledOpacity(double opacity)
-{
-    assign(m_trackDisabledOpacity, opacity);
-}
-
-QColor Switch::textColor() const
-{
-    return m_textColor;
-}
-
-void Switch::setTextColor(QColor color)
-{
-    assign(m_textColor, color);
-}
-
-double Switch::disabledTextOpacity() const
-{
-    return m_disabledTextOpacity;
-}
-
-void Switch::setDisabledTextOpacity(double opacity)
-{
-    assign(m_disabledTextOpacity, opacity);
-}
-
-Style::Animation Switch::thumbBrushAnimation() const
-{
-    return m_thumbBrushAnimation;
-}
-
-void Switch::setThumbBrushAnimation(Style::Animation animation)
-{
-    assign(m_thumbBrushAnimation, animation);
-}
-
-Style::Animation Switch::trackBrushAnimation() const
-{
-    return m_trackBrushAnimation;
-}
-
-void Switch::setTrackBrushAnimation(Style::Animation animation)
-{
-    assign(m_trackBrushAnimation, animation);
-}
-
-Style::Animation Switch::thumbPosAnimation() const
-{
-    return m_thumbPosAnimation;
-}
-
-void Switch::setThumbPosAnimation(Style::Animation animation)
-{
-    assign(m_thumbPosAnimation, animation);
-}
-
-void Switch::setIndicatorMargin(QMargins margin)
-{
-    assign(m_indicatorMargin, margin);
-}
-
-// NOLINTEND(performance-unnecessary-value-param)
 
 void Switch::refresh()
 {
     configure(m_thumbPosAnimator, m_thumbPosAnimation);
     configure(m_trackBrushAnimator, m_trackBrushAnimation);
     configure(m_thumbBrushAnimator, m_thumbBrushAnimation);
-    // The colours of the off state whatever the state is; the next transition brings the others back.
+    // The colours of the off state, whatever the state is: the next transition brings back the others.
     const Rest off = restAt(false);
     rest(m_trackBrushAnimator, off.track);
     rest(m_thumbBrushAnimator, off.thumb);
@@ -349,8 +146,7 @@ void Switch::toggle(Qt::CheckState state)
 Switch::Rest Switch::restAt(bool on) const
 {
     if (on) {
-        return {SwitchGeometry(m_height, m_indicatorMargin).onPosition(),
-                withOpacity(m_thumbOnBrush, m_thumbOnOpacity),
+        return {measures().onPosition(), withOpacity(m_thumbOnBrush, m_thumbOnOpacity),
                 withOpacity(m_trackOnBrush, m_trackOnOpacity)};
     }
     return {0, withOpacity(m_thumbOffBrush, m_thumbOffOpacity),
@@ -378,7 +174,7 @@ void Switch::jumpTo(bool on)
 
 Switch::Look Switch::enabledLook() const
 {
-    const double travel = SwitchGeometry(m_height, m_indicatorMargin).travel();
+    const double travel = measures().travel();
     return {currentValue(m_trackBrushAnimator).value<QColor>(),
             1.0,
             currentValue(m_thumbBrushAnimator).value<QColor>(),
@@ -389,7 +185,7 @@ Switch::Look Switch::enabledLook() const
 
 Switch::Look Switch::disabledLook() const
 {
-    const int travel = SwitchGeometry(m_height, m_indicatorMargin).travel();
+    const int travel = measures().travel();
     return {m_trackDisabled,    m_trackDisabledOpacity,
             m_thumbDisabled,    double(isChecked() ? travel : -travel),
             QPalette::Disabled, m_disabledTextOpacity};
@@ -398,7 +194,7 @@ Switch::Look Switch::disabledLook() const
 void Switch::paintEvent(QPaintEvent*)
 {
     const Look look = isEnabled() ? enabledLook() : disabledLook();
-    const QRectF track = SwitchGeometry(m_height, m_indicatorMargin).trackRect(indicatorRect());
+    const QRectF track = measures().trackRect(indicatorRect());
 
     QPainter painter(this);
     painter.setPen(Qt::NoPen);
