@@ -1,15 +1,22 @@
 # platform_add_test(CLASS
 #     [PLATFORMS offscreen x11]  where it runs; offscreen alone by default
 #     [SOURCES file...]          further sources beside tst_CLASS.cpp
-#     [LIBRARIES target...])     further libraries to link
+#     [LIBRARIES target...]      further libraries to link
+#     [LOADS_LIBRARY])           not linked to the widget library, whose path it gets as WIDGETS_LIBRARY
 #
 # Builds tst_CLASS and registers it once per platform as PLATFORM.CLASS. A warning that no test
 # announced with QTest::ignoreMessage() fails the run, and so does a skipped test.
 function(platform_add_test class)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PLATFORMS;SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "LOADS_LIBRARY" "" "PLATFORMS;SOURCES;LIBRARIES")
     set(program tst_${class})
     add_executable(${program} ${program}.cpp ${arg_SOURCES})
-    target_link_libraries(${program} PRIVATE platform_test_support platform::widgets ${arg_LIBRARIES})
+    target_link_libraries(${program} PRIVATE platform_test_support ${arg_LIBRARIES})
+    if(arg_LOADS_LIBRARY)
+        add_dependencies(${program} platform_widgets)
+        target_compile_definitions(${program} PRIVATE WIDGETS_LIBRARY="$<TARGET_FILE:platform_widgets>")
+    else()
+        target_link_libraries(${program} PRIVATE platform::widgets)
+    endif()
 
     if(NOT arg_PLATFORMS)
         set(arg_PLATFORMS offscreen)
