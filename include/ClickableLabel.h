@@ -18,7 +18,8 @@
  * connect(label, &ClickableLabel::clicked, this, &Page::open);
  * \endcode
  *
- * The text is painted with the palette's foreground role, as in a QLabel.
+ * The text is painted with the palette's foreground role, as in a QLabel. To assistive technology the
+ * label is a link that can be pressed.
  */
 class PLATFORM_WIDGETS_EXPORT ClickableLabel : public QLabel
 {

@@ -12,6 +12,8 @@ QT_END_NAMESPACE
 
 namespace ui {
 
+class AccessibleBattery;
+
 /**
  * A battery symbol in golden-ratio proportions.
  *
@@ -35,6 +37,8 @@ namespace ui {
  *
  * The roles are read from the current colour group. A change repaints no more than it must: the body
  * alone for charge and fill colour, nothing at all for a charge that is not shown.
+ *
+ * To assistive technology it is a progress bar from 0 to 100, described as charging or absent.
  */
 class PLATFORM_WIDGETS_EXPORT CBatteryStatusWidget : public QWidget
 {
@@ -95,6 +99,8 @@ protected:
     void paintChargingIcon(QStylePainter& painter);
 
 private:
+    friend class AccessibleBattery;
+
     int m_frameWidth;
     double m_cornerRadius;
     int m_flags;

@@ -1,10 +1,13 @@
 #include "ClickableLabel.h"
 
+#include "../frame/accessibility/Accessibility.h"
+
 #include <QPainter>
 
 ClickableLabel::ClickableLabel(QWidget* parent)
     : QLabel(parent)
 {
+    ui::offerAccessibility();
 }
 
 ClickableLabel::~ClickableLabel() = default;

@@ -1,8 +1,10 @@
 #include "ui/CBatteryStatusWidget.h"
 
+#include "../frame/accessibility/Accessibility.h"
 #include "BatteryFlags.h"
 #include "BoundedInt.h"
 
+#include <QAccessible>
 #include <QLinearGradient>
 
 namespace ui {
@@ -40,6 +42,15 @@ QBrush fillBrush(const QColor& color)
     return QBrush(gradient);
 }
 
+/// Costs nothing while no assistive technology listens.
+void announceCharge(QWidget* battery, int percent)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent event(battery, qBound(0, percent, 100));
+    QAccessible::updateAccessibility(&event);
+}
+
 /**
  * Left edge of a shape that is centred as if it were a frame width wider, and then moved by half of
  * it, so that an outline of that width stays inside. Both halves truncate.
@@ -66,6 +77,7 @@ CBatteryStatusWidget::CBatteryStatusWidget(QWidget* parent)
     setSizePolicy(policy);
     setFrameWidth(defaultFrameWidth);
     setFillColor(QColor(Qt::blue));
+    offerAccessibility();
 }
 
 CBatteryStatusWidget::~CBatteryStatusWidget() = default;
@@ -132,6 +144,7 @@ void CBatteryStatusWidget::setChargePercentage(int percent)
     m_charge = fractionOf(percent);
     if (m_flags & BatteryPresent)
         update(m_batteryRect);
+    announceCharge(this, percent);
 }
 
 void CBatteryStatusWidget::setBatteryPresent(bool present)

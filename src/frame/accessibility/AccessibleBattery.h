@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+namespace ui {
+
+class CBatteryStatusWidget;
+
+/// A battery as a read-only progress bar from 0 to 100, described as charging or absent.
+class AccessibleBattery : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleBattery(CBatteryStatusWidget* battery);
+
+    void* interface_cast(QAccessible::InterfaceType type) override;
+    QAccessible::State state() const override;
+    QString text(QAccessible::Text kind) const override;
+
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant& value) override;
+    QVariant minimumValue() const override;
+    QVariant maximumValue() const override;
+    QVariant minimumStepSize() const override;
+
+private:
+    const CBatteryStatusWidget* battery() const;
+    QString condition() const;
+};
+
+} // namespace ui
