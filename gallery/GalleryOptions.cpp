@@ -20,7 +20,8 @@ QString tr(const char* text)
 QStringList pageIds()
 {
     QStringList ids;
-    for (const PageEntry& entry : allPages())
+    const QVector<PageEntry> pages = allPages();
+    for (const PageEntry& entry : pages)
         ids.append(entry.id);
     return ids;
 }

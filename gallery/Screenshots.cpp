@@ -80,8 +80,9 @@ QImage picture(const PageEntry& entry, const Variant& variant)
 bool takeScreenshots(const QVector<PageEntry>& pages, const QDir& directory,
                      const QString& styleSheet, QTextStream& out, QString* error)
 {
+    const QVector<Variant> looks = variants(styleSheet);
     for (const PageEntry& entry : pages) {
-        for (const Variant& variant : variants(styleSheet)) {
+        for (const Variant& variant : looks) {
             const QString path = directory.absoluteFilePath(
                 entry.id + QLatin1Char('-') + variant.suffix + QStringLiteral(".png"));
             if (!picture(entry, variant).save(path)) {

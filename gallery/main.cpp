@@ -42,7 +42,8 @@ bool hasDisplay()
 int listPages()
 {
     QTextStream out(stdout);
-    for (const PageEntry& entry : allPages())
+    const QVector<PageEntry> pages = allPages();
+    for (const PageEntry& entry : pages)
         out << entry.id << '\t' << entry.title << '\n';
     return EXIT_SUCCESS;
 }

@@ -11,5 +11,5 @@ public:
     explicit OverviewPage(QWidget* parent = nullptr);
 
 private:
-    QLayout* makeIcons();
+    static QLayout* makeIcons();
 };

@@ -82,11 +82,13 @@ CGridArrangedButton::~CGridArrangedButton() = default;
 
 QSize CGridArrangedButton::sizeHint() const
 {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the grid's hint, which QPushButton leaves out
     return QPushButton::sizeHint().expandedTo(QWidget::sizeHint());
 }
 
 QSize CGridArrangedButton::minimumSizeHint() const
 {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the grid's hint, which QPushButton leaves out
     return QPushButton::minimumSizeHint().expandedTo(QWidget::minimumSizeHint());
 }
 

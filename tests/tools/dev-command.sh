@@ -57,6 +57,7 @@ chmod +x "$scratch/bin"/*
 
 need_build_packages() {
     : >"$scratch/log"
+    # shellcheck disable=SC2016 # the inner shell expands it
     env PATH="$1" DEV_ROOT="$source_dir" bash -c \
         'set -euo pipefail; . "$DEV_ROOT/tools/lib/common.sh"; need_packages build' 2>"$scratch/err"
 }

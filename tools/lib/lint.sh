@@ -1,0 +1,79 @@
+# The checkers of ./dev lint. Sourced, never run. Each prints its findings and fails if there are any.
+
+# The tracked files that match the given patterns.
+sources() {
+    git ls-files -- "$@"
+}
+
+# Compiled sources that are ours; the tests need not satisfy what makes a library robust.
+library_sources() {
+    sources 'src/*.cpp' 'platform/*.cpp' 'gallery/*.cpp'
+}
+
+# Runs a command once for each file on standard input, on all processors.
+for_each_file() {
+    xargs -r -n 1 -P "$(nproc)" "$@"
+}
+
+# Copies the lines of standard input that do not match, and fails if there are any.
+no_lines_but() {
+    ! grep -vE -- "$1"
+}
+
+# The rules of CONTRIBUTING.md that a search can check.
+lint_rules() {
+    ! git grep -nE '\b(TODO|FIXME|XXX)\b' -- ':!tools/lib/lint.sh' \
+        && ! git grep -nE '\b(QSKIP|QEXPECT_FAIL|QTest::qSleep|QTest::qWait|QThread::[mu]?sleep)\b' -- '*.cpp' '*.h' \
+        && ! git grep -nE '^ *(public|protected|private)? *(signals|slots):|\b(emit|foreach|forever) ' -- '*.cpp' '*.h'
+}
+
+lint_format() {
+    sources '*.cpp' '*.h' | xargs -r clang-format --dry-run -Werror \
+        || { echo "clang-format -i FILE mends it."; false; }
+}
+
+lint_shell() {
+    # Where a sourced file lies is known at run time only.
+    sources dev '.ci/run' '*.sh' | xargs -r shellcheck --shell=bash --exclude=SC1090,SC1091
+}
+
+# The compiler's own, which the dev preset turns into errors.
+lint_warnings() {
+    build dev
+}
+
+# Left out: what it misreads (a QPointer that turns null, members set through an initialiser list,
+# children that their parents delete) and Qt's habit to name a local as the getter that it comes from.
+lint_cppcheck() {
+    cppcheck --quiet --error-exitcode=1 --inline-suppr --std=c++17 -j "$(nproc)" \
+        --library=qt --enable=warning,style,performance,portability \
+        --suppress=knownConditionTrueFalse --suppress=shadowFunction --suppress=unassignedVariable \
+        --suppress=unsafeClassCanLeak --suppress=unusedStructMember \
+        -I include -I platform/keyboard/include -I platform/style/include \
+        src include platform gallery
+}
+
+# The compile commands of the dev build, less what only g++ understands, in build/lint.
+clang_compile_commands() {
+    build dev
+    mkdir -p build/lint
+    sed -E 's/ (-fno-gnu-unique|-Werror)\b//g' build/dev/compile_commands.json >build/lint/compile_commands.json
+}
+
+readonly OWN_HEADERS="$DEV_ROOT/(src|include|platform|gallery)/"
+
+lint_clazy() {
+    clang_compile_commands
+    # Properties have no change signals: that is the library's interface.
+    library_sources \
+        | for_each_file clazy-standalone -p build/lint -header-filter="$OWN_HEADERS" \
+            -checks=level1,no-qproperty-without-notify 2>&1 \
+        | no_lines_but '^[0-9]+ warnings? generated\.$'
+}
+
+lint_tidy() {
+    clang_compile_commands
+    library_sources \
+        | for_each_file clang-tidy -p build/lint --quiet --header-filter="$OWN_HEADERS" 2>&1 \
+        | no_lines_but '^[0-9]+ warnings? generated\.$|^$'
+}
