@@ -24,9 +24,9 @@ Row dispatchRow()
 QVector<Row> allRows()
 {
     QVector<Row> rows = {dispatchRow()};
-    rows += frameRows();
-    rows += buttonRows();
-    rows += scrollIndicatorRows();
+    for (auto* family :
+         {frameRows, switchRows, batteryRows, scrollIndicatorRows, buttonRows, textRows, lifeRows})
+        rows += family();
     return rows;
 }
 

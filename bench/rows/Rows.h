@@ -4,8 +4,12 @@
 
 namespace bench {
 
+QVector<Row> batteryRows();
 QVector<Row> buttonRows();
 QVector<Row> frameRows();
+QVector<Row> lifeRows();
 QVector<Row> scrollIndicatorRows();
+QVector<Row> switchRows();
+QVector<Row> textRows();
 
 } // namespace bench

@@ -27,4 +27,19 @@ export QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96
 valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file="$results/callgrind" \
     "$program" --count >"$results/callgrind.log" 2>&1
 
-python3 tools/bench/table.py "$results/rows" "$results/times.json" "$results"/callgrind.* | tee build/bench/table.md
+# What loading the library costs.
+library_facts() {
+    local library=build/bench/src/libplatform_widgets.so.1.2 stripped=$results/stripped
+    strip -o "$stripped" "$library"
+    echo "| Library | |"
+    echo "|---|--:|"
+    echo "| size, stripped | $(stat -c %s "$stripped") bytes |"
+    echo "| relocations | $(readelf -rW "$library" | grep -c ' R_') |"
+    echo "| exported symbols | $(nm -D --defined-only "$library" | wc -l) |"
+}
+
+{
+    python3 tools/bench/table.py "$results/rows" "$results/times.json" "$results"/callgrind.*
+    echo
+    library_facts
+} | tee build/bench/table.md

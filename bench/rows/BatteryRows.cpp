@@ -1,0 +1,120 @@
+#include "Painting.h"
+#include "Rows.h"
+
+#include <ui/CBatteryStatusWidget.h>
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QProgressBar>
+
+namespace bench {
+
+namespace {
+
+const QSize batterySize(40, 80);
+const QRect body(4, 13, 32, 52); // where a battery of that size has its body
+const QRect terminal(15, 10, 10, 3);
+
+std::shared_ptr<ui::CBatteryStatusWidget> battery(int percent, bool charging)
+{
+    auto result = std::make_shared<ui::CBatteryStatusWidget>();
+    result->resize(batterySize);
+    result->setChargePercentage(percent);
+    result->setBatteryCharging(charging);
+    return result;
+}
+
+std::shared_ptr<QProgressBar> progressBar(int percent)
+{
+    auto result = std::make_shared<QProgressBar>();
+    result->setOrientation(Qt::Vertical);
+    result->setTextVisible(false);
+    result->resize(batterySize);
+    result->setValue(percent);
+    return result;
+}
+
+QBrush gradient(const QColor& from, const QColor& to)
+{
+    QLinearGradient result(0, 1, 1, 0);
+    result.setCoordinateMode(QGradient::ObjectBoundingMode);
+    result.setColorAt(0, from);
+    result.setColorAt(1, to);
+    return result;
+}
+
+void drawBattery(QPainter& painter, const QBrush& fill)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRect(6, 38, 28, 25), fill);
+    painter.setPen(QPen(QBrush(Qt::black), 4, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.drawRoundedRect(QRectF(body), 6.472, 6.472);
+    painter.setBrush(Qt::black);
+    painter.drawRoundedRect(QRectF(terminal), 6.472, 6.472);
+}
+
+void drawBolt(QPainter& painter, const QBrush& brush)
+{
+    QPainterPath path(QPointF(14, 58));
+    for (const QPointF& point :
+         {QPointF(22, 41.4), QPointF(16, 41.4), QPointF(22, 27), QPointF(32, 27), QPointF(26, 39.4),
+          QPointF(33, 39.4), QPointF(14, 58)})
+        path.lineTo(point);
+    painter.setPen(QPen(QBrush(Qt::darkYellow), 2, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setBrush(brush);
+    painter.drawPath(path);
+}
+
+Work bareBattery(bool charging)
+{
+    const QBrush fill = gradient(Qt::darkBlue, Qt::blue);
+    const QBrush bolt = gradient(Qt::darkYellow, Qt::yellow);
+    return draw(batterySize, [charging, fill, bolt](QPainter& painter) {
+        drawBattery(painter, fill);
+        if (charging)
+            drawBolt(painter, bolt);
+    });
+}
+
+/// From 0 to 100, with the painting of what each step damages.
+Work chargeRun()
+{
+    const auto widget = battery(0, false);
+    const Work repaint = paint(widget, body);
+    return [widget, repaint] {
+        for (int percent = 0; percent <= 100; ++percent) {
+            widget->setChargePercentage(percent);
+            repaint();
+        }
+    };
+}
+
+Work progressRun()
+{
+    const auto widget = progressBar(0);
+    const Work repaint = paint(widget);
+    return [widget, repaint] {
+        for (int percent = 0; percent <= 100; ++percent) {
+            widget->setValue(percent);
+            repaint();
+        }
+    };
+}
+
+} // namespace
+
+QVector<Row> batteryRows()
+{
+    const QString stock = QStringLiteral("QProgressBar");
+    const Setup halfFullBar = [] { return paint(progressBar(50)); };
+    return {
+        {QStringLiteral("battery"), [] { return paint(battery(50, false)); }, stock, halfFullBar,
+         [] { return bareBattery(false); }},
+        {QStringLiteral("battery, charging"), [] { return paint(battery(50, true)); }, stock,
+         halfFullBar, [] { return bareBattery(true); }},
+        {QStringLiteral("battery, a charge from 0 to 100"), chargeRun, stock, progressRun, {}},
+    };
+}
+
+} // namespace bench
