@@ -141,7 +141,7 @@ QLayout* SwitchPage::makeGroup()
         group->addButton(control);
         row->addWidget(control);
     }
-    group->buttons().first()->setChecked(true);
+    group->buttons().constFirst()->setChecked(true);
     return row;
 }
 

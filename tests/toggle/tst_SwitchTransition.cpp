@@ -264,9 +264,10 @@ void tst_SwitchTransition::hiddenSwitchJumpsInOrder()
 {
     control().hide();
     QVector<QObject*> order;
+    const QObject scope; // of the connections
     const test::Animators its = animators();
     for (Animator* animator : {its.thumbBrush, its.trackBrush, its.thumbPos}) {
-        connect(animator, &Animator::valueChanged, this, [&order, animator] {
+        connect(animator, &Animator::valueChanged, &scope, [&order, animator] {
             if (!order.contains(animator))
                 order << animator;
         });
