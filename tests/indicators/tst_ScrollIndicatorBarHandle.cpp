@@ -27,6 +27,7 @@ private Q_SLOTS:
     void handles();
     void handlesOfHugeRanges_data();
     void handlesOfHugeRanges();
+    void followsTheSliderBeforeTheValue();
     void survivesAbsurdRanges_data();
     void survivesAbsurdRanges();
 };
@@ -106,6 +107,19 @@ void tst_ScrollIndicatorBarHandle::handlesOfHugeRanges()
     QFETCH(Look, look);
     ScrollIndicatorBar bar;
     apply(look, bar);
+    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
+}
+
+void tst_ScrollIndicatorBarHandle::followsTheSliderBeforeTheValue()
+{
+    Look look;
+    look.handleStart = 100;
+    ScrollIndicatorBar bar;
+    apply(look, bar);
+    bar.setTracking(false);
+    bar.setSliderDown(true);
+    bar.setSliderPosition(50);
+    QCOMPARE(bar.value(), 0);
     QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
 }
 
