@@ -5,8 +5,6 @@
 #include <QApplication>
 #include <QFocusEvent>
 
-#include <algorithm>
-
 namespace {
 
 bool isPick(const QEvent& event)
@@ -30,6 +28,11 @@ ExhibitPicker::ExhibitPicker(QObject* parent)
 void ExhibitPicker::setPage(GalleryPage* page)
 {
     m_page = page;
+    m_exhibits.clear();
+    if (!page)
+        return;
+    for (const GalleryPage::Exhibit& exhibit : page->exhibits())
+        m_exhibits.append(exhibit.widget);
 }
 
 bool ExhibitPicker::eventFilter(QObject* watched, QEvent* event)
@@ -43,12 +46,8 @@ bool ExhibitPicker::eventFilter(QObject* watched, QEvent* event)
 
 QWidget* ExhibitPicker::exhibitAround(QWidget* widget) const
 {
-    const QList<GalleryPage::Exhibit>& exhibits = m_page->exhibits();
     for (; widget && widget != m_page; widget = widget->parentWidget()) {
-        const bool isExhibit =
-            std::any_of(exhibits.cbegin(), exhibits.cend(),
-                        [widget](const auto& exhibit) { return exhibit.widget == widget; });
-        if (isExhibit)
+        if (m_exhibits.contains(widget))
             return widget;
     }
     return nullptr;

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QVector>
 
 class GalleryPage;
 QT_BEGIN_NAMESPACE
@@ -27,5 +28,6 @@ Q_SIGNALS:
 private:
     QWidget* exhibitAround(QWidget* widget) const;
 
-    QPointer<GalleryPage> m_page;
+    QPointer<QWidget> m_page;
+    QVector<QWidget*> m_exhibits; ///< Of the page; to compare with, not to use.
 };
