@@ -3,7 +3,7 @@
 
 "Own" are the instructions less what Qt spends to dispatch a paint event to one empty widget.
 
-usage: table.py ROWS TIMINGS.json CALLGRIND_FILE...
+usage: table.py ROWS TIMINGS.json ALLOCATIONS CALLGRIND_FILE...
 """
 
 import json
@@ -41,11 +41,17 @@ def median_times(name):
     }
 
 
+def counted_allocations(name):
+    """Blocks taken from the heap by 'row|column'."""
+    with open(name, encoding="utf-8") as lines:
+        return {cell: int(count) for cell, count in (line.rstrip("\n").split("\t") for line in lines)}
+
+
 def ratio(numerator, denominator):
     return f"{numerator / denominator:.2f}" if numerator and denominator else ""
 
 
-def cells(row, counts, times):
+def cells(row, counts, times, blocks):
     count = {column: counts.get(f"{row}|{column}") for column in COLUMNS}
     time = {column: times.get(f"{row}|{column}") for column in COLUMNS}
     own = count["ours"] and count["ours"] - counts[f"{DISPATCH}|ours"]
@@ -53,18 +59,20 @@ def cells(row, counts, times):
     yield ratio(count["ours"], count["stock"])
     yield ratio(own, count["floor"])
     yield from (f"{time[column] / 1000:.1f}" if time[column] else "" for column in COLUMNS)
+    yield from (str(blocks.get(f"{row}|{column}", "")) for column in COLUMNS)
 
 
-def main(rows_file, times_file, *callgrind_files):
+def main(rows_file, times_file, allocations_file, *callgrind_files):
     counts = counted_instructions(callgrind_files)
     times = median_times(times_file)
+    blocks = counted_allocations(allocations_file)
     print("| Work | Stock widget | Instructions: ours | stock | floor | ours / stock | own / floor "
-          "| µs: ours | stock | floor |")
-    print("|---|---|--:|--:|--:|--:|--:|--:|--:|--:|")
+          "| µs: ours | stock | floor | heap blocks: ours | stock | floor |")
+    print("|---|---|" + "--:|" * 11)
     with open(rows_file, encoding="utf-8") as rows:
         for line in rows:
             row, stock = line.rstrip("\n").split("\t")
-            print(f"| {row} | {stock} | " + " | ".join(cells(row, counts, times)) + " |")
+            print(f"| {row} | {stock} | " + " | ".join(cells(row, counts, times, blocks)) + " |")
 
 
 if __name__ == "__main__":

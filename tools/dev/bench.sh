@@ -24,6 +24,8 @@ export QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96
 "$program" --benchmark_enable_random_interleaving=true --benchmark_repetitions=9 --benchmark_min_time=0.02 \
     --benchmark_report_aggregates_only=true \
     --benchmark_out="$results/times.json" --benchmark_out_format=json >"$results/times.txt"
+"$program" --allocations >"$results/allocations"
+"$program" --browsing >"$results/browsing"
 valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file="$results/callgrind" \
     "$program" --count >"$results/callgrind.log" 2>&1
 
@@ -39,7 +41,10 @@ library_facts() {
 }
 
 {
-    python3 tools/bench/table.py "$results/rows" "$results/times.json" "$results"/callgrind.*
+    python3 tools/bench/table.py "$results/rows" "$results/times.json" "$results/allocations" \
+        "$results"/callgrind.*
+    echo
+    cat "$results/browsing"
     echo
     library_facts
 } | tee build/bench/table.md
