@@ -34,6 +34,8 @@ void SelectionHandler::run()
             --current.nestedRuns;
             runs.push_back(startRun());
         } else if (!deselectNext(current)) {
+            if (runs.size() == 1)
+                forgetLastCommand(current);
             runs.pop_back();
             Q_EMIT m_browser->selectionChanged();
         }
@@ -64,23 +66,31 @@ bool SelectionHandler::deselectNext(Run& run)
 {
     if (run.next == run.directories.size() || !m_model || !m_tileView)
         return false;
-    const SelectionSnapshot snapshot(m_tileView->selectionModel());
-    QModelIndex skipped;
+    // A run that has only just begun found all of its directories selected.
+    const bool justBegun = run.next == 0;
+    const SelectionSnapshot snapshot(justBegun ? nullptr : m_tileView->selectionModel());
     while (run.next < run.directories.size()) {
         const QModelIndex directory = run.directories.at(run.next++);
         if (!directory.isValid() || !m_model->isDir(directory))
             continue;
-        if (snapshot.contains(directory)) {
+        run.lastSkipped = !justBegun && !snapshot.contains(directory);
+        if (!run.lastSkipped) {
             run.nestedRuns = deselect(directory);
             return true;
         }
-        skipped = directory;
     }
-    // The selection model remembers its last command, and Shift takes that back when it extends
-    // the selection. This one changes nothing, but is the last of those saved above.
-    if (skipped.isValid())
-        deselect(skipped);
     return false;
+}
+
+/**
+ * The selection model does not settle its last command until the next, and Shift and a tap take it
+ * back. The nested runs deselected what was left to \a run; deselecting it here once more, though
+ * it changes nothing, settles that.
+ */
+void SelectionHandler::forgetLastCommand(const Run& run)
+{
+    if (run.lastSkipped && m_tileView)
+        deselect(run.directories.last());
 }
 
 /// Returns how many runs of the handler the deselection asked for.

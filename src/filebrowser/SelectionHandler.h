@@ -43,10 +43,12 @@ private:
         QVector<QPersistentModelIndex> directories; ///< To deselect, as found at the run's start.
         int next = 0; ///< The first one not dealt with yet.
         int nestedRuns = 0; ///< To be made before the run goes on.
+        bool lastSkipped = false; ///< Whether the last directory was deselected by another run.
     };
 
     Run startRun() const;
     bool deselectNext(Run& run);
+    void forgetLastCommand(const Run& run);
     int deselect(const QModelIndex& index);
 
     QPointer<FileBrowserWidget> m_browser;

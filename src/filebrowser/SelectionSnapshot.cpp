@@ -22,7 +22,7 @@ SelectionSnapshot::SelectionSnapshot(const QItemSelectionModel* selectionModel)
     if (!selectionModel || !selectionModel->model())
         return;
     for (const QItemSelectionRange& range : selectionModel->selection()) {
-        if (range.isValid())
+        if (range.topLeft().isValid()) // range.isValid() compares parents, which take time to find
             add(range);
     }
 }

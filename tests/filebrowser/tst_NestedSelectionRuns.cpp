@@ -215,7 +215,7 @@ void tst_NestedSelectionRuns::matchPlainRecursion()
 void tst_NestedSelectionRuns::matchPlainRecursionForAnySelection()
 {
     QRandomGenerator random(1);
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < 30; ++round) {
         const bool mixed = round % 2;
         const QString path = mixed ? m_mixed.path() : m_directories.path();
         const int count = directoryCount + (mixed ? fileCount : 0);
@@ -231,7 +231,7 @@ void tst_NestedSelectionRuns::matchPlainRecursionForAnySelection()
 void tst_NestedSelectionRuns::matchPlainRecursionWhateverSlotsDo()
 {
     QRandomGenerator random(2);
-    for (quint32 round = 0; round < 100; ++round) {
+    for (quint32 round = 0; round < 50; ++round) {
         const bool mixed = round % 2;
         const QString path = mixed ? m_mixed.path() : m_directories.path();
         const int count = directoryCount + (mixed ? fileCount : 0);
@@ -299,11 +299,12 @@ void tst_NestedSelectionRuns::thousandDirectories()
 
 void tst_NestedSelectionRuns::thousandDirectoriesWithASlotThatReadsTheSelection()
 {
-    ui::FileBrowserWidget browser;
+    QWidget window;
+    ui::FileBrowserWidget browser(&window);
     const BrowserParts parts(browser);
     browser.setSelectionMode(ui::FileBrowserWidget::MultiSelection);
     browser.setAllowedDirs({m_large.path()});
-    browser.show();
+    window.show();
     QVERIFY(loaded(*parts.tileView, 1000));
 
     QVector<int> sizes;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+
+class BreadCrumbsWidget;
+QT_BEGIN_NAMESPACE
+class QMenu;
+class QObject;
+QT_END_NAMESPACE
+
+namespace test {
+
+/**
+ * Clicks the "..." button of \a bar, calls \a inspect while its menu is open, and closes the menu
+ * if it is still there. Returns when the menu has been deleted; false if none was opened.
+ */
+bool withMenu(const BreadCrumbsWidget& bar, const std::function<void(QMenu&)>& inspect);
+
+/// Calls \a use, once, with the next menu that opens, from within the event loop.
+void whenMenuOpens(QObject* context, const std::function<void(QMenu&)>& use);
+
+} // namespace test
