@@ -1,0 +1,56 @@
+#!/usr/bin/env python3
+"""The ways to break a source: each sample's mutants, and nothing where there is no code."""
+import sys
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools" / "mutants"))
+from mutate import mutants  # noqa: E402
+
+
+def broken(body):
+    """The bodies that a function's body is broken into."""
+    head, tail = "void f(int a, int b)\n{\n    ", "\n}\n"
+    text = head + body + tail
+    return sorted(mutant.apply(text)[len(head):-len(tail)] for mutant in mutants(text))
+
+
+class Mutation(unittest.TestCase):
+    def test_comparisons_and_conditions(self):
+        self.assertEqual(broken("return a < b;"), ["return a <= b;"])
+        self.assertEqual(broken("return a != b && !c;"), ["return a != b && c;", "return a != b || !c;",
+                                                          "return a == b && !c;"])
+        self.assertEqual(broken("if (a)\n        return;"), ["if (!(a))\n        return;", "if (a)\n        ;"])
+
+    def test_numbers(self):
+        self.assertEqual(broken("return 7;"), ["return 6;", "return 8;"])
+        self.assertEqual(broken("return 0;"), ["return (-1);", "return 1;"])
+        self.assertEqual(broken("return 0x0f;"), ["return 0x10;"])
+        self.assertEqual(broken("return 0.5;"), ["return 0.45;", "return 0.55;"])
+
+    def test_arithmetic(self):
+        self.assertEqual(broken("return a + b;"), ["return a - b;"])
+        self.assertEqual(broken("return qMin(a, -b);"), ["return qMax(a, -b);", "return qMin(a, b);"])
+
+    def test_statements(self):
+        self.assertEqual(broken("call(a);"), [";"])
+        self.assertEqual(broken("m = a;\n    call(b);"), [";\n    call(b);", "call(b);\n    m = a;", "m = a;\n    ;"])
+        self.assertEqual(broken("const int c = call(a);"), [])
+        self.assertEqual(broken("QPainter painter(this);"), [])
+        self.assertEqual(broken("m = a;\n    update();"), [";\n    update();", "m = a;\n    ;"])
+
+    def test_statements_under_labels_and_in_lambdas(self):
+        self.assertEqual(broken("switch (a) {\n    default:\n        call(b);\n    }"),
+                         ["switch (a) {\n    default:\n        ;\n    }"])
+        self.assertIn("run([] { ; });", broken("run([] { call(); });"))
+
+    def test_no_code(self):
+        self.assertEqual(broken("// 1 < 2, call();"), [])
+        self.assertEqual(broken("/* a + b */"), [])
+        self.assertEqual(broken('return "1 + 1";'), [])
+        self.assertEqual(mutants("#define A 1\n#include <b>\nX::~X() = default;\n"), [])
+        self.assertEqual(broken("QVector<int*> a;"), [])
+
+
+if __name__ == "__main__":
+    unittest.main()
