@@ -37,6 +37,10 @@ refuses "unknown option '--frobnicate'" test --frobnicate
 refuses "unknown preset 'fast'" test --preset fast
 refuses "unknown preset 'fast'" build fast
 refuses "--filter needs a value" test --filter
+refuses "unknown checker 'frob'" lint frob
+refuses "unknown option '--frob'" mutants --frob
+refuses "--file needs a value" mutants --file
+refuses "too many arguments" abi --accept --accept
 
 # Missing packages, with a stand-in for each system tool. The log shows what would be installed.
 mkdir "$scratch/bin"
