@@ -1,6 +1,6 @@
 #include "SignalLog.h"
 
-#include <ui/LineEdit.h>
+#include <ui/KeypadLineEdit.h>
 
 #include <utility>
 
@@ -22,6 +22,13 @@ SignalLog::SignalLog(ui::LineEdit* edit)
             [this] { add(QStringLiteral("returnPressed")); });
     connect(edit, &QLineEdit::textEdited, this,
             [this](const QString& text) { add(QStringLiteral("textEdited(%1)").arg(text)); });
+}
+
+SignalLog::SignalLog(ui::KeypadLineEdit* edit)
+    : SignalLog(static_cast<ui::LineEdit*>(edit))
+{
+    connect(edit, &ui::KeypadLineEdit::startKeypad, this,
+            [this] { add(QStringLiteral("startKeypad")); });
 }
 
 QStringList SignalLog::take()

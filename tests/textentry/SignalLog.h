@@ -4,6 +4,7 @@
 #include <QStringList>
 
 namespace ui {
+class KeypadLineEdit;
 class LineEdit;
 } // namespace ui
 
@@ -17,6 +18,7 @@ class SignalLog : public QObject
 
 public:
     explicit SignalLog(ui::LineEdit* edit);
+    explicit SignalLog(ui::KeypadLineEdit* edit);
 
     /// The signals since the last call.
     QStringList take();

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <ui/keyboard/KeyboardType.h>
+#include <ui/LineEdit.h>
+
+namespace ui {
+
+class KeypadPopup;
+
+/**
+ * A ui::LineEdit that opens the device's on-screen keypad while it is being edited.
+ *
+ * When the field gains the focus, a ui::KeypadPopup opens beside it. The keypad's OK and Cancel end
+ * the edit as Return and Escape do; a tap outside both closes the pop-up and reverts the text. The
+ * pop-up is made on first use and serves the field for its whole life.
+ *
+ * @code
+ * auto* port = new ui::KeypadLineEdit(form, ui::keyboard::KeyboardType::Integer);
+ * port->setValidator(new QIntValidator(1, 65535, port));
+ * connect(port, &ui::LineEdit::valueChanged, form, [=] { store(port->text()); });
+ * @endcode
+ *
+ * The pop-up is always shown and hidden one turn of the event loop after the request. It leaves the
+ * focus with the field; focus that comes back because a pop-up was closed is given up at once. The
+ * nearest neighbour in Qt is a QLineEdit with an input method, whose panel is not tied to one field.
+ */
+class PLATFORM_WIDGETS_EXPORT KeypadLineEdit : public LineEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+
+public:
+    /// \a type is the layout of the keypad.
+    KeypadLineEdit(QWidget* parent, ui::keyboard::KeyboardType type);
+
+    /// Hides the pop-up and deletes it; an edit in progress is dropped without a signal.
+    ~KeypadLineEdit() override;
+
+    /**
+     * Sets the maximum length of the text to \a length characters as QLineEdit::setMaxLength() does,
+     * but keeps what was selected, as far as the shortened text still holds it.
+     */
+    virtual void setMaxLength(int length);
+
+    /// The pop-up, owned by the field; null until the first showKeypad().
+    KeypadPopup* keypad() const;
+
+    /// Opens the pop-up in the next turn of the event loop; does nothing if it is visible already.
+    void showKeypad();
+
+    /// Hides the pop-up, if it is visible now, in the next turn of the event loop.
+    void hideKeypad();
+
+Q_SIGNALS:
+    /// The pop-up has just been shown.
+    void startKeypad();
+
+protected Q_SLOTS:
+    // These hide the functions of the base class, which Return, Enter and Escape still reach.
+    void onOkKey(); ///< The keypad's OK: hides the keypad and commits.
+    void onCancelKey(); ///< The keypad's Cancel: hides the keypad and reverts.
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void createPopup();
+    void openPopup();
+
+    ui::keyboard::KeyboardType keyboardType;
+    KeypadPopup* popup = nullptr;
+};
+
+} // namespace ui

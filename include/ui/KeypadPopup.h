@@ -1,0 +1,108 @@
+#pragma once
+
+#include "platform_widgets_export.h"
+
+#include <ui/keyboard/KeyboardType.h>
+
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QFrame;
+class QLabel;
+QT_END_NAMESPACE
+
+namespace ui {
+
+namespace keyboard {
+class IKeypad;
+}
+
+/**
+ * A pop-up window that carries the device's on-screen keypad beside the widget being edited.
+ *
+ * The pop-up places itself right under the edited widget, or above it where there is no room below. It
+ * leaves the keyboard focus with that widget while it is up: key presses that reach the pop-up, from
+ * the keypad or from a hardware keyboard, and taps on the edited widget are passed on. The keypad is
+ * told the verdict of a ui::LineEdit, so that it can refuse OK while the text is not acceptable.
+ *
+ * @code
+ * auto* popup = new ui::KeypadPopup(edit, tr("Port"), ui::keyboard::KeyboardType::Integer, -1);
+ * connect(popup, &ui::KeypadPopup::signalOk, popup, &QWidget::hide);
+ * popup->locatePopup();
+ * popup->show();
+ * @endcode
+ *
+ * ui::KeypadLineEdit does all of this by itself. The nearest neighbour in Qt is any QWidget with the
+ * window type Qt::Popup, which takes the keyboard from the focused widget instead of feeding it. As
+ * there, a press outside the pop-up, but not on the edited widget, closes it.
+ *
+ * The background is a fixed light grey, whatever the palette; texts are painted in the palette's
+ * WindowText and by the keypad. A keyboard library that offers no keypad for the type asked for leaves
+ * a pop-up with the subtitle alone.
+ */
+class PLATFORM_WIDGETS_EXPORT KeypadPopup : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Makes a hidden pop-up for the edited widget \a parent, which owns it and must not be null.
+     *
+     * \a title is the subtitle above the keypad, \a type the keypad's layout. The last argument is
+     * ignored. If \a parent has no signal resultValidated(bool), Qt prints a warning and the keypad
+     * allows every entry.
+     */
+    KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::KeyboardType type, int);
+    ~KeypadPopup() override;
+
+    /// Sets the line above the keypad to \a text, which is shown as it stands, without any markup.
+    void setSubtitleLabel(const QString& text);
+
+    /**
+     * Moves the pop-up, measured by its size hint, next to the edited widget.
+     *
+     * Its top left corner goes under the widget's bottom left corner; if it would reach below the
+     * bottom of the screen, its bottom goes to the widget's top edge instead; if fewer than 10 pixels
+     * would stay free at the right edge of the screen, it is moved left to leave 10. Nothing pulls it
+     * back at the left and top edges.
+     */
+    void locatePopup();
+
+    /**
+     * Shows or hides a section of the keypad; the numbers are those of the keyboard library. The
+     * pop-up is placed again at once, and if it is visible takes its new size. Does nothing without a
+     * keypad.
+     */
+    void setKeypadSectionVisible(int section, bool visible);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void signalOk(); ///< The keypad's OK key was pressed. The pop-up stays open.
+    void signalCancel(); ///< The keypad's Cancel key was pressed. The pop-up stays open.
+
+protected Q_SLOTS:
+    void slotOkButton(); ///< Emits signalOk().
+    void slotCancelButton(); ///< Emits signalCancel().
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void connectKeypad();
+    QFrame* createFrame();
+    void createSubtitle(QWidget* frame, const QString& title);
+    bool passToTarget(const QMouseEvent& event);
+
+    ui::keyboard::IKeypad* keypadWidget;
+    QLabel* subtitleLabel;
+    QWidget* target;
+    bool buttonPressed = false; // an OK or a Cancel has been pressed since construction
+    bool refocusPending = true; // the focus loss that comes with the next showing is undone
+};
+
+} // namespace ui

@@ -1,0 +1,222 @@
+#include "ui/KeypadPopup.h"
+
+#include <ui/keyboard/IKeypad.h>
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QFrame>
+#include <QLabel>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+
+namespace ui {
+
+namespace {
+
+constexpr int frameLineWidth = 1;
+constexpr int frameMidLineWidth = 2;
+constexpr int frameMargin = 5;
+constexpr int frameSpacing = 5;
+constexpr int subtitleHeight = 20;
+constexpr int rightScreenMargin = 10;
+
+// Shades of the base colour in percent, as QColor::lighter() and QColor::darker() take them.
+constexpr int lightFactor = 110;
+constexpr int subtitleFactor = 115;
+constexpr int midFactor = 125;
+constexpr int darkFactor = 160;
+
+QColor baseColor()
+{
+    return QColor(235, 235, 235);
+}
+
+/// From the innermost layout out, since a layout tells the next outer one only when it is activated.
+void activateLayouts(QWidget* widget)
+{
+    const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* child : children) {
+        if (!child->isWindow())
+            activateLayouts(child);
+    }
+    if (QLayout* layout = widget->layout())
+        layout->activate();
+}
+
+bool isPassedToTarget(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease
+        || type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove;
+}
+
+} // namespace
+
+KeypadPopup::KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::KeyboardType type,
+                         int)
+    : QWidget(parent, Qt::Popup)
+    , target(parent)
+{
+    parent->installEventFilter(this);
+    // The pop-up dies with its parent, but an application may have given it another one meanwhile.
+    connect(parent, &QObject::destroyed, this, [this] { target = nullptr; });
+    setFocusPolicy(Qt::NoFocus);
+    setAutoFillBackground(true);
+
+    keypadWidget = ui::keyboard::IKeypad::create(type, this);
+    if (keypadWidget)
+        connectKeypad();
+
+    QFrame* frame = createFrame();
+    createSubtitle(frame, title);
+
+    auto* outerLayout = new QVBoxLayout(this);
+    outerLayout->setContentsMargins(0, 0, 0, 0);
+    outerLayout->addWidget(frame);
+
+    auto* innerLayout = new QVBoxLayout(frame);
+    innerLayout->setContentsMargins(frameMargin, frameMargin, frameMargin, frameMargin);
+    innerLayout->setSpacing(frameSpacing);
+    innerLayout->addWidget(subtitleLabel);
+    if (keypadWidget)
+        innerLayout->addWidget(keypadWidget);
+}
+
+KeypadPopup::~KeypadPopup() = default;
+
+void KeypadPopup::connectKeypad()
+{
+    using ui::keyboard::IKeypad;
+    connect(keypadWidget, &IKeypad::signalOk, this, &KeypadPopup::slotOkButton);
+    connect(keypadWidget, &IKeypad::signalCancel, this, &KeypadPopup::slotCancelButton);
+    // By signature, as the edited widget may be of any class: Qt warns if it has no such signal.
+    connect(target, SIGNAL(resultValidated(bool)), keypadWidget, SLOT(allowEntry(bool)));
+}
+
+QFrame* KeypadPopup::createFrame()
+{
+    auto* frame = new QFrame(this);
+    frame->setFrameStyle(QFrame::Box | QFrame::Raised);
+    frame->setLineWidth(frameLineWidth);
+    frame->setMidLineWidth(frameMidLineWidth);
+    frame->setFocusPolicy(Qt::NoFocus);
+    frame->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding);
+
+    QPalette palette = frame->palette();
+    palette.setColor(frame->backgroundRole(), baseColor());
+    palette.setColor(QPalette::Light, baseColor().lighter(lightFactor));
+    palette.setColor(QPalette::Mid, baseColor().darker(midFactor));
+    palette.setColor(QPalette::Dark, baseColor().darker(darkFactor));
+    frame->setPalette(palette);
+    frame->setAutoFillBackground(true);
+    return frame;
+}
+
+void KeypadPopup::createSubtitle(QWidget* frame, const QString& title)
+{
+    subtitleLabel = new QLabel(title, frame);
+    subtitleLabel->setTextFormat(Qt::PlainText);
+    subtitleLabel->setFixedHeight(subtitleHeight);
+    subtitleLabel->setAlignment(Qt::AlignCenter);
+    subtitleLabel->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+
+    QPalette palette = subtitleLabel->palette();
+    palette.setColor(subtitleLabel->backgroundRole(), baseColor().darker(subtitleFactor));
+    subtitleLabel->setPalette(palette);
+    subtitleLabel->setAutoFillBackground(true);
+}
+
+void KeypadPopup::setSubtitleLabel(const QString& text)
+{
+    if (subtitleLabel)
+        subtitleLabel->setText(text);
+}
+
+void KeypadPopup::locatePopup()
+{
+    if (!target)
+        return;
+    const QSize screen = QApplication::desktop()->geometry().size();
+    QPoint position = target->mapToGlobal(QPoint(0, target->height()));
+    if (position.y() + sizeHint().height() > screen.height())
+        position.ry() -= sizeHint().height() + target->height();
+    if (position.x() + sizeHint().width() >= screen.width() - rightScreenMargin + 1)
+        position.setX(screen.width() - rightScreenMargin - sizeHint().width());
+    move(position);
+}
+
+void KeypadPopup::setKeypadSectionVisible(int section, bool visible)
+{
+    if (!keypadWidget)
+        return;
+    keypadWidget->setSectionVisible(section, visible);
+    activateLayouts(this); // the size hint is the old one until then
+    if (isVisible()) {
+        resize(sizeHint());
+        setAttribute(Qt::WA_Resized, false); // so that the next showing measures afresh
+    }
+    locatePopup();
+}
+
+bool KeypadPopup::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != target || event->type() != QEvent::FocusOut || !isVisible() || !refocusPending)
+        return false;
+    refocusPending = false;
+    target->activateWindow();
+    target->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+void KeypadPopup::slotOkButton()
+{
+    buttonPressed = true;
+    Q_EMIT signalOk();
+}
+
+void KeypadPopup::slotCancelButton()
+{
+    buttonPressed = true;
+    Q_EMIT signalCancel();
+}
+
+bool KeypadPopup::event(QEvent* event)
+{
+    if (isPassedToTarget(event->type()) && passToTarget(*static_cast<QMouseEvent*>(event)))
+        return true;
+    return QWidget::event(event);
+}
+
+/// Whether \a event happened on the edited widget and has been sent there.
+bool KeypadPopup::passToTarget(const QMouseEvent& event)
+{
+    if (!target)
+        return false;
+    const QPoint globalPosition = mapToGlobal(event.localPos().toPoint());
+    QWidget* receiver = QApplication::widgetAt(globalPosition);
+    // The pop-up, being a window of its own, is no descendant in the sense of isAncestorOf().
+    if (!receiver || (receiver != target && !target->isAncestorOf(receiver)))
+        return false;
+    QMouseEvent passedOn(event.type(), receiver->mapFromGlobal(globalPosition), globalPosition,
+                         event.button(), event.buttons(), event.modifiers());
+    QCoreApplication::sendEvent(receiver, &passedOn);
+    return true;
+}
+
+void KeypadPopup::keyPressEvent(QKeyEvent* event)
+{
+    if (target)
+        QCoreApplication::sendEvent(target, event);
+}
+
+void KeypadPopup::showEvent(QShowEvent*)
+{
+    refocusPending = true;
+}
+
+// Closing and hiding go ahead as usual; what they mean for the edit is decided by the edited widget.
+void KeypadPopup::closeEvent(QCloseEvent*) { }
+
+void KeypadPopup::hideEvent(QHideEvent*) { }
+
+} // namespace ui
