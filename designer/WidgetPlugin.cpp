@@ -5,7 +5,7 @@
 namespace {
 
 /// Object name of the first instance on a form: the class name without namespace, in lower camel case.
-QString objectName(const QString& className)
+QString instanceName(const QString& className)
 {
     QString name = className.section(QStringLiteral("::"), -1);
     const bool prefixed = name.startsWith(QLatin1Char('C')) && name.at(1).isUpper();
@@ -75,7 +75,7 @@ QString WidgetPlugin::domXml() const
                        "</customwidget></customwidgets></ui>");
     const WidgetDescription& d = m_description;
     return form
-        .arg(d.className.section(QStringLiteral("::"), -1), d.className, objectName(d.className))
+        .arg(d.className.section(QStringLiteral("::"), -1), d.className, instanceName(d.className))
         .arg(d.size.width())
         .arg(d.size.height())
         .arg(d.properties, d.baseClassName);
