@@ -2,12 +2,12 @@
 
 #include <BreadCrumbsWidget.h>
 #include <ClickableLabel.h>
-#include <designer/KeypadField.h>
 #include <Switch.h>
 #include <ui/CBatteryStatusWidget.h>
 #include <ui/CGridArrangedButton.h>
 #include <ui/CRoundedFrame.h>
 #include <ui/FileBrowserWidget.h>
+#include <ui/KeypadLineEdit.h>
 #include <ui/LineEdit.h>
 #include <ui/ScrollIndicatorBar.h>
 
@@ -119,16 +119,16 @@ QVector<WidgetDescription> inputs()
          {},
          false,
          make<ui::LineEdit>},
-        {QStringLiteral("KeypadField"),
+        {QStringLiteral("ui::KeypadLineEdit"),
          QStringLiteral("QLineEdit"),
-         QStringLiteral("designer/KeypadField.h"),
+         QStringLiteral("ui/KeypadLineEdit.h"),
          group,
          tr("Line edit with an on-screen keypad"),
          icon("keypad-line-edit"),
          {160, 40},
          {},
          false,
-         make<KeypadField>},
+         make<ui::KeypadLineEdit>},
         {QStringLiteral("Switch"),
          QStringLiteral("QAbstractButton"),
          QStringLiteral("Switch.h"),

@@ -32,8 +32,12 @@ class PLATFORM_WIDGETS_EXPORT KeypadLineEdit : public LineEdit
     Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
-    /// \a type is the layout of the keypad.
-    KeypadLineEdit(QWidget* parent, ui::keyboard::KeyboardType type);
+    /**
+     * A field owned by \a parent, with the keypad layout \a type. Forms, which pass a parent and
+     * nothing else, get the layout that the keyboard library lists first.
+     */
+    explicit KeypadLineEdit(QWidget* parent,
+                            ui::keyboard::KeyboardType type = ui::keyboard::KeyboardType());
 
     /// Hides the pop-up and deletes it; an edit in progress is dropped without a signal.
     ~KeypadLineEdit() override;
