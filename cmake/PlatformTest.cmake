@@ -1,13 +1,15 @@
 # platform_add_test(CLASS
 #     [PLATFORMS offscreen x11]  where it runs; offscreen alone by default
+#     [SCREENS WIDTHxHEIGHT...]  on x11, the sizes of the screens that it runs on one after the other
 #     [SOURCES file...]          further sources beside tst_CLASS.cpp
 #     [LIBRARIES target...]      further libraries to link
 #     [LOADS_LIBRARY])           not linked to the widget library, whose path it gets as WIDGETS_LIBRARY
 #
-# Builds tst_CLASS and registers it once per platform as PLATFORM.CLASS. A warning that no test
+# Builds tst_CLASS and registers it once per platform as PLATFORM.CLASS, and with SCREENS once per
+# screen as x11.CLASS.WIDTHxHEIGHT. A warning that no test
 # announced with QTest::ignoreMessage() fails the run, and so does a skipped test.
 function(platform_add_test class)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "LOADS_LIBRARY" "" "PLATFORMS;SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "LOADS_LIBRARY" "" "PLATFORMS;SCREENS;SOURCES;LIBRARIES")
     set(program tst_${class})
     add_executable(${program} ${program}.cpp ${arg_SOURCES})
     target_link_libraries(${program} PRIVATE platform_test_support ${arg_LIBRARIES})
@@ -27,19 +29,27 @@ function(platform_add_test class)
         list(REMOVE_ITEM arg_PLATFORMS x11)
     endif()
     foreach(platform IN LISTS arg_PLATFORMS)
-        if(platform STREQUAL "x11")
-            set(command "${PROJECT_SOURCE_DIR}/tests/support/with-x-server.sh" $<TARGET_FILE:${program}>)
-            set(plugin xcb)
-        else()
-            set(command ${program})
-            set(plugin offscreen)
+        if(NOT platform STREQUAL "x11")
+            platform_register_test(${platform}.${class} ${platform} "" ${program})
+            continue()
         endif()
-        add_test(NAME ${platform}.${class} COMMAND ${command})
-        set_tests_properties(${platform}.${class} PROPERTIES
-            ENVIRONMENT "QT_QPA_PLATFORM=${plugin};${PLATFORM_TEST_ENVIRONMENT}"
-            FAIL_REGULAR_EXPRESSION "QWARN  ;QCRITICAL;QSYSTEM;SKIP   ;XFAIL  "
-            TIMEOUT 300)
+        set(command "${PROJECT_SOURCE_DIR}/tests/support/with-x-server.sh" $<TARGET_FILE:${program}>)
+        if(NOT arg_SCREENS)
+            platform_register_test(x11.${class} xcb "" ${command})
+        endif()
+        foreach(screen IN LISTS arg_SCREENS)
+            platform_register_test(x11.${class}.${screen} xcb "XSERVER_SCREEN=${screen}x24" ${command})
+        endforeach()
     endforeach()
+endfunction()
+
+# Registers the test NAME, which runs the command ARGN with Qt's platform plugin PLUGIN.
+function(platform_register_test name plugin environment)
+    add_test(NAME ${name} COMMAND ${ARGN})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=${plugin};${PLATFORM_TEST_ENVIRONMENT};${environment}"
+        FAIL_REGULAR_EXPRESSION "QWARN  ;QCRITICAL;QSYSTEM;SKIP   ;XFAIL  "
+        TIMEOUT 300)
 endfunction()
 
 set(PLATFORM_TEST_ENVIRONMENT

@@ -26,6 +26,9 @@ public:
     bool showActive()
     {
         show();
+        if (!QTest::qWaitForWindowExposed(this))
+            return false;
+        // A window that appears while the window manager starts gets the focus on request only.
         activateWindow();
         if (!QTest::qWaitForWindowActive(this))
             return false;
