@@ -6,6 +6,7 @@
 #include "OverviewPage.h"
 #include "ScrollIndicatorPage.h"
 #include "SwitchPage.h"
+#include "TextEntryPage.h"
 
 #include <QCoreApplication>
 
@@ -32,6 +33,7 @@ QVector<PageEntry> allPages()
         {QStringLiteral("grid-button"), tr("Grid button"), make<GridButtonPage>},
         {QStringLiteral("scroll-indicator"), tr("Scroll indicator"), make<ScrollIndicatorPage>},
         {QStringLiteral("animation"), tr("Animation"), make<AnimationPage>},
+        {QStringLiteral("text-entry"), tr("Text entry"), make<TextEntryPage>},
         {QStringLiteral("switch"), tr("Switch"), make<SwitchPage>},
     };
 }

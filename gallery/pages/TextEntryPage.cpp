@@ -1,0 +1,158 @@
+#include "TextEntryPage.h"
+
+#include "Touch.h"
+
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+
+#include <QBoxLayout>
+#include <QDoubleValidator>
+#include <QGridLayout>
+#include <QLabel>
+#include <QRegularExpressionValidator>
+
+using ui::KeypadLineEdit;
+using ui::keyboard::KeyboardType;
+
+namespace {
+
+constexpr int margin = 16;
+constexpr int spacing = 12;
+constexpr int numberWidth = 100;
+constexpr int textMargin = 6;
+
+constexpr double lowestTemperature = -20.0;
+constexpr double highestTemperature = 60.0;
+constexpr int highestChannel = 99;
+constexpr int highestPort = 65535;
+
+// Sections of the text keypad.
+constexpr int letters = 0;
+constexpr int digits = 1;
+constexpr int symbols = 2;
+
+QValidator* patternValidator(const QString& pattern)
+{
+    return new QRegularExpressionValidator(QRegularExpression(pattern));
+}
+
+QLabel* makeLabel(KeypadLineEdit* field)
+{
+    auto* label = new QLabel(field->accessibleName());
+    label->setWordWrap(true);
+    label->setBuddy(field);
+    return label;
+}
+
+} // namespace
+
+TextEntryPage::TextEntryPage(QWidget* parent)
+    : GalleryPage(parent)
+    , m_report(
+          new QLabel(tr("Tap a field. OK takes the value, Cancel and a tap elsewhere do not.")))
+{
+    m_report->setWordWrap(true);
+    auto* form = new QGridLayout;
+    form->setSpacing(spacing);
+    addRow(form, makeAddress());
+    addRow(form, makeTemperature());
+    addRow(form, makeName());
+    addRow(form, makePin());
+
+    // In the lower corners of the screen, so that the keypads go above and to the left.
+    auto* corners = new QHBoxLayout;
+    corners->setSpacing(spacing);
+    addPair(corners, makeNumber(tr("Channel"), 11, highestChannel));
+    corners->addStretch();
+    addPair(corners, makeNumber(tr("Port"), 8080, highestPort));
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->addLayout(form);
+    column->addWidget(m_report, 1);
+    column->addLayout(corners);
+}
+
+KeypadLineEdit* TextEntryPage::makeAddress()
+{
+    const QString number = QStringLiteral("(25[0-5]|2[0-4][0-9]|1[0-9][0-9]|[1-9]?[0-9])");
+    KeypadLineEdit* field =
+        makeField(tr("IP address"), KeyboardType::Text,
+                  patternValidator(number + QStringLiteral("(\\.%1){3}").arg(number)));
+    field->setText(QStringLiteral("192.168.0.10"));
+    connect(field, &KeypadLineEdit::startKeypad, this, [field] {
+        field->keypad()->setKeypadSectionVisible(letters, false);
+        field->keypad()->setKeypadSectionVisible(digits, true);
+        field->keypad()->setKeypadSectionVisible(symbols, true);
+    });
+    return field;
+}
+
+KeypadLineEdit* TextEntryPage::makeTemperature()
+{
+    auto* validator = new QDoubleValidator(lowestTemperature, highestTemperature, 1, nullptr);
+    validator->setNotation(QDoubleValidator::StandardNotation);
+    const QString title =
+        tr("Temperature, %1 to %2 \u00b0C").arg(lowestTemperature).arg(highestTemperature);
+    KeypadLineEdit* field = makeField(title, KeyboardType::Decimal, validator);
+    field->setText(QLocale().toString(21.5, 'f', 1));
+    return field;
+}
+
+KeypadLineEdit* TextEntryPage::makeName()
+{
+    KeypadLineEdit* field = makeField(tr("Name, 2 to 20 characters"), KeyboardType::Text,
+                                      patternValidator(QStringLiteral("\\S.{1,19}")));
+    field->setText(tr("Kitchen"));
+    return field;
+}
+
+KeypadLineEdit* TextEntryPage::makePin()
+{
+    KeypadLineEdit* field = makeField(tr("PIN, 4 to 6 digits"), KeyboardType::Integer,
+                                      patternValidator(QStringLiteral("[0-9]{4,6}")));
+    field->setEchoMode(QLineEdit::Password);
+    field->setText(QStringLiteral("1234"));
+    return field;
+}
+
+KeypadLineEdit* TextEntryPage::makeNumber(const QString& title, int number, int highest)
+{
+    KeypadLineEdit* field =
+        makeField(title, KeyboardType::Integer, new QIntValidator(1, highest, nullptr));
+    field->setFixedWidth(numberWidth);
+    field->setText(QString::number(number));
+    return field;
+}
+
+KeypadLineEdit* TextEntryPage::makeField(const QString& title, KeyboardType type,
+                                         QValidator* validator)
+{
+    auto* field = new KeypadLineEdit(this, type);
+    validator->setParent(field);
+    field->setValidator(validator);
+    field->setMinimumHeight(touch::fingerSize);
+    field->setTextMargins(textMargin, 0, textMargin, 0);
+    field->setAccessibleName(title);
+    connect(field, &KeypadLineEdit::startKeypad, this,
+            [field, title] { field->keypad()->setSubtitleLabel(title); });
+    connect(field, &ui::LineEdit::valueChanged, this, [this, field, title] {
+        m_report->setText(tr("%1: %2").arg(title, field->displayText()));
+    });
+    addExhibit(field, title);
+    return field;
+}
+
+void TextEntryPage::addRow(QGridLayout* form, KeypadLineEdit* field)
+{
+    const int row = form->rowCount();
+    form->addWidget(makeLabel(field), row, 0);
+    form->addWidget(field, row, 1);
+    form->setColumnStretch(1, 1);
+}
+
+void TextEntryPage::addPair(QBoxLayout* row, KeypadLineEdit* field)
+{
+    row->addWidget(makeLabel(field));
+    row->addWidget(field);
+}

@@ -1,0 +1,131 @@
+#include "KeypadKeys.h"
+#include "OffscreenMessages.h"
+#include "TestApplication.h"
+
+#include <pages/TextEntryPage.h>
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QValidator>
+
+using ui::KeypadLineEdit;
+
+/// The settings form.
+class tst_TextEntryPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        test::dropOffscreenMessages();
+    }
+
+    void everyFieldIsAnExhibit();
+    void everyFieldStartsAcceptable();
+    void everyKeypadCanTypeIt_data();
+    void everyKeypadCanTypeIt();
+
+private:
+    static KeypadLineEdit* field(const QWidget& page, const QString& name);
+};
+
+KeypadLineEdit* tst_TextEntryPage::field(const QWidget& page, const QString& name)
+{
+    const auto fields = page.findChildren<KeypadLineEdit*>();
+    for (KeypadLineEdit* candidate : fields) {
+        if (candidate->accessibleName().startsWith(name))
+            return candidate;
+    }
+    return nullptr;
+}
+
+void tst_TextEntryPage::everyFieldIsAnExhibit()
+{
+    const TextEntryPage page;
+    QList<QWidget*> exhibits;
+    for (const GalleryPage::Exhibit& exhibit : page.exhibits())
+        exhibits.append(exhibit.widget);
+    const auto fields = page.findChildren<KeypadLineEdit*>();
+    QCOMPARE(fields.size(), 6);
+    for (KeypadLineEdit* candidate : fields)
+        QVERIFY(exhibits.contains(candidate));
+}
+
+void tst_TextEntryPage::everyFieldStartsAcceptable()
+{
+    const TextEntryPage page;
+    const auto fields = page.findChildren<KeypadLineEdit*>();
+    for (const KeypadLineEdit* candidate : fields) {
+        QVERIFY(candidate->validator());
+        QVERIFY2(candidate->hasAcceptableInput(), qPrintable(candidate->accessibleName()));
+    }
+    QCOMPARE(field(page, QStringLiteral("PIN"))->echoMode(), QLineEdit::Password);
+}
+
+void tst_TextEntryPage::everyKeypadCanTypeIt_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("address") << "IP address"
+                             << "1 0 . 0 . 0 . 2 5 5"
+                             << "10.0.0.255";
+    QTest::newRow("temperature") << "Temperature"
+                                 << "Minus 4 Decimal_separator 5"
+                                 << "-4.5";
+    QTest::newRow("name") << "Name"
+                          << "Shift h a l l"
+                          << "Hall";
+    QTest::newRow("PIN") << "PIN"
+                         << "9 8 7 6"
+                         << "9876";
+    QTest::newRow("channel") << "Channel"
+                             << "4 2"
+                             << "42";
+    QTest::newRow("port") << "Port"
+                          << "8 0"
+                          << "80";
+}
+
+void tst_TextEntryPage::everyKeypadCanTypeIt()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, keys);
+    QFETCH(QString, text);
+    TextEntryPage page;
+    page.show();
+    page.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&page));
+    KeypadLineEdit* edited = field(page, name);
+    edited->setFocus();
+    QTRY_VERIFY(edited->keypad()->isVisible());
+    QCOMPARE(edited->keypad()->findChild<QLabel*>()->text(), edited->accessibleName());
+    QTRY_VERIFY(edited->hasSelectedText());
+
+    for (QString key : keys.split(QLatin1Char(' '))) {
+        key.replace(QLatin1Char('_'), QLatin1Char(' '));
+        const QStringList shown = test::shownKeys(*edited->keypad());
+        QVERIFY2(shown.contains(key), qPrintable(key));
+        // Some characters are on two keys, one of them hidden.
+        const auto buttons = edited->keypad()->findChildren<QPushButton*>();
+        for (QPushButton* button : buttons) {
+            if (button->accessibleName() == key && button->isVisible())
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }
+    QCOMPARE(edited->text(), text);
+    QVERIFY(edited->property("inputValid").toBool());
+    test::tapKey(*edited->keypad(), QStringLiteral("OK"));
+    QTRY_VERIFY(!edited->keypad()->isVisible());
+    QCOMPARE(edited->text(), text);
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_TextEntryPage>(argc, argv);
+}
+
+#include "tst_TextEntryPage.moc"
