@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <cstdio>
+
 #include <sys/stat.h>
 
 namespace test {
@@ -10,6 +12,12 @@ namespace test {
 Tree::Tree()
 {
     Q_ASSERT(m_dir.isValid());
+}
+
+Tree::~Tree()
+{
+    for (const QByteArray& path : qAsConst(m_nativePaths))
+        std::remove(path.constData());
 }
 
 QString Tree::path(const QString& relative) const
@@ -38,20 +46,24 @@ void Tree::makeLink(const QString& target, const QString& relative) const
         qFatal("cannot make the link %s", qPrintable(relative));
 }
 
-void Tree::makeFileNamed(const QByteArray& name) const
+void Tree::makeFileNamed(const QByteArray& name)
 {
-    const QByteArray bytes = QFile::encodeName(path()) + '/' + name;
-    FILE* file = std::fopen(bytes.constData(), "w");
+    FILE* file = std::fopen(nativePath(name).constData(), "w");
     if (!file)
-        qFatal("cannot write the file %s", bytes.constData());
+        qFatal("cannot write the file %s", name.constData());
     std::fclose(file);
 }
 
-void Tree::makeDirNamed(const QByteArray& name) const
+void Tree::makeDirNamed(const QByteArray& name)
 {
-    const QByteArray bytes = QFile::encodeName(path()) + '/' + name;
-    if (::mkdir(bytes.constData(), S_IRWXU) != 0)
-        qFatal("cannot make the directory %s", bytes.constData());
+    if (::mkdir(nativePath(name).constData(), S_IRWXU) != 0)
+        qFatal("cannot make the directory %s", name.constData());
+}
+
+QByteArray Tree::nativePath(const QByteArray& name)
+{
+    m_nativePaths.append(QFile::encodeName(path()) + '/' + name);
+    return m_nativePaths.constLast();
 }
 
 QStringList Tree::names(const QString& prefix, int count)

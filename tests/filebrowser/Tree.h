@@ -2,6 +2,7 @@
 
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QVector>
 
 namespace test {
 
@@ -10,6 +11,8 @@ class Tree
 {
 public:
     Tree();
+    ~Tree();
+    Q_DISABLE_COPY(Tree)
 
     /// The path of the tree, or of \a relative in it.
     QString path(const QString& relative = QString()) const;
@@ -19,15 +22,18 @@ public:
     void makeFile(const QString& relative, const QByteArray& content = QByteArray()) const;
     /// A symbolic link with any text as its target.
     void makeLink(const QString& target, const QString& relative) const;
-    /// A file whose name, in the tree's top directory, is any sequence of bytes.
-    void makeFileNamed(const QByteArray& name) const;
-    void makeDirNamed(const QByteArray& name) const;
+    /// An entry of the tree's top directory whose name is any sequence of bytes.
+    void makeFileNamed(const QByteArray& name);
+    void makeDirNamed(const QByteArray& name);
 
     /// \a count names that sort in their order: "d000", "d001"…
     static QStringList names(const QString& prefix, int count);
 
 private:
+    QByteArray nativePath(const QByteArray& name);
+
     QTemporaryDir m_dir;
+    QVector<QByteArray> m_nativePaths; ///< Of what QTemporaryDir cannot remove by itself.
 };
 
 } // namespace test

@@ -1,0 +1,170 @@
+#include "BreadCrumbsWidget.h"
+#include "BrowserParts.h"
+#include "ClickableLabel.h"
+#include "OpenMenu.h"
+#include "RealMouse.h"
+#include "TestApplication.h"
+#include "Tree.h"
+#include "ui/FileBrowserWidget.h"
+
+#include <QComboBox>
+#include <QListView>
+#include <QMenu>
+#include <QPushButton>
+#include <QTreeView>
+
+#include <memory>
+
+using namespace test;
+
+/// The browser in a window of a real X server, used with the server's pointer.
+class tst_FileBrowserTaps : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void openADirectoryAndComeBackByACrumb();
+    void comeBackByTheMenu();
+    void switchViews();
+    void pickAFile();
+    void chooseAnotherRoot();
+    void browserDeletedLaterByATap();
+    void browserDeletedByACrumb();
+
+private:
+    bool open(const QString& name);
+    bool settled(const QStringList& expectedCrumbs) const;
+
+    Tree m_tree;
+    std::unique_ptr<QWidget> m_window;
+    QPointer<ui::FileBrowserWidget> m_browser;
+    std::unique_ptr<BrowserParts> m_parts;
+};
+
+void tst_FileBrowserTaps::initTestCase()
+{
+    m_tree.makeDir(QStringLiteral("top/a/b/c/d"));
+    m_tree.makeFile(QStringLiteral("top/file"));
+    m_tree.makeDir(QStringLiteral("other/inside"));
+}
+
+void tst_FileBrowserTaps::init()
+{
+    m_window = std::make_unique<QWidget>();
+    m_browser = new ui::FileBrowserWidget(m_window.get());
+    m_parts = std::make_unique<BrowserParts>(*m_browser);
+    m_browser->setAllowedDirs({m_tree.path(QStringLiteral("top")), m_tree.path(QStringLiteral("other"))});
+    m_window->resize(900, 480);
+    m_browser->setGeometry(m_window->rect());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QTRY_COMPARE(shownNames(*m_parts->tileView), (QStringList{"a", "file"}));
+}
+
+void tst_FileBrowserTaps::cleanup()
+{
+    m_window.reset();
+}
+
+/// Taps the directory \a name and waits until it is open.
+bool tst_FileBrowserTaps::open(const QString& name)
+{
+    if (!QTest::qWaitFor([&] { return entry(*m_parts->tileView, name).isValid(); }))
+        return false;
+    const QString path = m_browser->currentPath() + QLatin1Char('/') + name;
+    return tapEntry(*m_parts->tileView, name) && QTest::qWaitFor([&] { return m_browser->currentPath() == path; });
+}
+
+/// Whether the bar shows these crumbs and has laid them out.
+bool tst_FileBrowserTaps::settled(const QStringList& expectedCrumbs) const
+{
+    return QTest::qWaitFor([&] {
+        const QList<ClickableLabel*> labels = crumbLabels(*m_parts->bar);
+        return crumbs(*m_parts->bar) == expectedCrumbs && !labels.isEmpty() && labels.last()->isVisible()
+            && labels.last()->x() > 0;
+    });
+}
+
+void tst_FileBrowserTaps::openADirectoryAndComeBackByACrumb()
+{
+    QVERIFY(open(QStringLiteral("a")));
+    QVERIFY(open(QStringLiteral("b")));
+    QVERIFY(settled({"a", "b"}));
+    QVERIFY(tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
+    QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top/a")));
+    QVERIFY(settled({"a"}));
+    QTRY_COMPARE(shownNames(*m_parts->tileView), QStringList{"b"});
+}
+
+void tst_FileBrowserTaps::comeBackByTheMenu()
+{
+    for (const char* name : {"a", "b", "c", "d"})
+        QVERIFY(open(QString::fromLatin1(name)));
+    QVERIFY(settled({"b", "c", "d"}));
+    QTRY_VERIFY(moreButton(*m_parts->bar)->isVisible());
+
+    whenMenuOpens(this, [](QMenu& menu) { tap(menu, menu.actionGeometry(menu.actions().constFirst()).center()); });
+    QVERIFY(tap(*moreButton(*m_parts->bar)));
+    QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top")) + "/a");
+    QVERIFY(settled({"a"}));
+    QVERIFY(moreButton(*m_parts->bar)->isHidden());
+}
+
+void tst_FileBrowserTaps::switchViews()
+{
+    QVERIFY(tap(*m_parts->listButton));
+    QTRY_VERIFY(m_parts->listView->isVisible());
+    QVERIFY(!m_parts->tileView->isVisible());
+    QVERIFY(tapEntry(*m_parts->listView, QStringLiteral("a")));
+    QTRY_COMPARE(m_browser->selectedFiles(), QStringList{m_tree.path(QStringLiteral("top/a"))});
+    QCOMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top")));
+    QVERIFY(tap(*m_parts->tileButton));
+    QTRY_VERIFY(m_parts->tileView->isVisible());
+    QVERIFY(!m_parts->listView->isVisible());
+}
+
+void tst_FileBrowserTaps::pickAFile()
+{
+    QSignalSpy changed(m_browser, &ui::FileBrowserWidget::selectionChanged);
+    QVERIFY(tapEntry(*m_parts->tileView, QStringLiteral("file")));
+    QTRY_COMPARE(m_browser->selectedFiles(), QStringList{m_tree.path(QStringLiteral("top/file"))});
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_FileBrowserTaps::chooseAnotherRoot()
+{
+    QVERIFY(open(QStringLiteral("a")));
+    QVERIFY(tap(*m_parts->combo));
+    QAbstractItemView* popup = m_parts->combo->view();
+    QTRY_VERIFY(popup->isVisible() && popup->window()->windowHandle()->isExposed());
+    QVERIFY(tap(*popup->viewport(), popup->visualRect(popup->model()->index(1, 0)).center()));
+    QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("other")));
+    QCOMPARE(crumbs(*m_parts->bar), QStringList());
+    QTRY_COMPARE(shownNames(*m_parts->tileView), QStringList{"inside"});
+}
+
+void tst_FileBrowserTaps::browserDeletedLaterByATap()
+{
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, m_browser, &QObject::deleteLater);
+    QVERIFY(tapEntry(*m_parts->tileView, QStringLiteral("a")));
+    QTRY_VERIFY(m_browser.isNull());
+}
+
+void tst_FileBrowserTaps::browserDeletedByACrumb()
+{
+    QVERIFY(open(QStringLiteral("a")));
+    QVERIFY(settled({"a"}));
+    connect(m_parts->bar, &BreadCrumbsWidget::dirChanged, this, [this] { delete m_browser; });
+    QVERIFY(tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
+    QTRY_VERIFY(m_browser.isNull());
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_FileBrowserTaps>(argc, argv);
+}
+
+#include "tst_FileBrowserTaps.moc"
