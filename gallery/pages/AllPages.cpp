@@ -1,6 +1,7 @@
 #include "AllPages.h"
 
 #include "AnimationPage.h"
+#include "FileBrowserPage.h"
 #include "FramesPage.h"
 #include "GridButtonPage.h"
 #include "OverviewPage.h"
@@ -35,5 +36,6 @@ QVector<PageEntry> allPages()
         {QStringLiteral("animation"), tr("Animation"), make<AnimationPage>},
         {QStringLiteral("text-entry"), tr("Text entry"), make<TextEntryPage>},
         {QStringLiteral("switch"), tr("Switch"), make<SwitchPage>},
+        {QStringLiteral("file-browser"), tr("File browser"), make<FileBrowserPage>},
     };
 }

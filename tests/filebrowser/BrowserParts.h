@@ -17,7 +17,7 @@ QT_END_NAMESPACE
 namespace ui {
 class FileBrowserWidget;
 class FileSystemModel;
-}
+} // namespace ui
 
 namespace test {
 

@@ -11,8 +11,9 @@ bool tap(const QWidget& widget, const QPoint& position)
 {
     const QPoint target = widget.mapToGlobal(position);
     return QProcess::execute(QStringLiteral("xdotool"),
-                             {QStringLiteral("mousemove"), QString::number(target.x()), QString::number(target.y()),
-                              QStringLiteral("click"), QStringLiteral("1")})
+                             {QStringLiteral("mousemove"), QString::number(target.x()),
+                              QString::number(target.y()), QStringLiteral("click"),
+                              QStringLiteral("1")})
         == 0;
 }
 

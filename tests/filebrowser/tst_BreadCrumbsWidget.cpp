@@ -133,16 +133,21 @@ void tst_BreadCrumbsWidget::rows_data()
     QTest::addColumn<bool>("buttonHidden");
     QTest::newRow("the root itself") << "/data" << QStringList{"...", "stretch"} << true;
     QTest::newRow("one below") << "/data/a" << QStringList{"...", "/", "a", "stretch"} << true;
-    QTest::newRow("two below") << "/data/a/b" << QStringList{"...", "/", "a", "/", "b", "stretch"} << true;
+    QTest::newRow("two below") << "/data/a/b" << QStringList{"...", "/", "a", "/", "b", "stretch"}
+                               << true;
     QTest::newRow("three below") << "/data/a/b/c"
-                                 << QStringList{"...", "/", "a", "/", "b", "/", "c", "stretch"} << true;
+                                 << QStringList{"...", "/", "a", "/", "b", "/", "c", "stretch"}
+                                 << true;
     QTest::newRow("four below") << "/data/a/b/c/d"
-                                << QStringList{"...", "/", "b", "/", "c", "/", "d", "stretch"} << false;
+                                << QStringList{"...", "/", "b", "/", "c", "/", "d", "stretch"}
+                                << false;
     QTest::newRow("six below") << "/data/a/b/c/d/e/f"
-                               << QStringList{"...", "/", "d", "/", "e", "/", "f", "stretch"} << false;
+                               << QStringList{"...", "/", "d", "/", "e", "/", "f", "stretch"}
+                               << false;
     QTest::newRow("outside") << "/other/a" << QStringList{"...", "stretch"} << true;
     QTest::newRow("above") << "/" << QStringList{"...", "stretch"} << true;
-    QTest::newRow("trailing slash") << "/data/a/" << QStringList{"...", "/", "a", "stretch"} << true;
+    QTest::newRow("trailing slash")
+        << "/data/a/" << QStringList{"...", "/", "a", "stretch"} << true;
     QTest::newRow("empty") << "" << QStringList{"...", "stretch"} << true;
 }
 
@@ -161,14 +166,15 @@ void tst_BreadCrumbsWidget::cutAtTheFirstDot_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QStringList>("crumbs");
     QTest::addColumn<QStringList>("directories");
-    QTest::newRow("one character stands before it") << "/data/a.b/c" << QStringList{"c"} << QStringList{"/data/c"};
-    QTest::newRow("in the last name") << "/data/abc/d.e"
-                                      << QStringList{"c", "d.e"} << QStringList{"/data/c", "/data/c/d.e"};
+    QTest::newRow("one character stands before it")
+        << "/data/a.b/c" << QStringList{"c"} << QStringList{"/data/c"};
+    QTest::newRow("in the last name")
+        << "/data/abc/d.e" << QStringList{"c", "d.e"} << QStringList{"/data/c", "/data/c/d.e"};
     QTest::newRow("at the front of a name") << "/data/.hidden" << QStringList() << QStringList();
-    QTest::newRow("more stands before it than after") << "/data/long.x"
-                                                      << QStringList{"ng.x"} << QStringList{"/data/ng.x"};
-    QTest::newRow("the cut falls on a slash") << "/data/ab.c/d"
-                                              << QStringList{"d"} << QStringList{"/data/d"};
+    QTest::newRow("more stands before it than after")
+        << "/data/long.x" << QStringList{"ng.x"} << QStringList{"/data/ng.x"};
+    QTest::newRow("the cut falls on a slash")
+        << "/data/ab.c/d" << QStringList{"d"} << QStringList{"/data/d"};
 }
 
 void tst_BreadCrumbsWidget::cutAtTheFirstDot()
@@ -308,16 +314,20 @@ void tst_BreadCrumbsWidget::destroyedWithItsChildren()
 {
     auto bar = barAt(QStringLiteral("/data/a/b/c/d"));
     QStringList order;
-    connect(bar->layout(), &QObject::destroyed, this, [&] { order.append(QStringLiteral("layout")); });
-    connect(moreButton(*bar), &QObject::destroyed, this, [&] { order.append(QStringLiteral("button")); });
-    connect(crumb(*bar, QStringLiteral("d")), &QObject::destroyed, this, [&] { order.append(QStringLiteral("crumb")); });
+    connect(bar->layout(), &QObject::destroyed, this,
+            [&] { order.append(QStringLiteral("layout")); });
+    connect(moreButton(*bar), &QObject::destroyed, this,
+            [&] { order.append(QStringLiteral("button")); });
+    connect(crumb(*bar, QStringLiteral("d")), &QObject::destroyed, this,
+            [&] { order.append(QStringLiteral("crumb")); });
     bar.reset();
     QCOMPARE(order, (QStringList{"layout", "button", "crumb"}));
 }
 
 void tst_BreadCrumbsWidget::unusualNames()
 {
-    const QStringList names{"with space", "a&b", "<b>bold</b>", "line\nbreak", QString(QChar(0xfffd)), "~"};
+    const QStringList names{"with space",           "a&b", "<b>bold</b>", "line\nbreak",
+                            QString(QChar(0xfffd)), "~"};
     for (const QString& name : names) {
         const auto bar = barAt("/data/" + name);
         const QStringList expected = name.split(QLatin1Char('/')); // the closing tag holds a slash

@@ -15,7 +15,8 @@ namespace {
 const QString longText = QStringLiteral("A name that is much too long for its label");
 
 /// What the rule makes of \a text at a baseline of \a baseline pixels.
-QImage expectedImage(const ClickableLabel& label, qreal devicePixelRatio, const QString& shown, int baseline)
+QImage expectedImage(const ClickableLabel& label, qreal devicePixelRatio, const QString& shown,
+                     int baseline)
 {
     QImage image = canvas(label.size(), devicePixelRatio);
     QPainter painter(&image);
@@ -125,8 +126,10 @@ void tst_ClickableLabel::painting_data()
                     for (const QString& text : {QStringLiteral("short"), longText}) {
                         QTest::addRow("%s %s %s @%d %s", dark ? "dark" : "light",
                                       direction == Qt::LeftToRight ? "ltr" : "rtl",
-                                      enabled ? "enabled" : "disabled", ratio, qPrintable(text.left(5)))
-                            << (dark ? darkPalette() : lightPalette()) << direction << enabled << qreal(ratio) << text;
+                                      enabled ? "enabled" : "disabled", ratio,
+                                      qPrintable(text.left(5)))
+                            << (dark ? darkPalette() : lightPalette()) << direction << enabled
+                            << qreal(ratio) << text;
                     }
                 }
             }
@@ -163,7 +166,8 @@ void tst_ClickableLabel::baselineAddsThePositionInTheParent()
     const int halfFont = QFontMetrics(label.font()).height() / 2;
     QVERIFY(sameImage(paintedBy(label), expectedImage(label, 1, label.text(), 7 + 40 - halfFont)));
     label.move(5, -11);
-    QVERIFY(sameImage(paintedBy(label), expectedImage(label, 1, label.text(), -11 + 40 - halfFont)));
+    QVERIFY(
+        sameImage(paintedBy(label), expectedImage(label, 1, label.text(), -11 + 40 - halfFont)));
 }
 
 void tst_ClickableLabel::elidedInTheMiddle()
@@ -184,8 +188,9 @@ void tst_ClickableLabel::markupIsPaintedAsItStands()
     label.setTextFormat(Qt::RichText);
     label.setText(QStringLiteral("<b>a</b> & b"));
     label.resize(200, 30);
-    QVERIFY(sameImage(paintedBy(label),
-                      expectedImage(label, 1, label.text(), 30 - QFontMetrics(label.font()).height() / 2)));
+    QVERIFY(sameImage(
+        paintedBy(label),
+        expectedImage(label, 1, label.text(), 30 - QFontMetrics(label.font()).height() / 2)));
 }
 
 void tst_ClickableLabel::neitherFrameNorAlignment()

@@ -85,7 +85,8 @@ QStringList tst_FileBrowserDirectories::comboTexts() const
 
 void tst_FileBrowserDirectories::missingDirectoriesAreLeftOut()
 {
-    m_browser->setAllowedDirs({m_tree.path(QStringLiteral("missing")), m_tree.path(QStringLiteral("second"))});
+    m_browser->setAllowedDirs(
+        {m_tree.path(QStringLiteral("missing")), m_tree.path(QStringLiteral("second"))});
     QCOMPARE(comboTexts(), QStringList{m_tree.path(QStringLiteral("second"))});
     QCOMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("second")));
 }
@@ -94,9 +95,12 @@ void tst_FileBrowserDirectories::entriesAsPassedIn_data()
 {
     QTest::addColumn<QString>("dir");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("trailing slash") << m_tree.path() + "/first/" << m_tree.path(QStringLiteral("first"));
-    QTest::newRow("with dots") << m_tree.path() + "/second/../first" << m_tree.path(QStringLiteral("first"));
-    QTest::newRow("here") << "." << ".";
+    QTest::newRow("trailing slash")
+        << m_tree.path() + "/first/" << m_tree.path(QStringLiteral("first"));
+    QTest::newRow("with dots") << m_tree.path() + "/second/../first"
+                               << m_tree.path(QStringLiteral("first"));
+    QTest::newRow("here") << "."
+                          << ".";
 }
 
 void tst_FileBrowserDirectories::entriesAsPassedIn()
@@ -177,16 +181,20 @@ void tst_FileBrowserDirectories::emptyListOnANewBrowser()
 void tst_FileBrowserDirectories::setTwice()
 {
     QStringList shown;
-    connect(m_parts->model, &QFileSystemModel::rootPathChanged, this, [&](const QString& path) { shown.append(path); });
+    connect(m_parts->model, &QFileSystemModel::rootPathChanged, this,
+            [&](const QString& path) { shown.append(path); });
     m_browser->setAllowedDirs({m_tree.path(QStringLiteral("first"))});
     m_browser->setAllowedDirs({m_tree.path(QStringLiteral("second"))});
     QCOMPARE(comboTexts(), QStringList{m_tree.path(QStringLiteral("second"))});
-    QCOMPARE(shown, (QStringList{m_tree.path(QStringLiteral("first")), QString(), m_tree.path(QStringLiteral("second"))}));
+    QCOMPARE(shown,
+             (QStringList{m_tree.path(QStringLiteral("first")), QString(),
+                          m_tree.path(QStringLiteral("second"))}));
 }
 
 void tst_FileBrowserDirectories::theSameEntryAgainIsNoChange()
 {
-    m_browser->setAllowedDirs({m_tree.path(QStringLiteral("first")), m_tree.path(QStringLiteral("second"))});
+    m_browser->setAllowedDirs(
+        {m_tree.path(QStringLiteral("first")), m_tree.path(QStringLiteral("second"))});
     m_browser->setRootPath(m_tree.path(QStringLiteral("first/inside")));
     m_parts->combo->setCurrentIndex(0);
     QCOMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("first/inside")));
@@ -205,7 +213,8 @@ void tst_FileBrowserDirectories::notConfinedByThem()
 void tst_FileBrowserDirectories::directoryRemovedAfterwards()
 {
     m_tree.makeDir(QStringLiteral("brief"));
-    m_browser->setAllowedDirs({m_tree.path(QStringLiteral("first")), m_tree.path(QStringLiteral("brief"))});
+    m_browser->setAllowedDirs(
+        {m_tree.path(QStringLiteral("first")), m_tree.path(QStringLiteral("brief"))});
     QVERIFY(QDir().rmdir(m_tree.path(QStringLiteral("brief"))));
     m_parts->combo->setCurrentIndex(1);
     QCOMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("first")));

@@ -54,7 +54,8 @@ void tst_FileBrowserFonts::askedForOncePerViewInOrder()
     ui::FileBrowserWidget browser;
     const test::BrowserParts parts(browser);
     QCOMPARE(instanceRequests, 3);
-    QCOMPARE(fontRequests, QVector<platform::ui::style::Fonts>(3, platform::ui::style::Fonts::FileBrowser));
+    QCOMPARE(fontRequests,
+             QVector<platform::ui::style::Fonts>(3, platform::ui::style::Fonts::FileBrowser));
     QCOMPARE(parts.combo->font().pixelSize(), firstPixelSize);
     QCOMPARE(parts.tileView->font().pixelSize(), firstPixelSize + 1);
     QCOMPARE(parts.listView->font().pixelSize(), firstPixelSize + 2);

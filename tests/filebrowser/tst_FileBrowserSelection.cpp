@@ -53,8 +53,12 @@ private Q_SLOTS:
     void modelEmptiedUnderASelection();
 
 private:
-    void select(const QStringList& names) { selectEntries(*m_parts->tileView, names); }
-    void click(QAbstractItemView& view, const QString& name, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void select(const QStringList& names)
+    {
+        selectEntries(*m_parts->tileView, names);
+    }
+    void click(QAbstractItemView& view, const QString& name,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     QStringList paths(const QStringList& names) const;
 
     std::unique_ptr<Tree> m_tree;
@@ -81,7 +85,8 @@ void tst_FileBrowserSelection::init()
     m_browser->setGeometry(m_window->rect());
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    QTRY_COMPARE(shownNames(*m_parts->tileView), (QStringList{"alpha", "beta", "gamma", "one", "three", "two"}));
+    QTRY_COMPARE(shownNames(*m_parts->tileView),
+                 (QStringList{"alpha", "beta", "gamma", "one", "three", "two"}));
     m_changes = 0;
     connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this, [this] { ++m_changes; });
 }
@@ -91,7 +96,8 @@ void tst_FileBrowserSelection::cleanup()
     m_window.reset();
 }
 
-void tst_FileBrowserSelection::click(QAbstractItemView& view, const QString& name, Qt::KeyboardModifiers modifiers)
+void tst_FileBrowserSelection::click(QAbstractItemView& view, const QString& name,
+                                     Qt::KeyboardModifiers modifiers)
 {
     const QModelIndex index = entry(view, name);
     view.scrollTo(index);
@@ -170,9 +176,10 @@ void tst_FileBrowserSelection::onlyTheFirstColumnIsDeselected()
 void tst_FileBrowserSelection::twoDirectoriesOpenTheSecond()
 {
     QStringList seen;
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
-            [&] { seen.append(QDir(m_tree->path()).relativeFilePath(m_browser->currentPath()) + ": "
-                              + selectedNames(*m_parts->tileView).join(QLatin1Char(' '))); });
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this, [&] {
+        seen.append(QDir(m_tree->path()).relativeFilePath(m_browser->currentPath()) + ": "
+                    + selectedNames(*m_parts->tileView).join(QLatin1Char(' ')));
+    });
     select({"alpha", "beta"});
     QCOMPARE(seen, (QStringList{"beta: beta", "beta: ", "beta: "}));
 }
@@ -239,8 +246,9 @@ void tst_FileBrowserSelection::selectedFilesOfAnySelectionOfCells()
     for (int round = 0; round < 400; ++round) {
         const int top = random.bounded(6);
         const int left = random.bounded(4);
-        const QItemSelection cells(m_parts->model->index(top, left, root),
-                                   m_parts->model->index(random.bounded(top, 6), random.bounded(left, 4), root));
+        const QItemSelection cells(
+            m_parts->model->index(top, left, root),
+            m_parts->model->index(random.bounded(top, 6), random.bounded(left, 4), root));
         const QVector<QItemSelectionModel::SelectionFlags> commands{
             QItemSelectionModel::Select, QItemSelectionModel::Deselect, QItemSelectionModel::Toggle,
             QItemSelectionModel::Select | QItemSelectionModel::Rows,
@@ -301,7 +309,8 @@ void tst_FileBrowserSelection::linkToADirectoryIsOpened()
     m_tree->makeLink(m_tree->path(QStringLiteral("beta")), QStringLiteral("link"));
     QTRY_VERIFY(entry(*m_parts->tileView, QStringLiteral("link")).isValid());
     QTRY_VERIFY(m_parts->model->isDir(entry(*m_parts->tileView, QStringLiteral("link"))));
-    const QString path = m_parts->model->filePath(entry(*m_parts->tileView, QStringLiteral("link")));
+    const QString path =
+        m_parts->model->filePath(entry(*m_parts->tileView, QStringLiteral("link")));
     select({"link"});
     QCOMPARE(m_browser->currentPath(), path);
 }
@@ -311,14 +320,16 @@ void tst_FileBrowserSelection::browserDeletedInTheSlot_data()
     QTest::addColumn<QStringList>("names");
     QTest::newRow("a file") << QStringList{"one"};
     QTest::newRow("a directory") << QStringList{"alpha"};
-    QTest::newRow("directories and files, steps to go") << QStringList{"alpha", "one", "beta", "gamma", "two"};
+    QTest::newRow("directories and files, steps to go")
+        << QStringList{"alpha", "one", "beta", "gamma", "two"};
     QTest::newRow("directories, steps to go") << QStringList{"alpha", "beta", "gamma"};
 }
 
 void tst_FileBrowserSelection::browserDeletedInTheSlot()
 {
     QFETCH(QStringList, names);
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this, [this] { delete m_browser; });
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
+            [this] { delete m_browser; });
     select(names);
     QVERIFY(m_browser.isNull());
     QCOMPARE(m_changes, 1);
@@ -343,7 +354,8 @@ void tst_FileBrowserSelection::browserDeletedLaterByAClick()
 void tst_FileBrowserSelection::modelDeletedInTheSlot()
 {
     QPointer<QFileSystemModel> model(m_parts->model);
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this, [&] { delete model.data(); });
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
+            [&] { delete model.data(); });
     select({"alpha", "one", "beta", "two"});
     QVERIFY(model.isNull());
     QCOMPARE(m_browser->selectedFiles(), QStringList());
@@ -351,7 +363,8 @@ void tst_FileBrowserSelection::modelDeletedInTheSlot()
 
 void tst_FileBrowserSelection::barDeletedInTheSlot()
 {
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this, [this] { delete m_browser->findChild<BreadCrumbsWidget*>(); });
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
+            [this] { delete m_browser->findChild<BreadCrumbsWidget*>(); });
     select({"alpha", "beta", "gamma"});
     QCOMPARE(m_browser->currentPath(), m_tree->path(QStringLiteral("gamma")));
     QCOMPARE(m_changes, 4);
@@ -363,7 +376,8 @@ void tst_FileBrowserSelection::selectedDirectoryRemoved()
     QTRY_COMPARE(shownNames(*m_parts->tileView), (QStringList{"inner", "deep"}));
     QVERIFY(QDir(m_tree->path(QStringLiteral("alpha"))).removeRecursively());
     m_browser->setRootPath(m_tree->path());
-    QTRY_COMPARE(shownNames(*m_parts->tileView), (QStringList{"beta", "gamma", "one", "three", "two"}));
+    QTRY_COMPARE(shownNames(*m_parts->tileView),
+                 (QStringList{"beta", "gamma", "one", "three", "two"}));
     QTRY_COMPARE(m_browser->selectedFiles(), QStringList());
     select({"beta"});
     QCOMPARE(m_browser->currentPath(), m_tree->path(QStringLiteral("beta")));

@@ -56,7 +56,8 @@ void tst_FileBrowserTaps::init()
     m_window = std::make_unique<QWidget>();
     m_browser = new ui::FileBrowserWidget(m_window.get());
     m_parts = std::make_unique<BrowserParts>(*m_browser);
-    m_browser->setAllowedDirs({m_tree.path(QStringLiteral("top")), m_tree.path(QStringLiteral("other"))});
+    m_browser->setAllowedDirs(
+        {m_tree.path(QStringLiteral("top")), m_tree.path(QStringLiteral("other"))});
     m_window->resize(900, 480);
     m_browser->setGeometry(m_window->rect());
     m_window->show();
@@ -75,7 +76,8 @@ bool tst_FileBrowserTaps::open(const QString& name)
     if (!QTest::qWaitFor([&] { return entry(*m_parts->tileView, name).isValid(); }))
         return false;
     const QString path = m_browser->currentPath() + QLatin1Char('/') + name;
-    return tapEntry(*m_parts->tileView, name) && QTest::qWaitFor([&] { return m_browser->currentPath() == path; });
+    return tapEntry(*m_parts->tileView, name)
+        && QTest::qWaitFor([&] { return m_browser->currentPath() == path; });
 }
 
 /// Whether the bar shows these crumbs and has laid them out.
@@ -83,8 +85,8 @@ bool tst_FileBrowserTaps::settled(const QStringList& expectedCrumbs) const
 {
     return QTest::qWaitFor([&] {
         const QList<ClickableLabel*> labels = crumbLabels(*m_parts->bar);
-        return crumbs(*m_parts->bar) == expectedCrumbs && !labels.isEmpty() && labels.last()->isVisible()
-            && labels.last()->x() > 0;
+        return crumbs(*m_parts->bar) == expectedCrumbs && !labels.isEmpty()
+            && labels.last()->isVisible() && labels.last()->x() > 0;
     });
 }
 
@@ -106,7 +108,9 @@ void tst_FileBrowserTaps::comeBackByTheMenu()
     QVERIFY(settled({"b", "c", "d"}));
     QTRY_VERIFY(moreButton(*m_parts->bar)->isVisible());
 
-    whenMenuOpens(this, [](QMenu& menu) { tap(menu, menu.actionGeometry(menu.actions().constFirst()).center()); });
+    whenMenuOpens(this, [](QMenu& menu) {
+        tap(menu, menu.actionGeometry(menu.actions().constFirst()).center());
+    });
     QVERIFY(tap(*moreButton(*m_parts->bar)));
     QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top")) + "/a");
     QVERIFY(settled({"a"}));

@@ -109,8 +109,9 @@ void tst_FileBrowserWidget::childrenInOrder()
         if (child->isWidgetType())
             children.append(child);
     }
-    QCOMPARE(children, (QList<const QObject*>{m_parts->combo, m_parts->tileView, m_parts->listView, m_parts->bar,
-                                              m_parts->tileButton, m_parts->listButton}));
+    QCOMPARE(children,
+             (QList<const QObject*>{m_parts->combo, m_parts->tileView, m_parts->listView,
+                                    m_parts->bar, m_parts->tileButton, m_parts->listButton}));
 }
 
 void tst_FileBrowserWidget::layoutsInOrder()
@@ -159,8 +160,9 @@ void tst_FileBrowserWidget::layoutBuildersReturnLayoutsWithoutAParent()
 
 void tst_FileBrowserWidget::viewButtons()
 {
-    const QVector<QPair<QPushButton*, QString>> buttons{{m_parts->tileButton, ":/icons/tile_view.svg"},
-                                                        {m_parts->listButton, ":/icons/list_view.svg"}};
+    const QVector<QPair<QPushButton*, QString>> buttons{
+        {m_parts->tileButton, ":/icons/tile_view.svg"},
+        {m_parts->listButton, ":/icons/list_view.svg"}};
     for (const auto& [button, icon] : buttons) {
         QCOMPARE(button->objectName(), QStringLiteral("toolbarButton"));
         QCOMPARE(button->text(), QString());
@@ -340,9 +342,11 @@ void tst_FileBrowserWidget::setRootPath_data()
     QTest::newRow("directory") << music << music;
     QTest::newRow("trailing slash") << music + "/" << music;
     QTest::newRow("dots") << music + "/../music/./" << music;
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("empty") << ""
+                           << "";
     QTest::newRow("missing") << m_tree.path(QStringLiteral("missing")) << m_tree.path();
-    QTest::newRow("root") << "/" << "/";
+    QTest::newRow("root") << "/"
+                          << "/";
     QTest::newRow("two slashes") << "//" + music.mid(1) << music;
 }
 

@@ -35,7 +35,10 @@ public:
     }
 
 private:
-    bool isInside(const QModelIndex& index) const { return filePath(index).startsWith(m_path); }
+    bool isInside(const QModelIndex& index) const
+    {
+        return filePath(index).startsWith(m_path);
+    }
 
     QString m_path;
 };
@@ -147,7 +150,8 @@ void tst_FileSystemModel::headerAlignment()
 
 void tst_FileSystemModel::headerRolesPassThrough()
 {
-    for (const int role : {int(Qt::DecorationRole), int(Qt::EditRole), int(Qt::ToolTipRole), int(Qt::SizeHintRole)}) {
+    for (const int role : {int(Qt::DecorationRole), int(Qt::EditRole), int(Qt::ToolTipRole),
+                           int(Qt::SizeHintRole)}) {
         for (int section = 0; section < 5; ++section) {
             const QVariant actual = m_model->headerData(section, Qt::Horizontal, role);
             const QVariant expected = m_base->headerData(section, Qt::Horizontal, role);
@@ -160,16 +164,25 @@ void tst_FileSystemModel::headerRolesPassThrough()
 
 void tst_FileSystemModel::dateIsAlignedRightWithoutAVerticalFlag()
 {
-    const QVariant alignment = m_model->data(entry(QStringLiteral("file.txt"), 3), Qt::TextAlignmentRole);
+    const QVariant alignment =
+        m_model->data(entry(QStringLiteral("file.txt"), 3), Qt::TextAlignmentRole);
     QCOMPARE(alignment.userType(), int(QMetaType::Int));
     QCOMPARE(alignment.toInt(), 2);
-    QVERIFY(m_base->data(m_base->index(m_tree->path(QStringLiteral("file.txt")), 3), Qt::TextAlignmentRole).toInt() != 2);
+    QVERIFY(m_base
+                ->data(m_base->index(m_tree->path(QStringLiteral("file.txt")), 3),
+                       Qt::TextAlignmentRole)
+                .toInt()
+            != 2);
 }
 
 void tst_FileSystemModel::dataPassesThrough()
 {
-    const QVector<int> roles{Qt::DisplayRole, Qt::EditRole, Qt::ToolTipRole, Qt::TextAlignmentRole,
-                             QFileSystemModel::FilePathRole, QFileSystemModel::FileNameRole,
+    const QVector<int> roles{Qt::DisplayRole,
+                             Qt::EditRole,
+                             Qt::ToolTipRole,
+                             Qt::TextAlignmentRole,
+                             QFileSystemModel::FilePathRole,
+                             QFileSystemModel::FileNameRole,
                              QFileSystemModel::FilePermissions};
     for (const QString& name : {QStringLiteral("directory"), QStringLiteral("file.txt")}) {
         for (int column = 0; column < 4; ++column) {
@@ -181,7 +194,8 @@ void tst_FileSystemModel::dataPassesThrough()
             }
         }
         const QIcon icon = m_model->data(entry(name), Qt::DecorationRole).value<QIcon>();
-        const QIcon baseIcon = m_base->data(m_base->index(m_tree->path(name)), Qt::DecorationRole).value<QIcon>();
+        const QIcon baseIcon =
+            m_base->data(m_base->index(m_tree->path(name)), Qt::DecorationRole).value<QIcon>();
         QCOMPARE(icon.pixmap(16).toImage(), baseIcon.pixmap(16).toImage());
     }
     QCOMPARE(m_model->data(entry(QStringLiteral("file.txt"), 1), Qt::TextAlignmentRole).toInt(),
@@ -212,12 +226,14 @@ void tst_FileSystemModel::ownedByItsParent()
 void tst_FileSystemModel::germanHeaderTextsComeFromQt()
 {
     QTranslator german;
-    QVERIFY(german.load(QStringLiteral("qtbase_de"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)));
+    QVERIFY(german.load(QStringLiteral("qtbase_de"),
+                        QLibraryInfo::location(QLibraryInfo::TranslationsPath)));
     QVERIFY(QCoreApplication::installTranslator(&german));
     QCOMPARE(m_model->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
     QCOMPARE(m_model->headerData(1, Qt::Horizontal).toString(), QString::fromUtf8("Größe"));
     QCOMPARE(m_model->headerData(2, Qt::Horizontal).toString(), QString());
-    QCOMPARE(m_model->headerData(3, Qt::Horizontal).toString(), QString::fromUtf8("Änderungsdatum"));
+    QCOMPARE(m_model->headerData(3, Qt::Horizontal).toString(),
+             QString::fromUtf8("Änderungsdatum"));
     QCoreApplication::removeTranslator(&german);
     QCOMPARE(m_model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Size"));
 }
@@ -225,7 +241,8 @@ void tst_FileSystemModel::germanHeaderTextsComeFromQt()
 void tst_FileSystemModel::staysConsistentWhileTheTreeChanges()
 {
     ConfinedModel model(m_tree->path());
-    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
     const QPersistentModelIndex root = model.setRootPath(m_tree->path());
     QTRY_COMPARE(model.rowCount(root), 2);
 
@@ -237,7 +254,8 @@ void tst_FileSystemModel::staysConsistentWhileTheTreeChanges()
     };
     m_tree->makeFile(QStringLiteral("another"));
     QTRY_COMPARE(names(), (QStringList{"directory", "another", "file.txt"}));
-    QVERIFY(QFile::rename(m_tree->path(QStringLiteral("another")), m_tree->path(QStringLiteral("renamed"))));
+    QVERIFY(QFile::rename(m_tree->path(QStringLiteral("another")),
+                          m_tree->path(QStringLiteral("renamed"))));
     QTRY_COMPARE(names(), (QStringList{"directory", "file.txt", "renamed"}));
     QVERIFY(QFile::remove(m_tree->path(QStringLiteral("file.txt"))));
     QTRY_COMPARE(names(), (QStringList{"directory", "renamed"}));

@@ -25,8 +25,14 @@ constexpr uid_t unprivilegedUser = 65534;
 class Unprivileged
 {
 public:
-    Unprivileged() { Q_UNUSED(seteuid(unprivilegedUser)) }
-    ~Unprivileged() { Q_UNUSED(seteuid(getuid())) }
+    Unprivileged()
+    {
+        Q_UNUSED(seteuid(unprivilegedUser))
+    }
+    ~Unprivileged()
+    {
+        Q_UNUSED(seteuid(getuid()))
+    }
     Q_DISABLE_COPY(Unprivileged)
 };
 
@@ -102,8 +108,10 @@ bool tst_HostileTrees::shows(const QStringList& names) const
 /// Selects the directory \a name, once it is there.
 bool tst_HostileTrees::open(const QString& name)
 {
-    if (!QTest::qWaitFor([&] { return m_parts->model->isDir(entry(*m_parts->tileView, name))
-                                   && entry(*m_parts->tileView, name).isValid(); }))
+    if (!QTest::qWaitFor([&] {
+            return m_parts->model->isDir(entry(*m_parts->tileView, name))
+                && entry(*m_parts->tileView, name).isValid();
+        }))
         return false;
     selectEntries(*m_parts->tileView, {name});
     return true;
@@ -113,21 +121,35 @@ void tst_HostileTrees::unusualNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("crumb");
-    QTest::newRow("space") << "a b" << "a b";
-    QTest::newRow("spaces around") << " a " << " a ";
-    QTest::newRow("ampersand") << "a&b" << "a&b";
-    QTest::newRow("markup") << "<b>bold" << "<b>bold";
-    QTest::newRow("picture") << "<img width=9999 height=9999>" << "<img width=9999 height=9999>";
-    QTest::newRow("entity") << "&lt;" << "&lt;";
-    QTest::newRow("line break") << "a\nb" << "a\nb";
-    QTest::newRow("tab") << "a\tb" << "a\tb";
-    QTest::newRow("backslash") << "a\\b" << "a\\b";
-    QTest::newRow("percent") << "%20%1" << "%20%1";
-    QTest::newRow("tilde") << "~" << "~";
-    QTest::newRow("star") << "*" << "*";
+    QTest::newRow("space") << "a b"
+                           << "a b";
+    QTest::newRow("spaces around") << " a "
+                                   << " a ";
+    QTest::newRow("ampersand") << "a&b"
+                               << "a&b";
+    QTest::newRow("markup") << "<b>bold"
+                            << "<b>bold";
+    QTest::newRow("picture") << "<img width=9999 height=9999>"
+                             << "<img width=9999 height=9999>";
+    QTest::newRow("entity") << "&lt;"
+                            << "&lt;";
+    QTest::newRow("line break") << "a\nb"
+                                << "a\nb";
+    QTest::newRow("tab") << "a\tb"
+                         << "a\tb";
+    QTest::newRow("backslash") << "a\\b"
+                               << "a\\b";
+    QTest::newRow("percent") << "%20%1"
+                             << "%20%1";
+    QTest::newRow("tilde") << "~"
+                           << "~";
+    QTest::newRow("star") << "*"
+                          << "*";
     QTest::newRow("umlaut") << QString::fromUtf8("größe") << QString::fromUtf8("größe");
-    QTest::newRow("dot inside") << "long.x" << "ng.x";
-    QTest::newRow("dot at the end") << "a." << ".";
+    QTest::newRow("dot inside") << "long.x"
+                                << "ng.x";
+    QTest::newRow("dot at the end") << "a."
+                                    << ".";
     QTest::newRow("as long as can be") << QString(255, 'x') << QString(255, 'x');
 }
 
@@ -152,7 +174,8 @@ void tst_HostileTrees::unusualNamesInTheListView()
     }
     m_browser->setAllowedDirs({m_tree->path()});
     // "f.hidden" begins with no dot.
-    QVERIFY(shows({"a b", "a&b", "<b>bold", "a\nb", "x.y.z", "fa b", "fa&b", "f<b>bold", "fa\nb", "f.hidden", "fx.y.z"}));
+    QVERIFY(shows({"a b", "a&b", "<b>bold", "a\nb", "x.y.z", "fa b", "fa&b", "f<b>bold", "fa\nb",
+                   "f.hidden", "fx.y.z"}));
     m_parts->listButton->click();
     QCOMPARE(shownNames(*m_parts->listView), shownNames(*m_parts->tileView));
     selectEntries(*m_parts->listView, {"fa\nb"});
@@ -207,7 +230,8 @@ void tst_HostileTrees::unreadableDirectory()
     m_tree->makeFile(QStringLiteral("plain"));
     QVERIFY(QFile::setPermissions(m_tree->path(), QFile::Permissions(0x7555)));
     QVERIFY(QFile::setPermissions(m_tree->path(QStringLiteral("locked")), QFile::Permissions()));
-    QTest::ignoreMessage(QtSystemMsg, QRegularExpression(QStringLiteral("inotify_add_watch.*locked")));
+    QTest::ignoreMessage(QtSystemMsg,
+                         QRegularExpression(QStringLiteral("inotify_add_watch.*locked")));
     {
         const Unprivileged user;
         m_browser->setAllowedDirs({m_tree->path()});
@@ -221,7 +245,8 @@ void tst_HostileTrees::unreadableDirectory()
         m_browser->setRootPath(m_tree->path());
         QVERIFY(shows({QStringLiteral("locked"), QStringLiteral("plain")}));
     }
-    QVERIFY(QFile::setPermissions(m_tree->path(QStringLiteral("locked")), QFile::Permissions(0x7000)));
+    QVERIFY(
+        QFile::setPermissions(m_tree->path(QStringLiteral("locked")), QFile::Permissions(0x7000)));
 }
 
 void tst_HostileTrees::directoryFilledWhileShown()
@@ -262,7 +287,8 @@ void tst_HostileTrees::directoryRenamedWhileShown()
     m_browser->setAllowedDirs({m_tree->path()});
     QVERIFY(open(QStringLiteral("old")));
     QVERIFY(shows({QStringLiteral("inside")}));
-    QVERIFY(QDir().rename(m_tree->path(QStringLiteral("old")), m_tree->path(QStringLiteral("new"))));
+    QVERIFY(
+        QDir().rename(m_tree->path(QStringLiteral("old")), m_tree->path(QStringLiteral("new"))));
     m_window->grab();
     selectEntries(*m_parts->tileView, {QStringLiteral("inside")}); // leads nowhere now
     m_browser->setRootPath(m_tree->path());
@@ -279,7 +305,8 @@ void tst_HostileTrees::selectedFileRenamed()
     m_browser->setAllowedDirs({m_tree->path()});
     QVERIFY(shows({QStringLiteral("old"), QStringLiteral("other")}));
     selectEntries(*m_parts->tileView, {QStringLiteral("old")});
-    QVERIFY(QFile::rename(m_tree->path(QStringLiteral("old")), m_tree->path(QStringLiteral("new"))));
+    QVERIFY(
+        QFile::rename(m_tree->path(QStringLiteral("old")), m_tree->path(QStringLiteral("new"))));
     QVERIFY(shows({QStringLiteral("new"), QStringLiteral("other")}));
     QCOMPARE(m_browser->selectedFiles(), QStringList());
 }
@@ -316,7 +343,8 @@ void tst_HostileTrees::navigatingWhileLoading()
         m_tree->makeFile(name);
     m_tree->makeDir(QStringLiteral("few/inside"));
     for (int round = 0; round < 5; ++round) {
-        m_browser->setAllowedDirs({m_tree->path(QStringLiteral("many")), m_tree->path(QStringLiteral("few"))});
+        m_browser->setAllowedDirs(
+            {m_tree->path(QStringLiteral("many")), m_tree->path(QStringLiteral("few"))});
         QCoreApplication::processEvents();
         m_parts->combo->setCurrentIndex(1);
         QCoreApplication::processEvents();
@@ -355,8 +383,10 @@ void tst_HostileTrees::manyEntriesLoadWhileTheInterfaceAnswers()
     loading.start();
     m_browser->setAllowedDirs({m_tree->path()});
     QVERIFY(loading.elapsed() < 1000); // nothing is read before the call returns
-    QTRY_COMPARE_WITH_TIMEOUT(m_parts->model->rowCount(m_parts->tileView->rootIndex()), manyEntries, 60000);
-    qInfo("%d entries in %lld ms, %d ticks, longest gap %lld ms", manyEntries, loading.elapsed(), ticks, longestGap);
+    QTRY_COMPARE_WITH_TIMEOUT(m_parts->model->rowCount(m_parts->tileView->rootIndex()), manyEntries,
+                              60000);
+    qInfo("%d entries in %lld ms, %d ticks, longest gap %lld ms", manyEntries, loading.elapsed(),
+          ticks, longestGap);
     QVERIFY(ticks > 3);
     QVERIFY(longestGap < loading.elapsed());
     QTRY_COMPARE(shownNames(*m_parts->tileView).constFirst(), QStringLiteral("f00000"));

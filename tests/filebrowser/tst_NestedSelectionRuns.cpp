@@ -20,15 +20,14 @@ using Slot = std::function<void(QListView& tileView, int emission)>;
 
 constexpr auto selectRows = QItemSelectionModel::Select | QItemSelectionModel::Rows;
 
-void doNothing(QListView&, int)
-{
-}
+void doNothing(QListView&, int) { }
 
 QItemSelection selectionOf(const Ranges& ranges, const QModelIndex& root)
 {
     QItemSelection selection;
     for (const auto& range : ranges)
-        selection.append({root.model()->index(range.first, 0, root), root.model()->index(range.second, 0, root)});
+        selection.append({root.model()->index(range.first, 0, root),
+                          root.model()->index(range.second, 0, root)});
     return selection;
 }
 
@@ -39,15 +38,17 @@ struct Log
 
     void addEmission(const QListView& tileView, const QString& currentPath, const QString& barPath)
     {
-        emissions.append(QStringLiteral("%1, bar %2: %3")
-                             .arg(currentPath, barPath, selectedNames(tileView).join(QLatin1Char(' '))));
+        emissions.append(
+            QStringLiteral("%1, bar %2: %3")
+                .arg(currentPath, barPath, selectedNames(tileView).join(QLatin1Char(' '))));
     }
 
     void addDeselections(const QItemSelection& deselected)
     {
         const QModelIndexList indexes = deselected.indexes();
         for (const QModelIndex& index : indexes)
-            deselections.append(QStringLiteral("%1:%2").arg(index.data().toString()).arg(index.column()));
+            deselections.append(
+                QStringLiteral("%1:%2").arg(index.data().toString()).arg(index.column()));
     }
 };
 
@@ -58,7 +59,8 @@ void play(QListView& tileView, const QVector<Ranges>& steps)
     for (const Ranges& ranges : steps)
         tileView.selectionModel()->select(selectionOf(ranges, root), selectRows);
     // Takes the last command of the selection model back, as Shift and a tap do.
-    tileView.selectionModel()->select(root.model()->index(0, 0, root), selectRows | QItemSelectionModel::Current);
+    tileView.selectionModel()->select(root.model()->index(0, 0, root),
+                                      selectRows | QItemSelectionModel::Current);
 }
 
 /// Waits until \a view shows \a count entries, sorted.
@@ -82,8 +84,9 @@ Log browserLog(const QString& path, int count, const QVector<Ranges>& steps, con
         log.addEmission(*parts.tileView, browser.currentPath(), lastCrumbPath(*parts.bar));
         slot(*parts.tileView, log.emissions.size());
     });
-    QObject::connect(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged, &browser,
-                     [&](const QItemSelection&, const QItemSelection& gone) { log.addDeselections(gone); });
+    QObject::connect(
+        parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged, &browser,
+        [&](const QItemSelection&, const QItemSelection& gone) { log.addDeselections(gone); });
     play(*parts.tileView, steps);
     return log;
 }
@@ -111,9 +114,10 @@ Ranges randomRanges(QRandomGenerator& random, int count)
     for (int i = 0; i < size; ++i) {
         const int first = random.bounded(count);
         const Ranges::value_type range(first, random.bounded(first, count));
-        const bool overlaps = std::any_of(ranges.cbegin(), ranges.cend(), [&](const Ranges::value_type& other) {
-            return range.first <= other.second && other.first <= range.second;
-        });
+        const bool overlaps =
+            std::any_of(ranges.cbegin(), ranges.cend(), [&](const Ranges::value_type& other) {
+                return range.first <= other.second && other.first <= range.second;
+            });
         if (!overlaps)
             ranges.append(range);
     }
@@ -130,7 +134,8 @@ Slot randomSlot(quint32 seed, const QString& path)
         const QModelIndex root = model->index(path);
         if (emission > lastMeddling)
             return;
-        const QItemSelection selection = selectionOf(randomRanges(random, model->rowCount(root)), root);
+        const QItemSelection selection =
+            selectionOf(randomRanges(random, model->rowCount(root)), root);
         const QVector<QItemSelectionModel::SelectionFlags> commands{
             QItemSelectionModel::NoUpdate, QItemSelectionModel::Clear, selectRows,
             selectRows | QItemSelectionModel::Clear,
@@ -272,7 +277,8 @@ void tst_NestedSelectionRuns::onceForEachDirectoryAndOnceMore()
     QVERIFY(loaded(*parts.tileView, directoryCount + fileCount));
 
     QSignalSpy changed(&browser, &ui::FileBrowserWidget::selectionChanged);
-    parts.tileView->selectionModel()->select(selectionOf(ranges, parts.tileView->rootIndex()), selectRows);
+    parts.tileView->selectionModel()->select(selectionOf(ranges, parts.tileView->rootIndex()),
+                                             selectRows);
     QCOMPARE(changed.count(), emissions);
 }
 
