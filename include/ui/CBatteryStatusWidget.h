@@ -7,6 +7,7 @@
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
+class QColor;
 class QStylePainter;
 QT_END_NAMESPACE
 
@@ -15,99 +16,113 @@ namespace ui {
 class AccessibleBattery;
 
 /**
- * A battery symbol in golden-ratio proportions.
+ * An upright battery that shows its charge.
+ *
+ * The charge rises from the bottom of a rounded body with a small terminal on top. Without a
+ * battery body and terminal are hatched and their outlines dashed; while the battery charges a
+ * lightning bolt lies over the body. All proportions derive from #GOLDEN_RATIO.
  *
  * \code
- * auto* battery = new ui::CBatteryStatusWidget(this);
- * battery->setChargePercentage(57);
+ * auto* battery = new ui::CBatteryStatusWidget(statusBar);
+ * battery->setFillColor(Qt::darkGreen);
+ * battery->setChargePercentage(80);
  * battery->setBatteryCharging(true);
  * \endcode
  *
- * An upright rounded body with a small terminal on top. The fill rises from the bottom with the
- * charge; a lightning bolt shows that the battery charges; without a battery the symbol is hatched
- * and its outline dashed.
+ * The nearest neighbour in Qt is a vertical QProgressBar, which has a range, a text and the look
+ * of the style. This widget has a fixed range of 0 to 100 percent, no text and a look of its own.
  *
- * Its nearest neighbour is QProgressBar, which is a control with a text, a range and a style's own
- * look. This symbol keeps its proportions instead: layouts ask heightForWidth(), and in a rectangle
- * of another shape it is centred at the largest size that fits. It has no size hint.
+ * The battery keeps its shape: the size policy has height-for-width on, and in a rectangle of
+ * another shape the battery is fitted to the smaller side and centred in the contents rectangle.
+ * There is no size hint; the layout or a fixed size decides how large the battery is.
  *
- * | Palette role     | Paints                                                          |
- * |------------------|-----------------------------------------------------------------|
- * | foregroundRole() | outline and terminal, and the hatch where there is no battery    |
- *
- * The roles are read from the current colour group. A change repaints no more than it must: the body
- * alone for charge and fill colour, nothing at all for a charge that is not shown.
- *
- * To assistive technology it is a progress bar from 0 to 100, described as charging or absent.
+ * Outline, terminal and hatch have the brush of the widget's foreground role (by default
+ * QPalette::WindowText) in the current colour group. The fill has the colour of setFillColor(),
+ * the bolt is always amber. To assistive technology the battery is a progress bar from 0 to 100,
+ * described as charging or absent.
  */
 class PLATFORM_WIDGETS_EXPORT CBatteryStatusWidget : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The ratio of all proportions.
+    /// The ratio of the body's height to its width, from which all other measures derive.
     static const double GOLDEN_RATIO;
 
-    /// A present, empty battery that does not charge, owned by \a parent.
+    /// Makes a present, empty battery that does not charge, blue, with a frame of 4 pixels.
     explicit CBatteryStatusWidget(QWidget* parent = nullptr);
     ~CBatteryStatusWidget() override;
 
-    /// The height, in pixels, of a symbol that is \a w pixels wide with the contents margins.
-    int heightForWidth(int w) const override;
+    /// The height, in pixels, at which a battery as wide as \a width with its margins fits exactly.
+    int heightForWidth(int width) const override;
+    /// The width of a battery, without margins, that is \a height pixels high.
+    int widthForHeight(int height) const;
 
     /**
-     * Sets the width of the outline in pixels, 4 by default, and with it the corners' radius.
-     * The symbol is laid out for the new width at the next resize, not before. Widths of 0 and less
-     * are taken as they are: 0 gives a line of one pixel, less than 0 nothing useful.
+     * \name Measures of the parts
+     * In pixels, for the present frame width. Results beyond the range of int are cut off there.
+     * @{
+     */
+    int getBatteryRectWidth(int width) const; ///< Width of the body in a battery \a width wide.
+    int getBatteryRectHeight(int width) const; ///< Height of a body \a width wide.
+    int getTopRectWidth(int width) const; ///< Width of the terminal on a body \a width wide.
+    int getTopRectHeight(int width) const; ///< Height of a terminal \a width wide.
+    /// Height of the battery whose body and terminal are \a bodyHeight and \a topHeight high.
+    int getTotalHeight(int bodyHeight, int topHeight) const;
+    /** @} */
+
+    /**
+     * Sets the width of the outline in pixels; 4 by default.
+     *
+     * The corner radius follows at once; body and terminal follow at the next resize. The widget
+     * is repainted. Any value is kept; an outline of 0 or less is drawn as a line of one pixel.
      */
     void setFrameWidth(int width);
 
     /**
-     * Sets the colour of the charge fill, blue by default: a gradient from a darker shade at the
-     * bottom left to a lighter one at the top right. An invalid colour gives black.
+     * Sets the colour of the charge, blue by default: a gradient from a darker shade of \a color
+     * at the bottom left to a lighter one at the top right of the filled part.
+     *
+     * A present battery is repainted even if the colour is the same as before. An invalid colour
+     * is drawn as black.
      */
     void setFillColor(QColor const& color);
 
-    /// \name Geometry
-    /// In pixels; \a w is an outer width. Results are kept within ±2^29.
-    /// \{
-    int getBatteryRectWidth(int w) const; ///< Width of the body's outline.
-    int getBatteryRectHeight(int w) const; ///< Height of a body of width \a w.
-    int getTopRectWidth(int w) const; ///< Width of the terminal on a body of width \a w.
-    int getTopRectHeight(int w) const; ///< Height of a terminal of width \a w.
-    int getTotalHeight(int bodyHeight, int topHeight) const; ///< Height of the whole symbol.
-    int widthForHeight(int h) const; ///< Outer width of a symbol of height \a h.
-    /// \}
-
 public Q_SLOTS:
-    /// Sets the charge in percent, 0 by default; clamped to 0…100.
+    /**
+     * Sets the charge in percent, 0 by default; values outside 0 to 100 are cut off there.
+     *
+     * The body of a present battery is repainted unless \a percent is the charge already.
+     */
     void setChargePercentage(int percent);
-    /// Says whether there is a battery, true by default. The charge is kept while there is none.
+
+    /// Shows a battery, as by default, or the look of a missing one.
     void setBatteryPresent(bool present);
-    /// Says whether the battery charges, false by default; seen only while it is present.
+
+    /// Shows the bolt on a present battery, or hides it, as by default.
     void setBatteryCharging(bool charging);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-    /// Draws the charge fill, or the hatch where there is no battery.
+    /// Paints the charge or, without a battery, the hatch of the body.
     void paintBatteryFill(QStylePainter& painter);
-    /// Draws the outline of the body and the terminal, as asked for.
+    /// Paints the outline of the body if \a paintBody is set, and the terminal if \a paintTop is.
     void paintBatteryFrame(QStylePainter& painter, bool paintTop, bool paintBody);
-    /// Draws the lightning bolt.
+    /// Paints the lightning bolt.
     void paintChargingIcon(QStylePainter& painter);
 
 private:
     friend class AccessibleBattery;
 
-    int m_frameWidth;
-    double m_cornerRadius;
-    int m_flags;
-    double m_charge;
-    QRect m_batteryRect;
-    QRect m_topRect;
-    QRect m_chargingIconRect;
+    int m_frameWidth; // of the outline pen, in pixels
+    double m_cornerRadius; // of body and terminal, in pixels
+    int m_flags; // present: 1, charging: 2
+    double m_charge; // 0.0 to 1.0
+    QRect m_batteryRect; // the body; null before the first resize, as the other two
+    QRect m_topRect; // the terminal
+    QRect m_chargingIconRect; // the box of the bolt
     QBrush m_fillBrush;
 };
 

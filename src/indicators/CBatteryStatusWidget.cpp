@@ -2,44 +2,74 @@
 
 #include "../frame/accessibility/Accessibility.h"
 #include "BatteryFlags.h"
-#include "BoundedInt.h"
 
 #include <QAccessible>
-#include <QLinearGradient>
+#include <QPainterPath>
+#include <QPaintEvent>
+#include <QStylePainter>
+
+#include <limits>
 
 namespace ui {
 
+const double CBatteryStatusWidget::GOLDEN_RATIO = 1.618;
+
 namespace {
+
+constexpr double twoGoldenRatios = 3.236;
+constexpr double sixGoldenRatios = 9.708;
+/// Height of body and terminal per pixel of width: 1.618 + 1 / 3.236².
+constexpr double heightToWidth = 1.7134955147666626;
 
 constexpr int defaultFrameWidth = 4;
 
-/// No frame has this width, so that setting any takes effect.
-constexpr int unsetFrameWidth = -1;
+/// Rectangles end here, so that no width, height or intersection of them overflows.
+constexpr qint64 largestCoordinate = std::numeric_limits<int>::max() / 2;
+/// The rasteriser's own limit; a wider pen covers every screen just the same.
+constexpr double widestPen = 32767;
 
-/// Width of the body to that of the terminal: twice the golden ratio.
-constexpr double bodyToTerminal = 3.236;
+constexpr QColor boltColor(239, 184, 0);
 
-/// Height of body and terminal to the body's width: 1.618 + 1 / 3.236².
-constexpr double heightToWidth = 1.7134955147666626;
-
-int withFlag(int flags, BatteryFlag flag, bool on)
+/// \a value, or the nearest int if it is out of range.
+int saturated(qint64 value)
 {
-    return on ? flags | flag : flags & ~flag;
+    return int(
+        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
 }
 
-double fractionOf(int percent)
+/// qRound() that is defined for every finite \a value; qRound() itself looks one below its result.
+int rounded(double value)
 {
-    return qBound(0, percent, 100) / 100.0;
+    return qRound(qBound(double(std::numeric_limits<int>::min() + 1), value,
+                         double(std::numeric_limits<int>::max())));
 }
 
-/// From the bottom left to the top right of whatever it fills.
-QBrush fillBrush(const QColor& color)
+QRect rectOfEdges(qint64 left, qint64 top, qint64 right, qint64 bottom)
+{
+    const auto bounded = [](qint64 coordinate) {
+        return int(qBound(-largestCoordinate, coordinate, largestCoordinate));
+    };
+    return QRect(QPoint(bounded(left), bounded(top)), QPoint(bounded(right), bounded(bottom)));
+}
+
+QRect rectOfSize(qint64 left, qint64 top, qint64 width, qint64 height)
+{
+    return rectOfEdges(left, top, left + width - 1, top + height - 1);
+}
+
+double penWidth(double width)
+{
+    return qBound(0.0, width, widestPen);
+}
+
+/// A gradient from the bottom left to the top right corner of whatever it fills.
+QBrush diagonalGradient(const QColor& bottomLeft, const QColor& topRight)
 {
     QLinearGradient gradient(0, 1, 1, 0);
     gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
-    gradient.setColorAt(0.0, color.darker(200));
-    gradient.setColorAt(1.0, color.lighter(150));
-    return QBrush(gradient);
+    gradient.setColorAt(0.0, bottomLeft);
+    gradient.setColorAt(1.0, topRight);
+    return gradient;
 }
 
 /// Costs nothing while no assistive technology listens.
@@ -51,23 +81,34 @@ void announceCharge(QWidget* battery, int percent)
     QAccessible::updateAccessibility(&event);
 }
 
-/**
- * Left edge of a shape that is centred as if it were a frame width wider, and then moved by half of
- * it, so that an outline of that width stays inside. Both halves truncate.
- */
-int centredLeft(const QRect& contents, int width, int frameWidth)
+QPainterPath boltPath(const QRect& box)
 {
-    const qint64 spare = contents.width() - (qint64(frameWidth) + width);
-    return bounded(contents.left() + spare / 2 + frameWidth / 2);
+    const double boxWidth = box.right() - box.left() + 1;
+    const double notch = boxWidth / sixGoldenRatios;
+    const double barHeight = boxWidth / CBatteryStatusWidget::GOLDEN_RATIO;
+    const double centre = box.left() + (box.right() - box.left() + 1) / 2;
+    const double left = box.left();
+    const double top = box.top();
+    const double right = box.right();
+    const double bottom = box.bottom();
+
+    QPainterPath path(QPointF(left, bottom));
+    path.lineTo(centre - notch, top + barHeight + notch);
+    path.lineTo(left + notch, top + barHeight + notch);
+    path.lineTo(centre - notch, top);
+    // The bar ends at the outer edge of the last pixel, the tip below it at the pixel itself.
+    path.lineTo(right + 1 - notch, top);
+    path.lineTo(centre + notch, top + barHeight);
+    path.lineTo(right, top + barHeight);
+    path.lineTo(left, bottom);
+    return path;
 }
 
 } // namespace
 
-const double CBatteryStatusWidget::GOLDEN_RATIO = 1.618;
-
 CBatteryStatusWidget::CBatteryStatusWidget(QWidget* parent)
     : QWidget(parent)
-    , m_frameWidth(unsetFrameWidth)
+    , m_frameWidth(-1) // differs from the default, which is set below
     , m_cornerRadius(-1.0)
     , m_flags(BatteryPresent)
     , m_charge(0.0)
@@ -82,19 +123,52 @@ CBatteryStatusWidget::CBatteryStatusWidget(QWidget* parent)
 
 CBatteryStatusWidget::~CBatteryStatusWidget() = default;
 
-int CBatteryStatusWidget::heightForWidth(int w) const
+int CBatteryStatusWidget::heightForWidth(int width) const
 {
-    const QMargins m = contentsMargins();
-    const int bodyWidth = getBatteryRectWidth(bounded(qint64(w) - m.left() - m.right()));
+    const QMargins margins = contentsMargins();
+    const int bodyWidth =
+        getBatteryRectWidth(saturated(qint64(width) - margins.left() - margins.right()));
     const int bodyHeight = getBatteryRectHeight(bodyWidth);
     const int topHeight = getTopRectHeight(getTopRectWidth(bodyWidth));
-    return bounded(qint64(m.top()) + m.bottom() + getTotalHeight(bodyHeight, topHeight));
+    return saturated(qint64(margins.top()) + margins.bottom()
+                     + getTotalHeight(bodyHeight, topHeight));
+}
+
+int CBatteryStatusWidget::widthForHeight(int height) const
+{
+    return rounded((double(height) - m_frameWidth) / heightToWidth + m_frameWidth);
+}
+
+int CBatteryStatusWidget::getBatteryRectWidth(int width) const
+{
+    return saturated(qint64(width) - m_frameWidth);
+}
+
+int CBatteryStatusWidget::getBatteryRectHeight(int width) const
+{
+    return rounded(width * GOLDEN_RATIO);
+}
+
+int CBatteryStatusWidget::getTopRectWidth(int width) const
+{
+    return rounded(width / twoGoldenRatios);
+}
+
+int CBatteryStatusWidget::getTopRectHeight(int width) const
+{
+    return getTopRectWidth(width);
+}
+
+int CBatteryStatusWidget::getTotalHeight(int bodyHeight, int topHeight) const
+{
+    return saturated(qint64(bodyHeight) + topHeight + m_frameWidth);
 }
 
 void CBatteryStatusWidget::setFrameWidth(int width)
 {
-    if (width == m_frameWidth)
+    if (m_frameWidth == width)
         return;
+
     m_frameWidth = width;
     m_cornerRadius = width * GOLDEN_RATIO;
     update();
@@ -102,46 +176,17 @@ void CBatteryStatusWidget::setFrameWidth(int width)
 
 void CBatteryStatusWidget::setFillColor(QColor const& color)
 {
-    m_fillBrush = fillBrush(color);
+    m_fillBrush = diagonalGradient(color.darker(200), color.lighter(150));
     if (m_flags & BatteryPresent)
         update(m_batteryRect);
-}
-
-int CBatteryStatusWidget::getBatteryRectWidth(int w) const
-{
-    return bounded(qint64(w) - m_frameWidth);
-}
-
-int CBatteryStatusWidget::getBatteryRectHeight(int w) const
-{
-    return boundedRound(w * GOLDEN_RATIO);
-}
-
-int CBatteryStatusWidget::getTopRectWidth(int w) const
-{
-    return boundedRound(w / bodyToTerminal);
-}
-
-int CBatteryStatusWidget::getTopRectHeight(int w) const
-{
-    return getTopRectWidth(w);
-}
-
-int CBatteryStatusWidget::getTotalHeight(int bodyHeight, int topHeight) const
-{
-    return bounded(qint64(bodyHeight) + topHeight + m_frameWidth);
-}
-
-int CBatteryStatusWidget::widthForHeight(int h) const
-{
-    return boundedRound((double(h) - m_frameWidth) / heightToWidth + m_frameWidth);
 }
 
 void CBatteryStatusWidget::setChargePercentage(int percent)
 {
     if (percent == qRound(m_charge * 100))
         return;
-    m_charge = fractionOf(percent);
+
+    m_charge = qBound(0, percent, 100) / 100.0;
     if (m_flags & BatteryPresent)
         update(m_batteryRect);
     announceCharge(this, percent);
@@ -149,18 +194,20 @@ void CBatteryStatusWidget::setChargePercentage(int percent)
 
 void CBatteryStatusWidget::setBatteryPresent(bool present)
 {
-    const int flags = withFlag(m_flags, BatteryPresent, present);
-    if (flags == m_flags)
+    const int flags = present ? m_flags | BatteryPresent : m_flags & ~BatteryPresent;
+    if (m_flags == flags)
         return;
+
     m_flags = flags;
     update();
 }
 
 void CBatteryStatusWidget::setBatteryCharging(bool charging)
 {
-    const int flags = withFlag(m_flags, BatteryCharging, charging);
-    if (flags == m_flags)
+    const int flags = charging ? m_flags | BatteryCharging : m_flags & ~BatteryCharging;
+    if (m_flags == flags)
         return;
+
     m_flags = flags;
     update();
 }
@@ -170,25 +217,99 @@ void CBatteryStatusWidget::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
 
     const QRect contents = contentsRect();
-    const int outerWidth = qMin(widthForHeight(contents.height()), contents.width());
-    // The frame width comes off a second time here, unlike in heightForWidth().
-    const int bodyWidth = getBatteryRectWidth(bounded(qint64(outerWidth) - m_frameWidth));
+    const qint64 frameWidth = m_frameWidth;
+    const qint64 contentsWidth = qint64(contents.right()) - contents.left() + 1;
+    const qint64 contentsHeight = qint64(contents.bottom()) - contents.top() + 1;
+
+    const qint64 outerWidth =
+        qMin<qint64>(widthForHeight(saturated(contentsHeight)), contentsWidth);
+    // The frame width goes off here and in getBatteryRectWidth() again, other than in
+    // heightForWidth(): the battery keeps clear of the sides by half a frame.
+    const int bodyWidth = getBatteryRectWidth(saturated(outerWidth - frameWidth));
     const int bodyHeight = getBatteryRectHeight(bodyWidth);
     const int topWidth = getTopRectWidth(bodyWidth);
     const int topHeight = getTopRectHeight(topWidth);
-    const qint64 spareHeight = qint64(contents.height()) - getTotalHeight(bodyHeight, topHeight);
-    const int top = bounded(contents.top() + spareHeight / 2);
 
-    m_topRect = QRect(centredLeft(contents, topWidth, m_frameWidth), top, topWidth, topHeight);
-    m_batteryRect = QRect(centredLeft(contents, bodyWidth, m_frameWidth),
-                          bounded(qint64(top) + topHeight), bodyWidth, bodyHeight);
+    // Two divisions, since each of them truncates.
+    const auto centredLeft = [&](qint64 width) {
+        return contents.left() + (contentsWidth - (frameWidth + width)) / 2 + frameWidth / 2;
+    };
+    const qint64 topTop =
+        contents.top() + (contentsHeight - getTotalHeight(bodyHeight, topHeight)) / 2;
+    const qint64 bodyTop = topTop + topHeight;
+    const qint64 bodyLeft = centredLeft(bodyWidth);
+    m_topRect = rectOfSize(centredLeft(topWidth), topTop, topWidth, topHeight);
+    m_batteryRect = rectOfSize(bodyLeft, bodyTop, bodyWidth, bodyHeight);
 
-    // Centred in the body and then moved by a whole frame width, right and down.
-    const int iconWidth = boundedRound(bodyWidth / GOLDEN_RATIO);
-    m_chargingIconRect = QRect(
-        bounded(qint64(m_batteryRect.left()) + (qint64(bodyWidth) - iconWidth) / 2 + m_frameWidth),
-        bounded(qint64(m_batteryRect.top()) + (qint64(bodyHeight) - bodyWidth) / 2 + m_frameWidth),
-        iconWidth, bodyWidth);
+    // The bolt is as high as the body is wide, and a frame width off the body's centre.
+    const qint64 iconWidth = rounded(bodyWidth / GOLDEN_RATIO);
+    m_chargingIconRect = rectOfSize(bodyLeft + (bodyWidth - iconWidth) / 2 + frameWidth,
+                                    bodyTop + (qint64(bodyHeight) - bodyWidth) / 2 + frameWidth,
+                                    iconWidth, bodyWidth);
+}
+
+void CBatteryStatusWidget::paintEvent(QPaintEvent* event)
+{
+    QStylePainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+
+    const bool bodyHit = m_batteryRect.intersects(event->rect());
+    const bool topHit = m_topRect.intersects(event->rect());
+    const bool charging = (m_flags & BatteryPresent) && (m_flags & BatteryCharging);
+    if (bodyHit)
+        paintBatteryFill(painter);
+    if (topHit || bodyHit)
+        paintBatteryFrame(painter, topHit, bodyHit);
+    if (charging && bodyHit)
+        paintChargingIcon(painter);
+}
+
+void CBatteryStatusWidget::paintBatteryFill(QStylePainter& painter)
+{
+    const qint64 inset = m_frameWidth / 2;
+    QRect area = rectOfEdges(m_batteryRect.left() + inset, m_batteryRect.top() + inset,
+                             m_batteryRect.right() - inset, m_batteryRect.bottom() - inset);
+
+    if (!(m_flags & BatteryPresent)) {
+        QBrush hatch = palette().brush(QPalette::Current, foregroundRole());
+        hatch.setStyle(Qt::BDiagPattern);
+        painter.fillRect(area, hatch);
+        return;
+    }
+
+    // One row more than the charge asks for: an empty battery keeps a line at the bottom.
+    const int filledHeight = rounded((area.bottom() - area.top() + 1) * m_charge);
+    area.setTop(area.bottom() - filledHeight);
+    painter.fillRect(area, m_fillBrush);
+}
+
+void CBatteryStatusWidget::paintBatteryFrame(QStylePainter& painter, bool paintTop, bool paintBody)
+{
+    const bool present = m_flags & BatteryPresent;
+    const QBrush foreground = palette().brush(QPalette::Current, foregroundRole());
+    painter.setPen(QPen(foreground, penWidth(m_frameWidth), present ? Qt::SolidLine : Qt::DashLine,
+                        Qt::SquareCap, Qt::BevelJoin));
+
+    // The painter has no brush yet: of the body only the outline is drawn, over the fill.
+    if (paintBody)
+        painter.drawRoundedRect(QRectF(m_batteryRect), m_cornerRadius, m_cornerRadius);
+
+    if (paintTop) {
+        QBrush brush = foreground;
+        if (!present)
+            brush.setStyle(Qt::BDiagPattern);
+        painter.setBrush(brush);
+        painter.drawRoundedRect(QRectF(m_topRect), m_cornerRadius, m_cornerRadius);
+    }
+}
+
+void CBatteryStatusWidget::paintChargingIcon(QStylePainter& painter)
+{
+    static const QColor penColor = boltColor.darker(150);
+    painter.setPen(
+        QPen(penColor, penWidth(m_frameWidth / 2.0), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setBrush(diagonalGradient(boltColor.darker(125), boltColor.lighter(125)));
+    painter.drawPath(boltPath(m_chargingIconRect));
 }
 
 } // namespace ui

@@ -1,103 +1,345 @@
-#include "BatteryPicture.h"
+#include "BatteryState.h"
 #include "PaintRecorder.h"
 #include "TestApplication.h"
 
-#include <ui/CBatteryStatusWidget.h>
-
+#include <QMetaMethod>
 #include <QVBoxLayout>
 
 #include <climits>
+
+using test::BatteryLayout;
+using test::BatteryState;
+using test::PaintRecorder;
+using ui::CBatteryStatusWidget;
 
 Q_DECLARE_METATYPE(QMargins)
 
 namespace {
 
-/// A shown battery whose first paint has been seen.
-struct Shown
-{
-    explicit Shown(const QSize& size = QSize(40, 80))
+/// A battery on the screen, with nothing left to paint.
+class ShownBattery {
+public:
+    explicit ShownBattery(bool present = true)
+        : recorder(&widget)
     {
-        battery.setWindowFlag(Qt::FramelessWindowHint);
-        battery.resize(size);
-        battery.show();
-        ready = QTest::qWaitForWindowExposed(&battery);
+        widget.resize(100, 160);
+        widget.setBatteryPresent(present);
+        widget.show();
+        if (!QTest::qWaitForWindowExposed(&widget))
+            qFatal("the window did not appear");
         recorder.takeRegions();
     }
 
-    ui::CBatteryStatusWidget battery;
-    test::PaintRecorder recorder{&battery};
-    bool ready = false;
+    QVector<QRegion> body() const
+    {
+        return {BatteryState(widget).body};
+    }
+    QVector<QRegion> whole() const
+    {
+        return {widget.rect()};
+    }
+
+    CBatteryStatusWidget widget;
+    PaintRecorder recorder;
 };
 
-QVector<QRegion> only(const QRect& rect)
+void resized(CBatteryStatusWidget& widget, const QSize& size)
 {
-    return {QRegion(rect)};
+    widget.resize(size);
+    QResizeEvent event(size, QSize());
+    QCoreApplication::sendEvent(&widget, &event);
 }
 
 } // namespace
 
-class tst_CBatteryStatusWidget : public QObject
-{
+class tst_CBatteryStatusWidget : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void publicFace();
-    void sizePolicyHasHeightForWidth();
-    void geometryFunctions();
+    void goldenRatio();
+    void metaObject();
+    void construction();
+    void constructionWithParent();
+    void chargeIsStored_data();
+    void chargeIsStored();
+    void everyPercentageIsKept();
+    void flags();
+    void frameWidth();
+
+    void chargeRepaintsTheBody();
+    void equalChargeRepaintsNothing();
+    void clampedChargeRepaintsEachTime();
+    void chargeOfAnAbsentBattery();
+    void fillColorRepaintsTheBody();
+    void fillColorOfAnAbsentBattery();
+    void presenceRepaintsEverything();
+    void chargingRepaintsEverything();
+    void frameWidthRepaintsEverything();
+
+    void measures_data();
+    void measures();
     void heightForWidth_data();
     void heightForWidth();
-    void layOut_data();
-    void layOut();
-    void layoutKeepsTheProportions();
-    void chargeRepaintsTheBodyAlone();
-    void equalChargeRepaintsNothing_data();
-    void equalChargeRepaintsNothing();
-    void clampedChargeRepaintsEachTime_data();
-    void clampedChargeRepaintsEachTime();
-    void absentBatteryKeepsItsChargeInSilence();
-    void presenceAndChargingRepaintEverything();
-    void fillColorAlwaysRepaintsTheBody();
-    void frameWidthLeavesTheLayoutUntilTheNextResize();
-    void nothingIsRepaintedBeforeTheFirstResize();
-    void absurdValues_data();
-    void absurdValues();
+    void heightForWidthInALayout();
+    void nullBeforeTheFirstResize();
+    void layout_data();
+    void layout();
+    void layoutOfManySizes();
+    void layoutFollowsTheResizeOnly();
+    void tooLowExtendsBothWays();
+    void tooNarrowDegenerates();
 };
 
-void tst_CBatteryStatusWidget::publicFace()
+void tst_CBatteryStatusWidget::goldenRatio()
 {
-    QCOMPARE(ui::CBatteryStatusWidget::GOLDEN_RATIO, 1.618);
-    const QMetaObject& meta = ui::CBatteryStatusWidget::staticMetaObject;
+    QCOMPARE(CBatteryStatusWidget::GOLDEN_RATIO, 1.618);
+    const double* const symbol = &CBatteryStatusWidget::GOLDEN_RATIO;
+    QCOMPARE(*symbol, 1.618);
+}
+
+void tst_CBatteryStatusWidget::metaObject()
+{
+    const QMetaObject& meta = CBatteryStatusWidget::staticMetaObject;
     QCOMPARE(meta.className(), "ui::CBatteryStatusWidget");
-    QCOMPARE(meta.propertyCount(), QWidget::staticMetaObject.propertyCount());
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 3);
-    for (const char* slot :
-         {"setChargePercentage(int)", "setBatteryPresent(bool)", "setBatteryCharging(bool)"}) {
-        const QMetaMethod method = meta.method(meta.indexOfMethod(slot));
-        QCOMPARE(method.methodType(), QMetaMethod::Slot);
-        QCOMPARE(method.access(), QMetaMethod::Public);
+    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+
+    QList<QByteArray> slotNames;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
+        QCOMPARE(meta.method(i).access(), QMetaMethod::Public);
+        slotNames.append(meta.method(i).methodSignature());
+    }
+    QCOMPARE(slotNames,
+             (QList<QByteArray>{"setChargePercentage(int)", "setBatteryPresent(bool)",
+                                "setBatteryCharging(bool)"}));
+}
+
+void tst_CBatteryStatusWidget::construction()
+{
+    const CBatteryStatusWidget widget;
+    const BatteryState state(widget);
+    QCOMPARE(state.frameWidth, 4);
+    QCOMPARE(state.cornerRadius, 6.472);
+    QCOMPARE(state.flags, 1);
+    QCOMPARE(state.charge, 0.0);
+    QVERIFY(state.fillBrush);
+
+    QVERIFY(!widget.parent());
+    QCOMPARE(widget.sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(widget.sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    QVERIFY(widget.sizePolicy().hasHeightForWidth());
+    QVERIFY(widget.hasHeightForWidth());
+    QCOMPARE(widget.sizeHint(), QSize());
+    QCOMPARE(widget.minimumSizeHint(), QSize());
+}
+
+void tst_CBatteryStatusWidget::constructionWithParent()
+{
+    QWidget parent;
+    QPointer<CBatteryStatusWidget> child(new CBatteryStatusWidget(&parent));
+    QCOMPARE(child->parentWidget(), &parent);
+    QVERIFY(!child->isWindow());
+}
+
+void tst_CBatteryStatusWidget::chargeIsStored_data()
+{
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<double>("charge");
+    QTest::newRow("1") << 1 << 0.01;
+    QTest::newRow("50") << 50 << 0.5;
+    QTest::newRow("99") << 99 << 0.99;
+    QTest::newRow("100") << 100 << 1.0;
+    QTest::newRow("101") << 101 << 1.0;
+    QTest::newRow("150") << 150 << 1.0;
+    QTest::newRow("largest") << INT_MAX << 1.0;
+    QTest::newRow("0") << 0 << 0.0;
+    QTest::newRow("-5") << -5 << 0.0;
+    QTest::newRow("smallest") << INT_MIN << 0.0;
+}
+
+void tst_CBatteryStatusWidget::chargeIsStored()
+{
+    QFETCH(int, percent);
+    QFETCH(double, charge);
+    CBatteryStatusWidget widget;
+    widget.setChargePercentage(33);
+    QVERIFY(QMetaObject::invokeMethod(&widget, "setChargePercentage", Q_ARG(int, percent)));
+    QCOMPARE(BatteryState(widget).charge, charge);
+}
+
+void tst_CBatteryStatusWidget::everyPercentageIsKept()
+{
+    CBatteryStatusWidget widget;
+    for (int percent = 100; percent >= 0; --percent) {
+        widget.setChargePercentage(percent);
+        QCOMPARE(BatteryState(widget).charge, percent / 100.0);
     }
 }
 
-void tst_CBatteryStatusWidget::sizePolicyHasHeightForWidth()
+void tst_CBatteryStatusWidget::flags()
 {
-    const QSizePolicy policy = ui::CBatteryStatusWidget().sizePolicy();
-    QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(policy.verticalPolicy(), QSizePolicy::Preferred);
-    QVERIFY(policy.hasHeightForWidth());
-    QVERIFY(!ui::CBatteryStatusWidget().sizeHint().isValid());
+    CBatteryStatusWidget widget;
+    const auto flagsAfter = [&widget](const char* slot, bool on) {
+        QMetaObject::invokeMethod(&widget, slot, Q_ARG(bool, on));
+        return BatteryState(widget).flags;
+    };
+    QCOMPARE(flagsAfter("setBatteryCharging", true), 3);
+    QCOMPARE(flagsAfter("setBatteryCharging", true), 3);
+    QCOMPARE(flagsAfter("setBatteryPresent", false), 2);
+    QCOMPARE(flagsAfter("setBatteryPresent", false), 2);
+    QCOMPARE(flagsAfter("setBatteryCharging", false), 0);
+    QCOMPARE(flagsAfter("setBatteryPresent", true), 1);
 }
 
-void tst_CBatteryStatusWidget::geometryFunctions()
+void tst_CBatteryStatusWidget::frameWidth()
 {
-    const ui::CBatteryStatusWidget battery;
-    QCOMPARE(battery.getBatteryRectWidth(40), 36);
-    QCOMPARE(battery.getBatteryRectHeight(32), 52);
-    QCOMPARE(battery.getBatteryRectHeight(-32), -52);
-    QCOMPARE(battery.getTopRectWidth(32), 10);
-    QCOMPARE(battery.getTopRectHeight(10), 3);
-    QCOMPARE(battery.getTotalHeight(52, 3), 59);
-    QCOMPARE(battery.widthForHeight(80), 48);
-    QCOMPARE(battery.widthForHeight(4), 4);
+    CBatteryStatusWidget widget;
+    widget.setFrameWidth(5);
+    QCOMPARE(BatteryState(widget).frameWidth, 5);
+    QCOMPARE(BatteryState(widget).cornerRadius, 8.09);
+    widget.setFrameWidth(0);
+    QCOMPARE(BatteryState(widget).frameWidth, 0);
+    QCOMPARE(BatteryState(widget).cornerRadius, 0.0);
+    widget.setFrameWidth(-2);
+    QCOMPARE(BatteryState(widget).frameWidth, -2);
+    QCOMPARE(BatteryState(widget).cornerRadius, -3.236);
+}
+
+void tst_CBatteryStatusWidget::chargeRepaintsTheBody()
+{
+    ShownBattery battery;
+    battery.widget.setChargePercentage(57);
+    QCOMPARE(battery.recorder.takeRegions(), battery.body());
+}
+
+void tst_CBatteryStatusWidget::equalChargeRepaintsNothing()
+{
+    ShownBattery battery;
+    battery.widget.setChargePercentage(0);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    // The fractions of these, times 100, are just below the whole numbers.
+    for (const int percent : {29, 57, 58, 100}) {
+        battery.widget.setChargePercentage(percent);
+        QCOMPARE(battery.recorder.takeRegions().size(), 1);
+        battery.widget.setChargePercentage(percent);
+        QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    }
+}
+
+void tst_CBatteryStatusWidget::clampedChargeRepaintsEachTime()
+{
+    ShownBattery battery;
+    for (const int percent : {150, 150, -5, -5}) {
+        battery.widget.setChargePercentage(percent);
+        QCOMPARE(battery.recorder.takeRegions(), battery.body());
+    }
+    battery.widget.setChargePercentage(0);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+}
+
+void tst_CBatteryStatusWidget::chargeOfAnAbsentBattery()
+{
+    ShownBattery battery(false);
+    battery.widget.setChargePercentage(57);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    QCOMPARE(BatteryState(battery.widget).charge, 0.57);
+}
+
+void tst_CBatteryStatusWidget::fillColorRepaintsTheBody()
+{
+    ShownBattery battery;
+    battery.widget.setFillColor(Qt::green);
+    QCOMPARE(battery.recorder.takeRegions(), battery.body());
+
+    const void* const brush = BatteryState(battery.widget).fillBrush;
+    battery.widget.setFillColor(Qt::green);
+    QCOMPARE(battery.recorder.takeRegions(), battery.body());
+    QVERIFY2(BatteryState(battery.widget).fillBrush != brush, "the brush is built anew");
+}
+
+void tst_CBatteryStatusWidget::fillColorOfAnAbsentBattery()
+{
+    ShownBattery battery(false);
+    const void* const brush = BatteryState(battery.widget).fillBrush;
+    battery.widget.setFillColor(Qt::green);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    QVERIFY(BatteryState(battery.widget).fillBrush != brush);
+}
+
+void tst_CBatteryStatusWidget::presenceRepaintsEverything()
+{
+    ShownBattery battery;
+    battery.widget.setBatteryPresent(true);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    battery.widget.setBatteryPresent(false);
+    QCOMPARE(battery.recorder.takeRegions(), battery.whole());
+    battery.widget.setBatteryPresent(false);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    battery.widget.setBatteryPresent(true);
+    QCOMPARE(battery.recorder.takeRegions(), battery.whole());
+}
+
+void tst_CBatteryStatusWidget::chargingRepaintsEverything()
+{
+    ShownBattery battery;
+    battery.widget.setBatteryCharging(false);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    battery.widget.setBatteryCharging(true);
+    QCOMPARE(battery.recorder.takeRegions(), battery.whole());
+    battery.widget.setBatteryCharging(true);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    battery.widget.setBatteryCharging(false);
+    QCOMPARE(battery.recorder.takeRegions(), battery.whole());
+
+    ShownBattery absent(false);
+    absent.widget.setBatteryCharging(true);
+    QCOMPARE(absent.recorder.takeRegions(), absent.whole());
+}
+
+void tst_CBatteryStatusWidget::frameWidthRepaintsEverything()
+{
+    ShownBattery battery;
+    battery.widget.setFrameWidth(4);
+    QCOMPARE(battery.recorder.takeRegions().size(), 0);
+    battery.widget.setFrameWidth(5);
+    QCOMPARE(battery.recorder.takeRegions(), battery.whole());
+}
+
+void tst_CBatteryStatusWidget::measures_data()
+{
+    QTest::addColumn<int>("frameWidth");
+    QTest::addColumn<int>("argument");
+    QTest::addColumn<int>("bodyWidth");
+    QTest::addColumn<int>("bodyHeight");
+    QTest::addColumn<int>("topSide");
+    QTest::addColumn<int>("totalHeight");
+    QTest::addColumn<int>("widthForHeight");
+
+    // 250 × 1.618 = 404.5 and -250 × 1.618 = -404.5, rounded up both.
+    QTest::newRow("zero") << 4 << 0 << -4 << 0 << 0 << 11 << 2;
+    QTest::newRow("40") << 4 << 40 << 36 << 65 << 12 << 51 << 25;
+    QTest::newRow("65") << 4 << 65 << 61 << 105 << 20 << 76 << 40;
+    QTest::newRow("80") << 4 << 80 << 76 << 129 << 25 << 91 << 48;
+    QTest::newRow("250") << 4 << 250 << 246 << 405 << 77 << 261 << 148;
+    QTest::newRow("-250") << 4 << -250 << -254 << -404 << -77 << -239 << -144;
+    QTest::newRow("no frame") << 0 << 80 << 80 << 129 << 25 << 87 << 47;
+    QTest::newRow("negative frame") << -5 << 80 << 85 << 129 << 25 << 82 << 45;
+    QTest::newRow("wide frame") << 50 << 80 << 30 << 129 << 25 << 137 << 68;
+}
+
+void tst_CBatteryStatusWidget::measures()
+{
+    QFETCH(int, frameWidth);
+    QFETCH(int, argument);
+    CBatteryStatusWidget widget;
+    widget.setFrameWidth(frameWidth);
+    QTEST(widget.getBatteryRectWidth(argument), "bodyWidth");
+    QTEST(widget.getBatteryRectHeight(argument), "bodyHeight");
+    QTEST(widget.getTopRectWidth(argument), "topSide");
+    QTEST(widget.getTopRectHeight(argument), "topSide");
+    QTEST(widget.getTotalHeight(argument, 7), "totalHeight");
+    QTEST(widget.widthForHeight(argument), "widthForHeight");
 }
 
 void tst_CBatteryStatusWidget::heightForWidth_data()
@@ -106,16 +348,13 @@ void tst_CBatteryStatusWidget::heightForWidth_data()
     QTest::addColumn<QMargins>("margins");
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
-
-    // 36 * 1.618 = 58.2, 36 / 3.236 = 11.1, 11 / 3.236 = 3.4; 58 + 3 + 4
     QTest::newRow("default") << 4 << QMargins() << 40 << 65;
-    // 35 * 1.618 = 56.6, 35 / 3.236 = 10.8, 11 / 3.236 = 3.4; 57 + 3 + 5
+    QTest::newRow("margins") << 4 << QMargins(1, 20, 2, 300) << 43 << 385;
     QTest::newRow("odd frame") << 5 << QMargins() << 40 << 65;
-    // (40 - 1 - 4) - 4 = 31; 50.2, 9.6, 3.1; 50 + 3 + 4 + 2 + 8
-    QTest::newRow("margins") << 4 << QMargins(1, 2, 4, 8) << 40 << 67;
-    QTest::newRow("zero") << 4 << QMargins() << 4 << 4;
-    // -4 * 1.618 = -6.5, -4 / 3.236 = -1.2, -1 / 3.236 = -0.3; -6 + 0 + 4
-    QTest::newRow("negative body") << 4 << QMargins() << 0 << -2;
+    QTest::newRow("no frame") << 0 << QMargins() << 40 << 69;
+    QTest::newRow("frame as wide as the widget") << 40 << QMargins() << 40 << 40;
+    QTest::newRow("frame wider than the widget") << 50 << QMargins() << 40 << 33;
+    QTest::newRow("no width") << 4 << QMargins() << 0 << -2;
 }
 
 void tst_CBatteryStatusWidget::heightForWidth()
@@ -123,234 +362,123 @@ void tst_CBatteryStatusWidget::heightForWidth()
     QFETCH(int, frameWidth);
     QFETCH(QMargins, margins);
     QFETCH(int, width);
-
-    ui::CBatteryStatusWidget battery;
-    battery.setFrameWidth(frameWidth);
-    battery.setContentsMargins(margins);
-    QTEST(battery.heightForWidth(width), "height");
+    CBatteryStatusWidget widget;
+    widget.setFrameWidth(frameWidth);
+    widget.setContentsMargins(margins);
+    QTEST(widget.heightForWidth(width), "height");
 }
 
-void tst_CBatteryStatusWidget::layOut_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("frameWidth");
-    QTest::addColumn<QMargins>("margins");
-    QTest::addColumn<QRect>("body");
-
-    QTest::newRow("width-bound") << QSize(40, 80) << 4 << QMargins() << QRect(4, 13, 32, 52);
-    QTest::newRow("height-bound") << QSize(100, 80) << 4 << QMargins() << QRect(30, 7, 40, 65);
-    for (int width = 30; width <= 61; ++width) {
-        for (int frameWidth : {1, 2, 3, 4, 5, 7}) {
-            const QMargins margins(width % 3, 1, 2, width % 5);
-            BatteryPicture picture;
-            picture.frameWidth = frameWidth;
-            picture.layOut(QRect(QPoint(), QSize(width, 83)).marginsRemoved(margins));
-            QTest::addRow("%d wide, frame of %d", width, frameWidth)
-                << QSize(width, 83) << frameWidth << margins << picture.body;
-        }
-    }
-}
-
-void tst_CBatteryStatusWidget::layOut()
-{
-    QFETCH(QSize, size);
-    QFETCH(int, frameWidth);
-    QFETCH(QMargins, margins);
-    QFETCH(QRect, body);
-
-    Shown shown;
-    QVERIFY(shown.ready);
-    shown.battery.setFrameWidth(frameWidth);
-    shown.battery.setContentsMargins(margins);
-    shown.battery.resize(size);
-    shown.recorder.takeRegions();
-
-    // A change of the charge damages the body and nothing else.
-    shown.battery.setChargePercentage(50);
-    QCOMPARE(shown.recorder.takeRegions(), only(body));
-}
-
-void tst_CBatteryStatusWidget::layoutKeepsTheProportions()
+void tst_CBatteryStatusWidget::heightForWidthInALayout()
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* battery = new ui::CBatteryStatusWidget(&window);
+    auto* battery = new CBatteryStatusWidget;
     layout->addWidget(battery);
-    layout->addStretch();
-    window.resize(40, 400);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(battery->size(), QSize(window.width(), battery->heightForWidth(window.width())));
+    QVERIFY(layout->hasHeightForWidth());
+    QCOMPARE(layout->heightForWidth(40), 65);
 }
 
-void tst_CBatteryStatusWidget::chargeRepaintsTheBodyAlone()
+void tst_CBatteryStatusWidget::nullBeforeTheFirstResize()
 {
-    Shown shown;
-    QVERIFY(shown.ready);
-    for (int percent : {1, 50, 100, 99, 0}) {
-        shown.battery.setChargePercentage(percent);
-        QCOMPARE(shown.recorder.takeRegions(), only(QRect(4, 13, 32, 52)));
-    }
+    const CBatteryStatusWidget widget;
+    const BatteryState state(widget);
+    QCOMPARE(state.body, QRect());
+    QCOMPARE(state.top, QRect());
+    QCOMPARE(state.bolt, QRect());
 }
 
-void tst_CBatteryStatusWidget::equalChargeRepaintsNothing_data()
+void tst_CBatteryStatusWidget::layout_data()
 {
-    QTest::addColumn<int>("percent");
-    for (int percent = 0; percent <= 100; ++percent)
-        QTest::addRow("%d", percent) << percent; // 29, 57 and 58 are not exact as fractions
-}
-
-void tst_CBatteryStatusWidget::equalChargeRepaintsNothing()
-{
-    QFETCH(int, percent);
-    Shown shown;
-    QVERIFY(shown.ready);
-    shown.battery.setChargePercentage(percent);
-    shown.recorder.takeRegions();
-    shown.battery.setChargePercentage(percent);
-    QVERIFY(shown.recorder.takeRegions().isEmpty());
-}
-
-void tst_CBatteryStatusWidget::clampedChargeRepaintsEachTime_data()
-{
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<int>("stored");
-    for (int percent : {150, 101, INT_MAX})
-        QTest::addRow("%d", percent) << percent << 100;
-    for (int percent : {-5, -1, INT_MIN})
-        QTest::addRow("%d", percent) << percent << 0;
-}
-
-void tst_CBatteryStatusWidget::clampedChargeRepaintsEachTime()
-{
-    QFETCH(int, percent);
-    QFETCH(int, stored);
-    Shown shown;
-    QVERIFY(shown.ready);
-    for (int i = 0; i < 2; ++i) {
-        shown.battery.setChargePercentage(percent);
-        QCOMPARE(shown.recorder.takeRegions(), only(QRect(4, 13, 32, 52)));
-    }
-    shown.battery.setChargePercentage(stored); // equal to what was stored
-    QVERIFY(shown.recorder.takeRegions().isEmpty());
-}
-
-void tst_CBatteryStatusWidget::absentBatteryKeepsItsChargeInSilence()
-{
-    Shown shown;
-    QVERIFY(shown.ready);
-    shown.battery.setBatteryPresent(false);
-    shown.recorder.takeRegions();
-
-    shown.battery.setChargePercentage(70);
-    shown.battery.setFillColor(Qt::red);
-    QVERIFY(shown.recorder.takeRegions().isEmpty());
-
-    shown.battery.setBatteryPresent(true);
-    shown.recorder.takeRegions();
-    shown.battery.setChargePercentage(70);
-    QVERIFY(shown.recorder.takeRegions().isEmpty());
-}
-
-void tst_CBatteryStatusWidget::presenceAndChargingRepaintEverything()
-{
-    Shown shown;
-    QVERIFY(shown.ready);
-    const auto everything = only(shown.battery.rect());
-
-    shown.battery.setBatteryPresent(true);
-    shown.battery.setBatteryCharging(false);
-    QVERIFY(shown.recorder.takeRegions().isEmpty());
-    shown.battery.setBatteryCharging(true);
-    QCOMPARE(shown.recorder.takeRegions(), everything);
-    shown.battery.setBatteryCharging(true);
-    QVERIFY(shown.recorder.takeRegions().isEmpty());
-    shown.battery.setBatteryPresent(false);
-    QCOMPARE(shown.recorder.takeRegions(), everything);
-    shown.battery.setBatteryCharging(false); // kept apart from presence, and repainted as well
-    QCOMPARE(shown.recorder.takeRegions(), everything);
-}
-
-void tst_CBatteryStatusWidget::fillColorAlwaysRepaintsTheBody()
-{
-    Shown shown;
-    QVERIFY(shown.ready);
-    for (int i = 0; i < 2; ++i) {
-        shown.battery.setFillColor(Qt::blue); // the same as before
-        QCOMPARE(shown.recorder.takeRegions(), only(QRect(4, 13, 32, 52)));
-    }
-}
-
-void tst_CBatteryStatusWidget::frameWidthLeavesTheLayoutUntilTheNextResize()
-{
-    Shown shown;
-    QVERIFY(shown.ready);
-    shown.battery.setFrameWidth(4);
-    QVERIFY(shown.recorder.takeRegions().isEmpty());
-
-    shown.battery.setFrameWidth(5);
-    QCOMPARE(shown.recorder.takeRegions(), only(shown.battery.rect()));
-    shown.battery.setChargePercentage(10);
-    QCOMPARE(shown.recorder.takeRegions(), only(QRect(4, 13, 32, 52)));
-
-    shown.battery.resize(41, 80);
-    shown.recorder.takeRegions();
-    BatteryPicture picture;
-    picture.frameWidth = 5;
-    picture.layOut(QRect(0, 0, 41, 80));
-    shown.battery.setChargePercentage(20);
-    QCOMPARE(shown.recorder.takeRegions(), only(picture.body));
-}
-
-void tst_CBatteryStatusWidget::nothingIsRepaintedBeforeTheFirstResize()
-{
-    ui::CBatteryStatusWidget battery;
-    test::PaintRecorder recorder(&battery);
-    battery.setChargePercentage(40);
-    battery.setFillColor(Qt::green);
-    QVERIFY(recorder.takeRegions().isEmpty());
-}
-
-void tst_CBatteryStatusWidget::absurdValues_data()
-{
-    QTest::addColumn<int>("frameWidth");
+    QTest::addColumn<QMargins>("margins");
     QTest::addColumn<QSize>("size");
-    for (int frameWidth : {INT_MIN, -1000000, -3, 0, 1, 1000, 1000000, INT_MAX}) {
-        for (const QSize& size :
-             {QSize(0, 0), QSize(1, 1), QSize(3, 200), QSize(200, 3), QSize(60, 90)})
-            QTest::addRow("frame of %d, %dx%d", frameWidth, size.width(), size.height())
-                << frameWidth << size;
+    QTest::addColumn<QRect>("top");
+    QTest::addColumn<QRect>("body");
+    QTest::addColumn<QRect>("bolt");
+
+    const auto edges = [](int left, int top, int right, int bottom) {
+        return QRect(QPoint(left, top), QPoint(right, bottom));
+    };
+    QTest::newRow("as wide as it fits") << QMargins() << QSize(40, 80) << edges(15, 10, 24, 12)
+                                        << edges(4, 13, 35, 64) << edges(14, 27, 33, 58);
+    QTest::newRow("as high as it fits") << QMargins() << QSize(100, 80) << edges(44, 3, 55, 6)
+                                        << edges(30, 7, 69, 71) << edges(41, 23, 65, 62);
+    QTest::newRow("margins") << QMargins(10, 20, 30, 40) << QSize(80, 140) << edges(25, 30, 34, 32)
+                             << edges(14, 33, 45, 84) << edges(24, 47, 43, 78);
+}
+
+void tst_CBatteryStatusWidget::layout()
+{
+    QFETCH(QMargins, margins);
+    QFETCH(QSize, size);
+    CBatteryStatusWidget widget;
+    widget.setContentsMargins(margins);
+    resized(widget, size);
+    const BatteryState state(widget);
+    QTEST(state.top, "top");
+    QTEST(state.body, "body");
+    QTEST(state.bolt, "bolt");
+}
+
+void tst_CBatteryStatusWidget::layoutOfManySizes()
+{
+    const QMargins margins(3, 1, 4, 6);
+    for (const int frameWidth : {-3, 0, 1, 2, 3, 4, 5, 8, 13}) {
+        CBatteryStatusWidget widget;
+        widget.setFrameWidth(frameWidth);
+        widget.setContentsMargins(margins);
+        for (int width = 10; width < 90; width += 3) {
+            for (int height = 10; height < 170; height += 7) {
+                resized(widget, QSize(width, height));
+                const BatteryLayout expected(widget.rect().marginsRemoved(margins), frameWidth);
+                const BatteryState state(widget);
+                QCOMPARE(state.top, expected.top);
+                QCOMPARE(state.body, expected.body);
+                QCOMPARE(state.bolt, expected.bolt);
+            }
+        }
     }
 }
 
-void tst_CBatteryStatusWidget::absurdValues()
+void tst_CBatteryStatusWidget::layoutFollowsTheResizeOnly()
 {
-    QFETCH(int, frameWidth);
-    QFETCH(QSize, size);
-    ui::CBatteryStatusWidget battery;
-    battery.setFrameWidth(frameWidth);
-    battery.setFillColor(QColor());
-    battery.setBatteryCharging(true);
-    battery.setContentsMargins(INT_MAX / 4, 0, INT_MAX / 4, INT_MAX / 4);
-    for (int pass = 0; pass < 2; ++pass) {
-        battery.resize(size);
-        for (int percent : {INT_MIN, 50, INT_MAX}) {
-            battery.setChargePercentage(percent);
-            battery.setBatteryPresent(percent != 50);
-            QCOMPARE(battery.grab(QRect(0, 0, 60, 90)).isNull(), size.isEmpty());
-        }
-        for (int extent : {INT_MIN, -1, 0, INT_MAX}) {
-            battery.heightForWidth(extent);
-            battery.widthForHeight(extent);
-            battery.getBatteryRectWidth(extent);
-            battery.getBatteryRectHeight(extent);
-            battery.getTopRectHeight(extent);
-            battery.getTotalHeight(extent, extent);
-        }
-        battery.setContentsMargins(0, 0, 0, 0);
-        battery.resize(0, 0);
-    }
+    CBatteryStatusWidget widget;
+    resized(widget, QSize(40, 80));
+    const QRect before = BatteryState(widget).body;
+    widget.setFrameWidth(5);
+    QCOMPARE(BatteryState(widget).body, before);
+    widget.setContentsMargins(5, 5, 5, 5);
+    QCOMPARE(BatteryState(widget).body, before);
+    resized(widget, QSize(40, 80));
+    QCOMPARE(BatteryState(widget).body, BatteryLayout(QRect(5, 5, 30, 70), 5).body);
+}
+
+void tst_CBatteryStatusWidget::tooLowExtendsBothWays()
+{
+    CBatteryStatusWidget widget;
+    widget.setFrameWidth(0);
+    // Rounding makes the battery one pixel too high; half of that is truncated to nothing.
+    resized(widget, QSize(100, 1));
+    QCOMPARE(BatteryState(widget).body.top(), 0);
+    QCOMPARE(BatteryState(widget).body.bottom(), 1);
+
+    // A negative frame makes it far higher than its contents.
+    widget.setFrameWidth(-40);
+    resized(widget, QSize(100, 20));
+    const BatteryState state(widget);
+    QVERIFY(state.top.top() < 0);
+    QVERIFY(state.body.bottom() > 20);
+    QCOMPARE(state.body, BatteryLayout(QRect(0, 0, 100, 20), -40).body);
+}
+
+void tst_CBatteryStatusWidget::tooNarrowDegenerates()
+{
+    CBatteryStatusWidget widget;
+    resized(widget, QSize(8, 80));
+    QCOMPARE(BatteryState(widget).body.size(), QSize(0, 0));
+    resized(widget, QSize(3, 80));
+    QCOMPARE(BatteryState(widget).body.size(), QSize(-5, -8));
+    QCOMPARE(BatteryState(widget).body, BatteryLayout(QRect(0, 0, 3, 80), 4).body);
 }
 
 int main(int argc, char** argv)

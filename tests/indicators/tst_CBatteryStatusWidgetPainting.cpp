@@ -1,255 +1,539 @@
-#include "BatteryPicture.h"
+#include "BatteryState.h"
 #include "Painting.h"
 #include "Palettes.h"
 #include "TestApplication.h"
 
-#include <ui/CBatteryStatusWidget.h>
+#include <QPainter>
+#include <QPainterPath>
+
+using test::BatteryLayout;
+using ui::CBatteryStatusWidget;
 
 namespace {
 
-/// The widget and the picture of the same state.
-struct Pair
-{
-    explicit Pair(const QSize& size, int frameWidth = 4)
-    {
-        picture.frameWidth = frameWidth;
-        picture.layOut(QRect(QPoint(), size));
-        battery.setFrameWidth(frameWidth);
-        battery.resize(size);
-        picture.foreground = battery.palette().color(QPalette::WindowText);
-    }
+/// What a battery shows, and the test's own drawing of it.
+struct Look {
+    QSize size = QSize(40, 80);
+    int frameWidth = 4;
+    int percent = 50;
+    bool present = true;
+    bool charging = false;
+    QColor color = Qt::blue;
 
-    void setPercent(int percent)
+    BatteryLayout layout() const
     {
-        picture.percent = percent;
-        battery.setChargePercentage(percent);
+        return BatteryLayout(QRect(QPoint(), size), frameWidth);
     }
+    void applyTo(CBatteryStatusWidget& widget) const;
+    void drawFill(QPainter& painter, const QBrush& foreground) const;
+    void drawBodyOutline(QPainter& painter, const QBrush& foreground) const;
+    void drawTop(QPainter& painter, const QBrush& foreground) const;
+    void drawBolt(QPainter& painter) const;
+    void draw(QPainter& painter, const QBrush& foreground) const;
+    QImage image(const QBrush& foreground, qreal devicePixelRatio = 1.0) const;
 
-    void setPresent(bool present)
-    {
-        picture.present = present;
-        battery.setBatteryPresent(present);
-    }
-
-    void setCharging(bool charging)
-    {
-        picture.charging = charging;
-        battery.setBatteryCharging(charging);
-    }
-
-    void setPalette(const QPalette& palette)
-    {
-        battery.setPalette(palette);
-        picture.foreground = battery.palette().color(battery.foregroundRole());
-    }
-
-    bool agree(qreal devicePixelRatio = 1.0)
-    {
-        QImage expected = test::canvas(battery.size(), devicePixelRatio);
-        BatteryPicture::Damage damage;
-        damage.body = picture.body.intersects(battery.rect());
-        damage.terminal = picture.terminal.intersects(battery.rect());
-        picture.draw(expected, damage);
-        return test::sameImage(test::paintedBy(battery, devicePixelRatio), expected);
-    }
-
-    ui::CBatteryStatusWidget battery;
-    BatteryPicture picture;
+private:
+    QPen outlinePen(const QBrush& foreground) const;
 };
+
+void Look::applyTo(CBatteryStatusWidget& widget) const
+{
+    widget.setFrameWidth(frameWidth);
+    widget.setChargePercentage(percent);
+    widget.setBatteryPresent(present);
+    widget.setBatteryCharging(charging);
+    widget.setFillColor(color);
+    widget.resize(size);
+}
+
+/// A gradient over the unit square, stretched to \a rect.
+QBrush cornerToCorner(const QRectF& rect, const QColor& bottomLeft, const QColor& topRight)
+{
+    QLinearGradient gradient(0, 1, 1, 0);
+    gradient.setStops({{0.0, bottomLeft}, {1.0, topRight}});
+    QBrush brush(gradient);
+    brush.setTransform(
+        QTransform::fromTranslate(rect.x(), rect.y()).scale(rect.width(), rect.height()));
+    return brush;
+}
+
+QBrush hatched(const QBrush& brush)
+{
+    return QBrush(brush.color(), Qt::BDiagPattern);
+}
+
+QPen Look::outlinePen(const QBrush& foreground) const
+{
+    const Qt::PenStyle style = present ? Qt::SolidLine : Qt::DashLine;
+    return QPen(foreground, frameWidth, style, Qt::SquareCap, Qt::BevelJoin);
+}
+
+void Look::drawFill(QPainter& painter, const QBrush& foreground) const
+{
+    const QRect body = layout().body;
+    const int inset = frameWidth / 2;
+    const int left = body.left() + inset;
+    const int top = body.top() + inset;
+    const int width = body.width() - 2 * inset;
+    const int height = body.height() - 2 * inset;
+    if (!present) {
+        painter.fillRect(left, top, width, height, hatched(foreground));
+        return;
+    }
+    const int rows = qRound(height * percent / 100.0) + 1;
+    const QRect filled(left, top + height - rows, width, rows);
+    painter.fillRect(
+        filled, cornerToCorner(QRectF(filled).normalized(), color.darker(200), color.lighter(150)));
+}
+
+void Look::drawBodyOutline(QPainter& painter, const QBrush& foreground) const
+{
+    painter.setPen(outlinePen(foreground));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(layout().body), frameWidth * 1.618, frameWidth * 1.618);
+}
+
+void Look::drawTop(QPainter& painter, const QBrush& foreground) const
+{
+    painter.setPen(outlinePen(foreground));
+    painter.setBrush(present ? foreground : hatched(foreground));
+    painter.drawRoundedRect(QRectF(layout().top), frameWidth * 1.618, frameWidth * 1.618);
+}
+
+void Look::drawBolt(QPainter& painter) const
+{
+    const QRect box = layout().bolt;
+    const double l = box.left();
+    const double t = box.top();
+    const double r = box.right();
+    const double b = box.bottom();
+    const double a = box.width() / 9.708;
+    const double d = box.width() / 1.618;
+    const double c = box.left() + box.width() / 2;
+    const QPolygonF outline({{l, b},
+                             {c - a, t + d + a},
+                             {l + a, t + d + a},
+                             {c - a, t},
+                             {r + 1 - a, t},
+                             {c + a, t + d},
+                             {r, t + d},
+                             {l, b}});
+    const QColor amber(239, 184, 0);
+
+    QPainterPath path;
+    path.addPolygon(outline);
+    painter.setPen(
+        QPen(amber.darker(150), frameWidth / 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setBrush(cornerToCorner(path.boundingRect(), amber.darker(125), amber.lighter(125)));
+    painter.drawPath(path);
+}
+
+void Look::draw(QPainter& painter, const QBrush& foreground) const
+{
+    drawFill(painter, foreground);
+    drawBodyOutline(painter, foreground);
+    drawTop(painter, foreground);
+    if (present && charging)
+        drawBolt(painter);
+}
+
+QImage Look::image(const QBrush& foreground, qreal devicePixelRatio) const
+{
+    QImage image = test::canvas(size, devicePixelRatio);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter, foreground);
+    return image;
+}
+
+/// \a draw on a canvas of the size of \a look, clipped to \a region.
+template <typename Draw> QImage clipped(const Look& look, const QRegion& region, Draw draw)
+{
+    QImage image = test::canvas(look.size);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRegion(region);
+    draw(painter);
+    return image;
+}
 
 } // namespace
 
-class tst_CBatteryStatusWidgetPainting : public QObject
-{
+class tst_CBatteryStatusWidgetPainting : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void states_data();
-    void states();
-    void fillSpansTheChargeAndOneRow_data();
-    void fillSpansTheChargeAndOneRow();
-    void fillColor();
-    void foregroundComesFromTheCurrentGroup_data();
-    void foregroundComesFromTheCurrentGroup();
-    void damageOfTheTerminalAlone();
-    void damageOfTheBodyAlone();
+    void everyLook_data();
+    void everyLook();
+    void rightToLeftIsTheSame();
+    void foregroundRole();
+    void colorGroup_data();
+    void colorGroup();
+    void inactiveWindow();
+
     void nothingBeforeTheFirstResize();
-    void symbolLargerThanTheWidget();
-    void noRoomForTheBody();
-    void rightToLeftChangesNothing();
+    void emptyBatteryKeepsOneRow();
+    void fillRisesFromTheBottom();
+    void fillIsAGradient();
+    void absentBatteryIgnoresChargeAndCharging();
+    void boltLiesOnTop();
+    void boltPoints();
+    void hairlineFrame_data();
+    void hairlineFrame();
+
+    void terminalAlone();
+    void terminalAloneWithoutFill();
+    void terminalAloneWithoutBolt();
+    void bodyAlone_data();
+    void bodyAlone();
+    void beside();
+    void paintingKeepsTheState();
 };
 
-void tst_CBatteryStatusWidgetPainting::states_data()
+void tst_CBatteryStatusWidgetPainting::everyLook_data()
 {
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<bool>("present");
-    QTest::addColumn<bool>("charging");
-    QTest::addColumn<int>("frameWidth");
+    QTest::addColumn<QPalette>("palette");
     QTest::addColumn<qreal>("ratio");
+    QTest::newRow("light") << test::lightPalette() << 1.0;
+    QTest::newRow("light, two pixels per unit") << test::lightPalette() << 2.0;
+    QTest::newRow("dark") << test::darkPalette() << 1.0;
+    QTest::newRow("dark, two pixels per unit") << test::darkPalette() << 2.0;
+}
 
-    for (bool dark : {false, true}) {
-        for (qreal ratio : {1.0, 2.0}) {
-            for (int frameWidth : {1, 4, 5}) {
-                for (int percent : {0, 1, 50, 99, 100}) {
-                    for (int state = 0; state < 4; ++state) {
-                        QTest::addRow("%s, %d %%, %s%s, frame of %d, ratio %g",
-                                      dark ? "dark" : "light", percent,
-                                      state & 1 ? "present" : "absent",
-                                      state & 2 ? " and charging" : "", frameWidth, ratio)
-                            << dark << percent << bool(state & 1) << bool(state & 2) << frameWidth
-                            << ratio;
-                    }
+void tst_CBatteryStatusWidgetPainting::everyLook()
+{
+    QFETCH(QPalette, palette);
+    QFETCH(qreal, ratio);
+    const QBrush foreground = palette.brush(QPalette::Active, QPalette::WindowText);
+    Look look;
+    for (const QSize& size : {QSize(40, 80), QSize(100, 80), QSize(61, 131), QSize(12, 20)}) {
+        for (const int frameWidth : {1, 4, 5}) {
+            for (const int percent : {0, 1, 50, 99, 100}) {
+                for (const int flags : {0, 1, 2, 3}) {
+                    look = {size,         frameWidth, percent, bool(flags & 1), bool(flags & 2),
+                            Qt::darkGreen};
+                    CBatteryStatusWidget widget;
+                    widget.setPalette(palette);
+                    look.applyTo(widget);
+                    QVERIFY(test::sameImage(test::paintedBy(widget, ratio),
+                                            look.image(foreground, ratio)));
                 }
             }
         }
     }
 }
 
-void tst_CBatteryStatusWidgetPainting::states()
+void tst_CBatteryStatusWidgetPainting::rightToLeftIsTheSame()
 {
-    QFETCH(bool, dark);
-    QFETCH(int, percent);
-    QFETCH(bool, present);
-    QFETCH(bool, charging);
-    QFETCH(int, frameWidth);
-    QFETCH(qreal, ratio);
-
-    Pair pair(QSize(61, 97), frameWidth);
-    pair.setPalette(dark ? test::darkPalette() : test::lightPalette());
-    pair.setPercent(percent);
-    pair.setPresent(present);
-    pair.setCharging(charging);
-    QVERIFY(pair.agree(ratio));
+    Look look;
+    look.charging = true;
+    CBatteryStatusWidget widget;
+    widget.setLayoutDirection(Qt::RightToLeft);
+    look.applyTo(widget);
+    QVERIFY(test::sameImage(test::paintedBy(widget),
+                            look.image(widget.palette().brush(QPalette::WindowText))));
 }
 
-void tst_CBatteryStatusWidgetPainting::fillSpansTheChargeAndOneRow_data()
+void tst_CBatteryStatusWidgetPainting::foregroundRole()
 {
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<int>("rows");
-    // The area inside the outline is 48 rows high: 13 + 2 … 64 - 2.
-    QTest::newRow("empty") << 0 << 1;
-    QTest::newRow("1 %") << 1 << 1; // 0.48 rounds to 0
-    QTest::newRow("2 %") << 2 << 2; // 0.96 rounds to 1
-    QTest::newRow("half") << 50 << 25;
-    QTest::newRow("97 %") << 97 << 48; // 46.56 rounds to 47
+    const QPalette palette = test::telltalePalette();
+    for (const bool present : {true, false}) {
+        Look look;
+        look.present = present;
+        CBatteryStatusWidget widget;
+        widget.setPalette(palette);
+        widget.setForegroundRole(QPalette::Link);
+        look.applyTo(widget);
+        QVERIFY(test::sameImage(test::paintedBy(widget),
+                                look.image(palette.brush(QPalette::Active, QPalette::Link))));
+    }
 }
 
-void tst_CBatteryStatusWidgetPainting::fillSpansTheChargeAndOneRow()
+void tst_CBatteryStatusWidgetPainting::colorGroup_data()
 {
-    QFETCH(int, percent);
-    Pair pair(QSize(40, 80));
-    pair.setPercent(percent);
-    const QImage image = test::paintedBy(pair.battery);
-    int coloured = 0;
-    for (int y = 15; y <= 62; ++y)
-        coloured += image.pixelColor(20, y) != QColor(Qt::white);
-    QTEST(coloured, "rows");
-}
-
-void tst_CBatteryStatusWidgetPainting::fillColor()
-{
-    Pair pair(QSize(60, 100));
-    pair.setPercent(80);
-    pair.picture.fill = QColor(10, 160, 90);
-    pair.battery.setFillColor(QColor(10, 160, 90));
-    QVERIFY(pair.agree());
-}
-
-void tst_CBatteryStatusWidgetPainting::foregroundComesFromTheCurrentGroup_data()
-{
+    QTest::addColumn<bool>("present");
     QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QPalette::ColorRole>("role");
-    QTest::newRow("enabled") << true << QPalette::WindowText;
-    QTest::newRow("disabled") << false << QPalette::WindowText;
-    QTest::newRow("another role") << true << QPalette::Link;
-    QTest::newRow("another role, disabled") << false << QPalette::Link;
+    QTest::addColumn<QPalette::ColorGroup>("group");
+    QTest::newRow("present, enabled") << true << true << QPalette::Active;
+    QTest::newRow("present, disabled") << true << false << QPalette::Disabled;
+    QTest::newRow("absent, enabled") << false << true << QPalette::Active;
+    QTest::newRow("absent, disabled") << false << false << QPalette::Disabled;
 }
 
-void tst_CBatteryStatusWidgetPainting::foregroundComesFromTheCurrentGroup()
+void tst_CBatteryStatusWidgetPainting::colorGroup()
 {
+    QFETCH(bool, present);
     QFETCH(bool, enabled);
-    QFETCH(QPalette::ColorRole, role);
-
-    Pair pair(QSize(60, 100));
-    pair.battery.setEnabled(enabled);
-    pair.battery.setForegroundRole(role);
-    pair.setPalette(test::telltalePalette());
-    const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
-    pair.picture.foreground = test::telltalePalette().color(group, role);
-    for (bool present : {true, false}) {
-        pair.setPresent(present);
-        QVERIFY(pair.agree());
-    }
+    QFETCH(QPalette::ColorGroup, group);
+    const QPalette palette = test::telltalePalette();
+    Look look;
+    look.present = present;
+    look.charging = true;
+    CBatteryStatusWidget widget;
+    widget.setPalette(palette);
+    widget.setEnabled(enabled);
+    look.applyTo(widget);
+    QVERIFY(test::sameImage(test::paintedBy(widget),
+                            look.image(palette.brush(group, QPalette::WindowText))));
 }
 
-void tst_CBatteryStatusWidgetPainting::damageOfTheTerminalAlone()
+void tst_CBatteryStatusWidgetPainting::inactiveWindow()
 {
-    for (bool present : {true, false}) {
-        Pair pair(QSize(60, 100));
-        pair.setPercent(100);
-        pair.setCharging(true);
-        pair.setPresent(present);
-        const QRect damaged(pair.picture.terminal.left(), 0, 10, pair.picture.terminal.top() + 1);
-        QVERIFY(!damaged.intersects(pair.picture.body));
-
-        QImage expected = test::canvas(pair.battery.size());
-        BatteryPicture::Damage damage;
-        damage.body = false;
-        pair.picture.draw(expected, damage, damaged);
-        QVERIFY(test::sameImage(test::paintedBy(pair.battery, 1.0, damaged), expected));
-    }
-}
-
-void tst_CBatteryStatusWidgetPainting::damageOfTheBodyAlone()
-{
-    Pair pair(QSize(60, 100));
-    pair.setPercent(60);
-    pair.setCharging(true);
-    const QRect damaged = pair.picture.body;
-    QVERIFY(!damaged.intersects(pair.picture.terminal));
-
-    QImage expected = test::canvas(pair.battery.size());
-    BatteryPicture::Damage damage;
-    damage.terminal = false;
-    pair.picture.draw(expected, damage, damaged);
-    QVERIFY(test::sameImage(test::paintedBy(pair.battery, 1.0, damaged), expected));
+    const QPalette palette = test::telltalePalette();
+    Look look;
+    QWidget window;
+    auto* battery = new CBatteryStatusWidget(&window);
+    battery->setPalette(palette);
+    look.applyTo(*battery);
+    QWidget other;
+    window.show();
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(test::sameImage(test::paintedBy(*battery),
+                            look.image(palette.brush(QPalette::Inactive, QPalette::WindowText))));
 }
 
 void tst_CBatteryStatusWidgetPainting::nothingBeforeTheFirstResize()
 {
-    // render() sends the pending resize to a hidden widget first: the event itself is what counts.
-    ui::CBatteryStatusWidget battery;
-    battery.setAttribute(Qt::WA_PendingResizeEvent, false);
-    battery.setBatteryCharging(true);
-    const QImage image = test::paintedBy(battery);
-    QCOMPARE(image, test::canvas(battery.size()));
+    CBatteryStatusWidget widget;
+    widget.setBatteryCharging(true);
+    // Rendering sends the pending resize first, so the event goes to the widget directly.
+    widget.setAttribute(Qt::WA_PendingResizeEvent, false);
+    QVERIFY(test::sameImage(test::paintedBy(widget), test::canvas(widget.size())));
 }
 
-void tst_CBatteryStatusWidgetPainting::symbolLargerThanTheWidget()
+void tst_CBatteryStatusWidgetPainting::emptyBatteryKeepsOneRow()
 {
-    Pair pair(QSize(60, 12));
-    pair.setPercent(50);
-    QVERIFY(pair.agree());
+    Look look;
+    look.percent = 0;
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QImage image = test::paintedBy(widget);
+    // The area ends two pixels above the body's last row, 64; the outline covers what is below 63.
+    QVERIFY(image.pixelColor(20, 62).blue() > image.pixelColor(20, 62).red() + 50);
+    QCOMPARE(image.pixelColor(20, 61), QColor(Qt::white));
 }
 
-void tst_CBatteryStatusWidgetPainting::noRoomForTheBody()
+void tst_CBatteryStatusWidgetPainting::fillRisesFromTheBottom()
 {
-    // Twice the frame is 8: no body at all, and then one of negative extent, which nothing guards against.
-    for (int width : {8, 7, 6, 3}) {
-        Pair pair(QSize(width, 40));
-        QVERIFY(pair.picture.body.width() <= 0);
-        QVERIFY(pair.agree());
+    Look look;
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QImage image = test::paintedBy(widget);
+    // The area is 48 rows high, from 15 to 62; half of it and one more are filled.
+    QVERIFY(image.pixelColor(20, 38) != QColor(Qt::white));
+    QCOMPARE(image.pixelColor(20, 37), QColor(Qt::white));
+}
+
+void tst_CBatteryStatusWidgetPainting::fillIsAGradient()
+{
+    Look look;
+    look.percent = 100;
+    look.color = QColor(100, 60, 20);
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QImage image = test::paintedBy(widget);
+    const int darkest = image.pixelColor(8, 60).red();
+    const int middle = image.pixelColor(20, 38).red();
+    const int lightest = image.pixelColor(31, 17).red();
+    QVERIFY(darkest < middle && middle < lightest);
+    QVERIFY(qAbs(darkest - 50) < 15);
+    QVERIFY(qAbs(lightest - 150) < 15);
+}
+
+void tst_CBatteryStatusWidgetPainting::absentBatteryIgnoresChargeAndCharging()
+{
+    Look look;
+    look.present = false;
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QImage before = test::paintedBy(widget);
+    widget.setChargePercentage(90);
+    widget.setBatteryCharging(true);
+    QVERIFY(test::sameImage(test::paintedBy(widget), before));
+}
+
+void tst_CBatteryStatusWidgetPainting::boltLiesOnTop()
+{
+    // A frame so wide that the bolt, shifted by it, lies over the outline at the right.
+    Look look;
+    look.size = QSize(100, 130);
+    look.frameWidth = 14;
+    look.charging = true;
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QBrush foreground = widget.palette().brush(QPalette::WindowText);
+    const QImage image = test::paintedBy(widget);
+    QVERIFY(test::sameImage(image, look.image(foreground)));
+    const QRect bolt = look.layout().bolt;
+    QVERIFY(bolt.right() > look.layout().body.right() - 7);
+    QCOMPARE(image.pixel(bolt.right(), bolt.top() + int(bolt.width() / 1.618)),
+             QColor(239, 184, 0).darker(150).rgb());
+}
+
+void tst_CBatteryStatusWidgetPainting::boltPoints()
+{
+    // Without an outline worth mentioning, the colours beside the corners tell where they are.
+    Look look;
+    look.size = QSize(400, 680);
+    look.frameWidth = 0;
+    look.percent = 0;
+    look.charging = true;
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QImage image = test::paintedBy(widget);
+    const QRect box = look.layout().bolt;
+    const double a = box.width() / 9.708;
+    const double d = box.width() / 1.618;
+    const int c = box.left() + box.width() / 2;
+    const auto isBolt = [&image](double x, double y) {
+        return image.pixelColor(qFloor(x), qFloor(y)) != QColor(Qt::white);
+    };
+    const double t = box.top();
+    QVERIFY(!isBolt(c - a - 4, t + 1));
+    QVERIFY(isBolt(c - a + 3, t + 1));
+    QVERIFY(isBolt(box.right() + 1 - a - 2, t + 1));
+    QVERIFY(!isBolt(box.right() + 1 - a + 3, t + 1));
+    QVERIFY(isBolt(c + a, t + d - 1));
+    QVERIFY(!isBolt(c + a + 10, t + d - 3));
+    QVERIFY(isBolt(box.right() - 3, t + d + 1));
+    QVERIFY(!isBolt(box.right() + 2, t + d + 1));
+    QVERIFY(isBolt(box.left() + a + 3, t + d + a - 2));
+    QVERIFY(!isBolt(box.left() + a - 3, t + d + a - 2));
+    QVERIFY(!isBolt(c - a - 6, t + d + a + 3));
+    QVERIFY(isBolt(box.left() + 1, box.bottom() - 2));
+}
+
+void tst_CBatteryStatusWidgetPainting::hairlineFrame_data()
+{
+    QTest::addColumn<int>("frameWidth");
+    QTest::newRow("zero") << 0;
+    QTest::newRow("negative") << -6;
+}
+
+void tst_CBatteryStatusWidgetPainting::hairlineFrame()
+{
+    QFETCH(int, frameWidth);
+    CBatteryStatusWidget widget;
+    widget.resize(60, 100);
+    widget.setFrameWidth(frameWidth);
+    const QImage image = test::paintedBy(widget);
+    const QRect body = test::BatteryState(widget).body;
+    const QBrush foreground = widget.palette().brush(QPalette::WindowText);
+
+    QImage expected = test::canvas(widget.size());
+    QPainter painter(&expected);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(foreground, 0));
+    painter.drawRect(QRectF(body));
+    const QRect edge(body.right() - 3, body.center().y(), 8, 4);
+    QVERIFY(test::sameImage(image.copy(edge), expected.copy(edge)));
+}
+
+void tst_CBatteryStatusWidgetPainting::terminalAlone()
+{
+    for (const bool present : {true, false}) {
+        Look look;
+        look.present = present;
+        CBatteryStatusWidget widget;
+        look.applyTo(widget);
+        const QBrush foreground = widget.palette().brush(QPalette::WindowText);
+        // Down to the row above the body, where the body's outline would show.
+        const QRegion region(0, 0, 40, look.layout().body.top());
+        const QImage expected =
+            clipped(look, region, [&](QPainter& painter) { look.drawTop(painter, foreground); });
+        QVERIFY(test::sameImage(test::paintedBy(widget, 1.0, region), expected));
     }
 }
 
-void tst_CBatteryStatusWidgetPainting::rightToLeftChangesNothing()
+void tst_CBatteryStatusWidgetPainting::terminalAloneWithoutFill()
 {
-    Pair pair(QSize(100, 80));
-    pair.setPercent(40);
-    pair.setCharging(true);
-    pair.battery.setLayoutDirection(Qt::RightToLeft);
-    QVERIFY(pair.agree());
+    CBatteryStatusWidget widget;
+    Look look;
+    look.percent = 100;
+    look.applyTo(widget);
+    test::paintedBy(widget);
+    // With a negative inset, and the rectangles as they were, the fill would reach the terminal.
+    widget.setFrameWidth(-40);
+    const QRegion region(0, 0, 14, look.layout().body.top());
+    const QRegion terminal(15, 0, 10, look.layout().body.top());
+    const QImage image = test::paintedBy(widget, 1.0, region + terminal);
+    QCOMPARE(image.pixelColor(7, 8), QColor(Qt::white));
+}
+
+void tst_CBatteryStatusWidgetPainting::terminalAloneWithoutBolt()
+{
+    CBatteryStatusWidget widget;
+    Look look;
+    look.charging = true;
+    look.applyTo(widget);
+    test::paintedBy(widget);
+    // With its rectangle as it was, the bolt's pen would be wide enough to cover the terminal.
+    widget.setFrameWidth(80);
+    const QRect terminal = look.layout().top;
+    const QImage image = test::paintedBy(widget, 1.0, terminal);
+    const QColor foreground = widget.palette().color(QPalette::WindowText);
+    QCOMPARE(image.pixelColor(terminal.center()), foreground);
+}
+
+void tst_CBatteryStatusWidgetPainting::bodyAlone_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("present");
+    QTest::newRow("present") << QSize(40, 80) << true;
+    // The terminal's outline would show between the dashes of the body's.
+    for (const int width : {40, 61, 75, 100, 140})
+        QTest::addRow("absent, %d wide", width) << QSize(width, 240) << false;
+}
+
+void tst_CBatteryStatusWidgetPainting::bodyAlone()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, present);
+    Look look;
+    look.size = size;
+    look.present = present;
+    look.charging = true;
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QBrush foreground = widget.palette().brush(QPalette::WindowText);
+    const QRect body = look.layout().body;
+    const QImage expected = clipped(look, body, [&](QPainter& painter) {
+        look.drawFill(painter, foreground);
+        look.drawBodyOutline(painter, foreground);
+        if (present)
+            look.drawBolt(painter);
+    });
+    QVERIFY(test::sameImage(test::paintedBy(widget, 1.0, body), expected));
+}
+
+void tst_CBatteryStatusWidgetPainting::beside()
+{
+    Look look;
+    look.size = QSize(100, 80);
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    test::paintedBy(widget);
+    // The outline's outer half lies beside the body's rectangle, which the event must reach.
+    const QRect column(look.layout().body.left() - 2, 20, 2, 20);
+    QVERIFY(test::sameImage(test::paintedBy(widget, 1.0, column), test::canvas(look.size)));
+}
+
+void tst_CBatteryStatusWidgetPainting::paintingKeepsTheState()
+{
+    CBatteryStatusWidget widget;
+    Look look;
+    look.charging = true;
+    look.applyTo(widget);
+    const QImage first = test::paintedBy(widget);
+    const test::BatteryState before(widget);
+    QVERIFY(test::sameImage(test::paintedBy(widget), first));
+    const test::BatteryState after(widget);
+    QCOMPARE(after.flags, before.flags);
+    QCOMPARE(after.charge, before.charge);
+    QCOMPARE(after.body, before.body);
+    QCOMPARE(after.fillBrush, before.fillBrush);
 }
 
 int main(int argc, char** argv)
