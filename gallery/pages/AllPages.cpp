@@ -8,6 +8,8 @@
 #include "ScrollIndicatorPage.h"
 #include "SwitchPage.h"
 #include "TextEntryPage.h"
+#include "BatteryPage.h"
+#include "GalleryPage.h"
 
 #include <QCoreApplication>
 
@@ -37,5 +39,6 @@ QVector<PageEntry> allPages()
         {QStringLiteral("text-entry"), tr("Text entry"), make<TextEntryPage>},
         {QStringLiteral("switch"), tr("Switch"), make<SwitchPage>},
         {QStringLiteral("file-browser"), tr("File browser"), make<FileBrowserPage>},
+        {QStringLiteral("battery"), tr("Battery"), make<BatteryPage>},
     };
 }

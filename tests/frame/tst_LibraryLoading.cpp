@@ -110,6 +110,7 @@ private Q_SLOTS:
     void iconsAreTheOnlyAdditionToTheRoot();
     void reloadsAnyNumberOfTimes();
     void registrationFunctionsAreExported();
+    void exportedConstants();
     void fileNameAndSoname();
 };
 
@@ -183,6 +184,15 @@ void tst_LibraryLoading::registrationFunctionsAreExported()
     QCOMPARE(missingIcons(), iconPaths);
     QCOMPARE(initResources(), 1);
     QCOMPARE(missingIcons(), QStringList());
+}
+
+void tst_LibraryLoading::exportedConstants()
+{
+    const LoadedLibrary library;
+    const auto goldenRatio =
+        library.find<const double>("_ZN2ui20CBatteryStatusWidget12GOLDEN_RATIOE");
+    QVERIFY(goldenRatio);
+    QCOMPARE(*goldenRatio, 1.618);
 }
 
 void tst_LibraryLoading::fileNameAndSoname()

@@ -1,0 +1,131 @@
+#include "pages/BatteryPage.h"
+#include "Painting.h"
+#include "PowerSupplyTree.h"
+#include "TestApplication.h"
+#include "ui/CBatteryStatusWidget.h"
+
+#include <QCheckBox>
+#include <QSlider>
+
+using test::PowerSupplyTree;
+using ui::CBatteryStatusWidget;
+
+namespace {
+
+/// The area that the gallery gives its pages.
+constexpr QSize pageSize(420, 420);
+
+CBatteryStatusWidget* exhibit(const BatteryPage& page, const QString& name)
+{
+    for (const GalleryPage::Exhibit& candidate : page.exhibits()) {
+        if (candidate.name == name)
+            return qobject_cast<CBatteryStatusWidget*>(candidate.widget);
+    }
+    return nullptr;
+}
+
+/// Whether two batteries of the same size look the same.
+bool looksLike(CBatteryStatusWidget* battery, int percent, bool present, bool charging)
+{
+    CBatteryStatusWidget expected;
+    expected.setChargePercentage(percent);
+    expected.setBatteryPresent(present);
+    expected.setBatteryCharging(charging);
+    expected.setPalette(battery->palette());
+    expected.resize(battery->size());
+    return test::paintedBy(*battery) == test::paintedBy(expected);
+}
+
+} // namespace
+
+class tst_BatteryPage : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fitsItsArea();
+    void showsEveryKind();
+    void columnKeepsTheShape();
+    void machineBatteryIsAbsentWithoutOne();
+    void machineBatteryIsFollowed();
+    void controlsMoveTheirBattery();
+};
+
+void tst_BatteryPage::fitsItsArea()
+{
+    const BatteryPage page;
+    const QSize least = page.minimumSizeHint();
+    QVERIFY2(least.width() <= pageSize.width(), qPrintable(QString::number(least.width())));
+    QVERIFY2(least.height() <= pageSize.height(), qPrintable(QString::number(least.height())));
+}
+
+void tst_BatteryPage::showsEveryKind()
+{
+    BatteryPage page;
+    QVERIFY(looksLike(exhibit(page, QStringLiteral("0 %")), 0, true, false));
+    QVERIFY(looksLike(exhibit(page, QStringLiteral("50 %")), 50, true, false));
+    QVERIFY(looksLike(exhibit(page, QStringLiteral("100 %")), 100, true, false));
+    QVERIFY(looksLike(exhibit(page, QStringLiteral("Absent")), 0, false, false));
+    QVERIFY(looksLike(exhibit(page, QStringLiteral("Charging")), 60, true, true));
+    for (const char* name : {"Green", "Red", "Frame 1", "Frame 2", "Frame 6", "Small", "Try me"})
+        QVERIFY2(exhibit(page, QString::fromLatin1(name)), name);
+}
+
+void tst_BatteryPage::columnKeepsTheShape()
+{
+    QWidget window;
+    BatteryPage page(&window);
+    page.resize(pageSize);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const CBatteryStatusWidget* const battery = exhibit(page, QStringLiteral("Height for width"));
+    QVERIFY(battery);
+    QCOMPARE(battery->height(), battery->heightForWidth(battery->width()));
+}
+
+void tst_BatteryPage::machineBatteryIsAbsentWithoutOne()
+{
+    const PowerSupplyTree tree;
+    QWidget window;
+    BatteryPage page(&window, MachineBattery(tree.path()));
+    window.show();
+    QVERIFY(looksLike(exhibit(page, QStringLiteral("This machine")), 0, false, false));
+}
+
+void tst_BatteryPage::machineBatteryIsFollowed()
+{
+    PowerSupplyTree tree;
+    tree.addBattery("BAT0", "64", "Charging");
+    QWidget window;
+    BatteryPage page(&window, MachineBattery(tree.path()));
+    window.show();
+    CBatteryStatusWidget* const battery = exhibit(page, QStringLiteral("This machine"));
+    QVERIFY(looksLike(battery, 64, true, true));
+
+    tree.addBattery("BAT0", "31", "Discharging");
+    QTRY_VERIFY(looksLike(battery, 31, true, false));
+
+    page.hide();
+    tree.addBattery("BAT0", "12", "Discharging");
+    page.show();
+    QVERIFY(looksLike(battery, 12, true, false));
+}
+
+void tst_BatteryPage::controlsMoveTheirBattery()
+{
+    BatteryPage page;
+    CBatteryStatusWidget* const battery = exhibit(page, QStringLiteral("Try me"));
+    const QList<QCheckBox*> boxes = page.findChildren<QCheckBox*>();
+    QCOMPARE(boxes.size(), 2);
+    page.findChild<QSlider*>()->setValue(20);
+    boxes.at(1)->setChecked(true);
+    QVERIFY(looksLike(battery, 20, true, true));
+    boxes.at(0)->setChecked(false);
+    QVERIFY(looksLike(battery, 20, false, true));
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_BatteryPage>(argc, argv);
+}
+
+#include "tst_BatteryPage.moc"

@@ -1,0 +1,128 @@
+#include "MachineBattery.h"
+#include "PowerSupplyTree.h"
+#include "TestApplication.h"
+
+using test::PowerSupplyTree;
+
+class tst_MachineBattery : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noDirectory();
+    void noSupplies();
+    void discharging();
+    void status_data();
+    void status();
+    void chargeOutOfRange();
+    void unknownCharge();
+    void emptySlot();
+    void otherSupplies();
+    void firstPresentBattery();
+    void followsTheKernel();
+};
+
+void tst_MachineBattery::noDirectory()
+{
+    QVERIFY(!MachineBattery(QStringLiteral("/nonexistent/power_supply")).read().present);
+}
+
+void tst_MachineBattery::noSupplies()
+{
+    const PowerSupplyTree tree;
+    QVERIFY(!MachineBattery(tree.path()).read().present);
+}
+
+void tst_MachineBattery::discharging()
+{
+    PowerSupplyTree tree;
+    tree.addBattery("BAT0", "73", "Discharging");
+    const BatteryReading reading = MachineBattery(tree.path()).read();
+    QVERIFY(reading.present);
+    QVERIFY(!reading.charging);
+    QCOMPARE(reading.percent, 73);
+}
+
+void tst_MachineBattery::status_data()
+{
+    QTest::addColumn<QByteArray>("status");
+    QTest::addColumn<bool>("charging");
+    QTest::newRow("charging") << QByteArray("Charging") << true;
+    QTest::newRow("full") << QByteArray("Full") << false;
+    QTest::newRow("not charging") << QByteArray("Not charging") << false;
+    QTest::newRow("unknown") << QByteArray("Unknown") << false;
+}
+
+void tst_MachineBattery::status()
+{
+    QFETCH(QByteArray, status);
+    PowerSupplyTree tree;
+    tree.addBattery("BAT0", "50", status);
+    QTEST(MachineBattery(tree.path()).read().charging, "charging");
+}
+
+void tst_MachineBattery::chargeOutOfRange()
+{
+    PowerSupplyTree tree;
+    tree.addBattery("BAT0", "104", "Full");
+    QCOMPARE(MachineBattery(tree.path()).read().percent, 100);
+    tree.write("BAT0", "capacity", "-3");
+    QCOMPARE(MachineBattery(tree.path()).read().percent, 0);
+}
+
+void tst_MachineBattery::unknownCharge()
+{
+    PowerSupplyTree tree;
+    tree.write("BAT0", "type", "Battery");
+    QVERIFY(!MachineBattery(tree.path()).read().present);
+    tree.write("BAT0", "capacity", "plenty");
+    QVERIFY(!MachineBattery(tree.path()).read().present);
+}
+
+void tst_MachineBattery::emptySlot()
+{
+    PowerSupplyTree tree;
+    tree.addBattery("BAT0", "0", "Unknown");
+    tree.write("BAT0", "present", "0");
+    QVERIFY(!MachineBattery(tree.path()).read().present);
+    tree.write("BAT0", "present", "1");
+    QVERIFY(MachineBattery(tree.path()).read().present);
+}
+
+void tst_MachineBattery::otherSupplies()
+{
+    PowerSupplyTree tree;
+    tree.addBattery("AC", "90", "Charging");
+    tree.write("AC", "type", "Mains");
+    tree.addBattery("hid-mouse-battery", "80", "Discharging");
+    tree.write("hid-mouse-battery", "scope", "Device");
+    QVERIFY(!MachineBattery(tree.path()).read().present);
+    tree.write("hid-mouse-battery", "scope", "System");
+    QCOMPARE(MachineBattery(tree.path()).read().percent, 80);
+}
+
+void tst_MachineBattery::firstPresentBattery()
+{
+    PowerSupplyTree tree;
+    tree.addBattery("BAT2", "22", "Discharging");
+    tree.addBattery("BAT1", "11", "Discharging");
+    tree.addBattery("BAT0", "5", "Unknown");
+    tree.write("BAT0", "present", "0");
+    QCOMPARE(MachineBattery(tree.path()).read().percent, 11);
+}
+
+void tst_MachineBattery::followsTheKernel()
+{
+    PowerSupplyTree tree;
+    tree.addBattery("BAT0", "50", "Discharging");
+    const MachineBattery battery(tree.path());
+    QCOMPARE(battery.read().percent, 50);
+    tree.write("BAT0", "capacity", "49");
+    QCOMPARE(battery.read().percent, 49);
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_MachineBattery>(argc, argv);
+}
+
+#include "tst_MachineBattery.moc"
