@@ -57,7 +57,10 @@ public Q_SLOTS:
     /// Animates from \a start to \a end, from time 0 whether or not the animation is under way.
     void interpolate(const QVariant& start, const QVariant& end);
 
-    /// Makes \a value the current value without animating and tells the target once.
+    /**
+     * Makes \a value the current value without animating: emits valueChanged() if it is new, then
+     * tells the target once.
+     */
     void setCurrentValue(const QVariant& value);
 
 protected:

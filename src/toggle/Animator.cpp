@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QSignalBlocker>
 
 #include <utility>
 
@@ -41,8 +42,11 @@ void Animator::setup(int duration, QEasingCurve easing)
 
 void Animator::interpolate(const QVariant& start, const QVariant& end)
 {
+    const QPointer<Animator> self(this);
     // start() does nothing while the animation runs and goes on from where it was paused.
     stop();
+    if (!self) // a slot of stateChanged() may have deleted the animator
+        return;
     setStartValue(start);
     setEndValue(end);
     this->start(QAbstractAnimation::KeepWhenStopped);
@@ -50,13 +54,22 @@ void Animator::interpolate(const QVariant& start, const QVariant& end)
 
 void Animator::setCurrentValue(const QVariant& value)
 {
-    // Each of these may update the current value; the target is taken away meanwhile to hear of it once.
+    // Setting either end, and even reading the current value, may update it: nobody is to hear of
+    // that, nor of a value in between.
     const QPointer<QObject> listener = std::exchange(target, nullptr);
+    QSignalBlocker blocker(this);
+    const QVariant former = currentValue();
     setStartValue(value);
     setEndValue(value);
     const QVariant reached = currentValue();
+    blocker.unblock();
     target = listener;
-    updateCurrentValue(reached);
+
+    const QPointer<Animator> self(this);
+    if (reached != former)
+        Q_EMIT valueChanged(reached);
+    if (self) // a slot may have deleted the animator
+        updateCurrentValue(reached);
 }
 
 void Animator::updateState(QAbstractAnimation::State newState, QAbstractAnimation::State oldState)

@@ -5,6 +5,7 @@
 #include <QColor>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -45,10 +46,15 @@ private Q_SLOTS:
     void interpolateRestarts();
     void setCurrentValueTellsOnce_data();
     void setCurrentValueTellsOnce();
+    void setCurrentValueIsSeenWhole_data();
+    void setCurrentValueIsSeenWhole();
+    void deletedInValueChanged();
+    void deletedInStateChanged();
     void setCurrentValueTakesAnything_data();
     void setCurrentValueTakesAnything();
     void everyTickTellsTheTarget();
     void startWithoutTarget();
+    void startWithoutTargetAndEndValue();
     void missingEndValue();
     void missingEndValueBackwards();
     void missingEndValueAndDestroyedTarget();
@@ -303,6 +309,69 @@ void tst_Animator::setCurrentValueTellsOnce()
     QCOMPARE(animator.state(), running ? QAbstractAnimation::Running : QAbstractAnimation::Stopped);
 }
 
+void tst_Animator::setCurrentValueIsSeenWhole_data()
+{
+    QTest::addColumn<int>("time");
+    QTest::newRow("at the start") << 0;
+    QTest::newRow("half-way") << 50;
+    QTest::newRow("at the end") << 100;
+}
+
+// A slot of valueChanged() sees the value that was asked for, and the target, which it may replace.
+void tst_Animator::setCurrentValueIsSeenWhole()
+{
+    QFETCH(int, time);
+    QObject target;
+    QObject other;
+    Animator animator(&target, nullptr);
+    animator.setup(100);
+    animator.interpolate(0, 10);
+    animator.pause();
+    animator.setCurrentTime(time);
+
+    QVariantList values;
+    QObjectList targets;
+    connect(&animator, &Animator::valueChanged, &target, [&](const QVariant& value) {
+        values << value;
+        targets << animator.targetObject();
+        animator.setTargetObject(&other);
+    });
+    test::UpdateCounter toTarget(&target);
+    test::UpdateCounter toOther(&other);
+    animator.setCurrentValue(77);
+    QCOMPARE(values, QVariantList{77});
+    QCOMPARE(targets, QObjectList{&target});
+    QCOMPARE(animator.targetObject(), &other);
+    QCOMPARE(toTarget.take(), 0);
+    QCOMPARE(toOther.take(), 1);
+
+    animator.setCurrentValue(77);
+    QCOMPARE(values.size(), 1);
+    QCOMPARE(toOther.take(), 1);
+}
+
+void tst_Animator::deletedInValueChanged()
+{
+    QObject target;
+    test::UpdateCounter updates(&target);
+    QPointer<Animator> animator = new Animator(&target, nullptr);
+    connect(animator, &Animator::valueChanged, &target, [&animator] { delete animator; });
+    animator->setCurrentValue(1);
+    QVERIFY(!animator);
+    QCOMPARE(updates.take(), 0);
+}
+
+void tst_Animator::deletedInStateChanged()
+{
+    QObject target;
+    QPointer<Animator> animator = new Animator(&target, nullptr);
+    animator->interpolate(0, 10);
+    const auto deleteOnce = [&animator] { delete std::exchange(animator, nullptr); };
+    connect(animator, &Animator::stateChanged, &target, deleteOnce);
+    animator->interpolate(0, 10);
+    QVERIFY(!animator);
+}
+
 void tst_Animator::setCurrentValueTakesAnything_data()
 {
     QTest::addColumn<QVariant>("value");
@@ -353,6 +422,15 @@ void tst_Animator::startWithoutTarget()
     QCOMPARE(animator.state(), QAbstractAnimation::Running);
     animator.setCurrentTime(50);
     QCOMPARE(animator.currentValue(), QVariant(5));
+}
+
+void tst_Animator::startWithoutTargetAndEndValue()
+{
+    Animator animator(nullptr, nullptr);
+    QTest::ignoreMessage(QtWarningMsg, noTarget);
+    animator.interpolate(0, QVariant());
+    QCOMPARE(animator.state(), QAbstractAnimation::Running);
+    animator.setEndValue(1);
 }
 
 void tst_Animator::missingEndValue()
