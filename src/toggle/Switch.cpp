@@ -159,17 +159,23 @@ void Switch::animateTo(bool on)
     const Rest to = restAt(on);
     // Off starts where the thumb is; everything else starts from the opposite end.
     const int start = on ? from.position : currentValue(m_thumbPosAnimator).toInt();
+    const QPointer<Switch> self(this); // slots of the animators may delete the switch
     interpolate(m_thumbPosAnimator, start, to.position);
-    interpolate(m_thumbBrushAnimator, from.thumb, to.thumb);
-    interpolate(m_trackBrushAnimator, from.track, to.track);
+    if (self)
+        interpolate(m_thumbBrushAnimator, from.thumb, to.thumb);
+    if (self)
+        interpolate(m_trackBrushAnimator, from.track, to.track);
 }
 
 void Switch::jumpTo(bool on)
 {
     const Rest to = restAt(on);
+    const QPointer<Switch> self(this); // slots and event filters may delete the switch
     jump(m_thumbPosAnimator, to.position);
-    jump(m_thumbBrushAnimator, to.thumb);
-    jump(m_trackBrushAnimator, to.track);
+    if (self)
+        jump(m_thumbBrushAnimator, to.thumb);
+    if (self)
+        jump(m_trackBrushAnimator, to.track);
 }
 
 Switch::Look Switch::enabledLook() const

@@ -7,8 +7,37 @@
 
 #include <QButtonGroup>
 
+#include <functional>
 #include <limits>
 #include <memory>
+#include <utility>
+
+namespace {
+
+/// Does something in place of the update with the number \a update.
+class UpdateAction : public QObject
+{
+public:
+    UpdateAction(int update, std::function<void()> action)
+        : m_countdown(update)
+        , m_action(std::move(action))
+    {
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::StyleAnimationUpdate || --m_countdown != 0)
+            return false;
+        m_action();
+        return true;
+    }
+
+private:
+    int m_countdown;
+    std::function<void()> m_action;
+};
+
+} // namespace
 
 /// Bad input and objects that go away in the middle of things; the sanitizers watch.
 class tst_SwitchRobustness : public QObject
@@ -30,6 +59,10 @@ private Q_SLOTS:
     void parentDeletedMidTransition();
     void deletedInClicked();
     void deletedInStateChanged();
+    void deletedByItsAnimator_data();
+    void deletedByItsAnimator();
+    void deletedWhenToldOfAJump_data();
+    void deletedWhenToldOfAJump();
     void deletedLaterInToggled();
     void vetoInClicked();
     void exclusiveGroup();
@@ -189,6 +222,44 @@ void tst_SwitchRobustness::deletedInStateChanged()
     connect(control, &SelectionControl::stateChanged, [&control] { delete control; });
     control->show();
     QTest::keyClick(control, Qt::Key_Space);
+    QVERIFY(!control);
+}
+
+void tst_SwitchRobustness::deletedByItsAnimator_data()
+{
+    deletedAnimators_data();
+}
+
+void tst_SwitchRobustness::deletedByItsAnimator()
+{
+    QFETCH(int, index);
+    for (const bool running : {false, true}) {
+        QPointer<Switch> control = new Switch;
+        control->show();
+        if (running)
+            control->setChecked(true);
+        connect(control->findChildren<Animator*>().at(index), &Animator::stateChanged,
+                [&control] { delete std::exchange(control, nullptr); });
+        QTest::mouseClick(control, Qt::LeftButton);
+        QVERIFY(!control);
+    }
+}
+
+void tst_SwitchRobustness::deletedWhenToldOfAJump_data()
+{
+    QTest::addColumn<int>("update");
+    QTest::newRow("thumb position") << 1;
+    QTest::newRow("thumb colour") << 2;
+    QTest::newRow("track colour") << 3;
+}
+
+void tst_SwitchRobustness::deletedWhenToldOfAJump()
+{
+    QFETCH(int, update);
+    QPointer<Switch> control = new Switch;
+    UpdateAction filter(update, [&control] { delete control; });
+    control->installEventFilter(&filter);
+    control->toggle(Qt::Checked);
     QVERIFY(!control);
 }
 
