@@ -5,6 +5,8 @@
 #include "SwitchTools.h"
 #include "TestApplication.h"
 
+#include <cmath>
+
 namespace {
 
 const Style::Animation linear{QEasingCurve::Linear, 150};
@@ -50,6 +52,7 @@ private Q_SLOTS:
     void properties();
     void propertyIsSetOnce_data();
     void propertyIsSetOnce();
+    void doublesCompareExactly();
     void settersRefreshTheAnimators();
     void refreshLeavesThePosition();
     void indicatorMargin();
@@ -182,6 +185,17 @@ void tst_Switch::propertyIsSetOnce()
     control.setProperty(name, other);
     QVERIFY2(recorder.takeRegions().isEmpty(), "the same value must not repaint");
     QCOMPARE(layouts.count, 0);
+}
+
+void tst_Switch::doublesCompareExactly()
+{
+    Switch control;
+    const double nearly = std::nextafter(1.0, 0.0);
+    control.setThumbOnOpacity(nearly);
+    QVERIFY(control.thumbOnOpacity() == nearly);
+    control.setDisabledTextOpacity(0.0);
+    control.setDisabledTextOpacity(1e-300);
+    QVERIFY(control.disabledTextOpacity() > 0.0);
 }
 
 void tst_Switch::settersRefreshTheAnimators()

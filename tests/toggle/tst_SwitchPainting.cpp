@@ -99,6 +99,8 @@ private Q_SLOTS:
     void opacityGivesTheAlpha();
     void disabledIgnoresTheAnimators();
     void disabledOpacityOfThumbIsUnused();
+    void labelIsDrawnAsItStands_data();
+    void labelIsDrawnAsItStands();
     void labelColorComesFromThePalette_data();
     void labelColorComesFromThePalette();
     void nothingShowsFocusOrPress();
@@ -226,29 +228,35 @@ void tst_SwitchPainting::withoutLabel()
 void tst_SwitchPainting::unevenMargins_data()
 {
     QTest::addColumn<bool>("enabled");
-    QTest::newRow("enabled") << true;
-    QTest::newRow("disabled") << false;
+    QTest::addColumn<bool>("mirrored");
+    QTest::newRow("enabled") << true << false;
+    QTest::newRow("disabled") << false << false;
+    QTest::newRow("enabled, right to left") << true << true;
+    QTest::newRow("disabled, right to left") << false << true;
 }
 
-// Margins of 3 and 10 at the sides make a travel of 15 and move the thumb by half of it.
+// Margins of 3 and 10 at the sides make a travel of 15 and move the thumb by half of it. The left
+// margin stays at the left in either direction.
 void tst_SwitchPainting::unevenMargins()
 {
     QFETCH(bool, enabled);
+    QFETCH(bool, mirrored);
     Switch control(label);
     dress(control);
     control.setIndicatorMargin({3, 1, 10, 7});
     control.setChecked(true);
     control.setEnabled(enabled);
-    test::SwitchPicture picture = dressed(true, enabled, false);
-    picture.track = QRect(QPoint(3, 3), QPoint(42, 30));
+    control.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    test::SwitchPicture picture = dressed(true, enabled, mirrored);
+    picture.track = QRect(QPoint(mirrored ? 140 - 53 + 3 : 3, 3), QPoint(mirrored ? 129 : 42, 30));
     picture.thumbOffset = 7.5;
-    picture.textArea = QRect(53, 0, 87, 44);
+    picture.textArea = QRect(mirrored ? 0 : 53, 0, 87, 44);
     QVERIFY(test::sameImage(test::paintedBy(control), test::painted(picture)));
 }
 
 void tst_SwitchPainting::shadowOnlyAfterResize_data()
 {
-    unevenMargins_data();
+    labelColorComesFromThePalette_data();
 }
 
 void tst_SwitchPainting::shadowOnlyAfterResize()
@@ -352,9 +360,30 @@ void tst_SwitchPainting::disabledOpacityOfThumbIsUnused()
     QVERIFY(test::sameImage(test::paintedBy(control), before));
 }
 
+void tst_SwitchPainting::labelIsDrawnAsItStands_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("mnemonic") << QStringLiteral("&A && B");
+    QTest::newRow("two lines") << QStringLiteral("A\nB");
+    QTest::newRow("too long") << QStringLiteral("A long label that leaves its area");
+    QTest::newRow("right to left") << QString::fromUtf8("\u05d0\u05d1");
+}
+
+void tst_SwitchPainting::labelIsDrawnAsItStands()
+{
+    QFETCH(QString, text);
+    Switch control(text);
+    dress(control);
+    test::SwitchPicture picture = dressedOff();
+    picture.text = text;
+    QVERIFY(test::sameImage(test::paintedBy(control), test::painted(picture)));
+}
+
 void tst_SwitchPainting::labelColorComesFromThePalette_data()
 {
-    unevenMargins_data();
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("enabled") << true;
+    QTest::newRow("disabled") << false;
 }
 
 void tst_SwitchPainting::labelColorComesFromThePalette()

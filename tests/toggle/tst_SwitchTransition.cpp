@@ -29,11 +29,13 @@ private Q_SLOTS:
     void anyOtherStateIsOff();
     void positionIsEased();
     void propertiesGiveTimeAndEasing();
+    void animatorsStartInOrder();
     void clickStartsIt();
     void offMidwayStartsAtThePositionReached();
     void onMidwayStartsFromTheOffEnd();
     void sameStateReplaysTheTransition();
     void hiddenSwitchJumps();
+    void switchInHiddenWindowJumps();
     void hiddenSwitchTellsOncePerAnimator();
     void hiddenSwitchJumpsInOrder();
     void hiddenSwitchIsFirstShownAtRest();
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void animatedFramesRepaint();
     void refreshAtRestShowsTheOffColors();
     void refreshMidwayShowsTheOffColors();
+    void refreshSetsTheTrackFirst();
     void brushConstructorShowsItsColorWhenOn();
 
 private:
@@ -179,6 +182,25 @@ void tst_SwitchTransition::propertiesGiveTimeAndEasing()
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(9));
 }
 
+void tst_SwitchTransition::animatorsStartInOrder()
+{
+    QVector<QObject*> order;
+    const QObject scope; // of the connections
+    const test::Animators its = animators();
+    for (Animator* animator : {its.thumbBrush, its.trackBrush, its.thumbPos}) {
+        connect(animator, &Animator::stateChanged, &scope, [&order, animator](auto state) {
+            if (state == QAbstractAnimation::Running)
+                order << animator;
+        });
+    }
+    const QVector<QObject*> expected{its.thumbPos, its.thumbBrush, its.trackBrush};
+    control().setChecked(true);
+    QCOMPARE(order, expected);
+    order.clear();
+    control().setChecked(false);
+    QCOMPARE(order, expected);
+}
+
 void tst_SwitchTransition::clickStartsIt()
 {
     QTest::mouseClick(m_control.get(), Qt::LeftButton);
@@ -248,6 +270,19 @@ void tst_SwitchTransition::hiddenSwitchJumps()
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(0));
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOff));
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOff));
+}
+
+// Such a switch is not hidden itself.
+void tst_SwitchTransition::switchInHiddenWindowJumps()
+{
+    QWidget window;
+    Switch inside(&window);
+    window.show();
+    window.hide();
+    QVERIFY(!inside.isHidden());
+    inside.setChecked(true);
+    QCOMPARE(test::animatorsOf(inside).thumbPos->state(), QAbstractAnimation::Stopped);
+    QCOMPARE(test::animatorsOf(inside).thumbPos->currentValue(), QVariant(36));
 }
 
 void tst_SwitchTransition::hiddenSwitchTellsOncePerAnimator()
@@ -346,6 +381,21 @@ void tst_SwitchTransition::refreshMidwayShowsTheOffColors()
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOff));
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOff));
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(18));
+}
+
+void tst_SwitchTransition::refreshSetsTheTrackFirst()
+{
+    control().setChecked(true);
+    settle();
+    QVector<QObject*> order;
+    const QObject scope; // of the connections
+    const test::Animators its = animators();
+    for (Animator* animator : {its.thumbBrush, its.trackBrush, its.thumbPos}) {
+        connect(animator, &Animator::valueChanged, &scope,
+                [&order, animator] { order << animator; });
+    }
+    control().refresh();
+    QCOMPARE(order, QVector<QObject*>({its.trackBrush, its.thumbBrush}));
 }
 
 void tst_SwitchTransition::brushConstructorShowsItsColorWhenOn()
