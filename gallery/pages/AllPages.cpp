@@ -1,15 +1,15 @@
 #include "AllPages.h"
 
 #include "AnimationPage.h"
+#include "BatteryPage.h"
 #include "FileBrowserPage.h"
 #include "FramesPage.h"
+#include "GalleryPage.h"
 #include "GridButtonPage.h"
 #include "OverviewPage.h"
 #include "ScrollIndicatorPage.h"
 #include "SwitchPage.h"
 #include "TextEntryPage.h"
-#include "BatteryPage.h"
-#include "GalleryPage.h"
 
 #include <QCoreApplication>
 
@@ -34,11 +34,11 @@ QVector<PageEntry> allPages()
         {QStringLiteral("overview"), tr("Overview"), make<OverviewPage>},
         {QStringLiteral("frames"), tr("Frames"), make<FramesPage>},
         {QStringLiteral("grid-button"), tr("Grid button"), make<GridButtonPage>},
+        {QStringLiteral("switch"), tr("Switch"), make<SwitchPage>},
+        {QStringLiteral("text-entry"), tr("Text entry"), make<TextEntryPage>},
+        {QStringLiteral("battery"), tr("Battery"), make<BatteryPage>},
         {QStringLiteral("scroll-indicator"), tr("Scroll indicator"), make<ScrollIndicatorPage>},
         {QStringLiteral("animation"), tr("Animation"), make<AnimationPage>},
-        {QStringLiteral("text-entry"), tr("Text entry"), make<TextEntryPage>},
-        {QStringLiteral("switch"), tr("Switch"), make<SwitchPage>},
         {QStringLiteral("file-browser"), tr("File browser"), make<FileBrowserPage>},
-        {QStringLiteral("battery"), tr("Battery"), make<BatteryPage>},
     };
 }
