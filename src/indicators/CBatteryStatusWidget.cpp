@@ -46,15 +46,36 @@ int rounded(double value)
 
 QRect rectOfEdges(qint64 left, qint64 top, qint64 right, qint64 bottom)
 {
-    const auto bounded = [](qint64 coordinate) {
+    const auto edge = [](qint64 coordinate) {
         return int(qBound(-largestCoordinate, coordinate, largestCoordinate));
     };
-    return QRect(QPoint(bounded(left), bounded(top)), QPoint(bounded(right), bounded(bottom)));
+    return QRect(QPoint(edge(left), edge(top)), QPoint(edge(right), edge(bottom)));
 }
 
 QRect rectOfSize(qint64 left, qint64 top, qint64 width, qint64 height)
 {
     return rectOfEdges(left, top, left + width - 1, top + height - 1);
+}
+
+QRect bounded(const QRect& rect)
+{
+    return rectOfEdges(rect.left(), rect.top(), rect.right(), rect.bottom());
+}
+
+/// Left edge of a shape \a width wide that stands, with its frame, in the middle of \a contents.
+/// Each half is truncated on its own: together they would come out a pixel off for odd widths.
+qint64 centredLeft(const QRect& contents, qint64 width, qint64 frameWidth)
+{
+    return contents.left() + (contents.width() - (frameWidth + width)) / 2 + frameWidth / 2;
+}
+
+/// The box of the bolt: as high as \a body is wide, and a frame width off its middle.
+QRect boltBox(const QRect& body, qint64 frameWidth)
+{
+    const qint64 height = body.width();
+    const qint64 width = rounded(body.width() / CBatteryStatusWidget::GOLDEN_RATIO);
+    return rectOfSize(body.left() + (body.width() - width) / 2 + frameWidth,
+                      body.top() + (body.height() - height) / 2 + frameWidth, width, height);
 }
 
 double penWidth(double width)
@@ -216,36 +237,21 @@ void CBatteryStatusWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
 
-    const QRect contents = contentsRect();
-    const qint64 frameWidth = m_frameWidth;
-    const qint64 contentsWidth = qint64(contents.right()) - contents.left() + 1;
-    const qint64 contentsHeight = qint64(contents.bottom()) - contents.top() + 1;
-
-    const qint64 outerWidth =
-        qMin<qint64>(widthForHeight(saturated(contentsHeight)), contentsWidth);
+    const QRect contents = bounded(contentsRect());
+    const int outerWidth = qMin(widthForHeight(contents.height()), contents.width());
     // The frame width goes off here and in getBatteryRectWidth() again, other than in
     // heightForWidth(): the battery keeps clear of the sides by half a frame.
-    const int bodyWidth = getBatteryRectWidth(saturated(outerWidth - frameWidth));
+    const int bodyWidth = getBatteryRectWidth(saturated(qint64(outerWidth) - m_frameWidth));
     const int bodyHeight = getBatteryRectHeight(bodyWidth);
     const int topWidth = getTopRectWidth(bodyWidth);
     const int topHeight = getTopRectHeight(topWidth);
+    const qint64 totalHeight = getTotalHeight(bodyHeight, topHeight);
+    const qint64 top = contents.top() + (contents.height() - totalHeight) / 2;
 
-    // Two divisions, since each of them truncates.
-    const auto centredLeft = [&](qint64 width) {
-        return contents.left() + (contentsWidth - (frameWidth + width)) / 2 + frameWidth / 2;
-    };
-    const qint64 topTop =
-        contents.top() + (contentsHeight - getTotalHeight(bodyHeight, topHeight)) / 2;
-    const qint64 bodyTop = topTop + topHeight;
-    const qint64 bodyLeft = centredLeft(bodyWidth);
-    m_topRect = rectOfSize(centredLeft(topWidth), topTop, topWidth, topHeight);
-    m_batteryRect = rectOfSize(bodyLeft, bodyTop, bodyWidth, bodyHeight);
-
-    // The bolt is as high as the body is wide, and a frame width off the body's centre.
-    const qint64 iconWidth = rounded(bodyWidth / GOLDEN_RATIO);
-    m_chargingIconRect = rectOfSize(bodyLeft + (bodyWidth - iconWidth) / 2 + frameWidth,
-                                    bodyTop + (qint64(bodyHeight) - bodyWidth) / 2 + frameWidth,
-                                    iconWidth, bodyWidth);
+    m_topRect = rectOfSize(centredLeft(contents, topWidth, m_frameWidth), top, topWidth, topHeight);
+    m_batteryRect = rectOfSize(centredLeft(contents, bodyWidth, m_frameWidth), top + topHeight,
+                               bodyWidth, bodyHeight);
+    m_chargingIconRect = boltBox(m_batteryRect, m_frameWidth);
 }
 
 void CBatteryStatusWidget::paintEvent(QPaintEvent* event)
