@@ -374,9 +374,12 @@ void tst_SwitchPainting::labelIsDrawnAsItStands()
     QFETCH(QString, text);
     Switch control(text);
     dress(control);
-    test::SwitchPicture picture = dressedOff();
-    picture.text = text;
-    QVERIFY(test::sameImage(test::paintedBy(control), test::painted(picture)));
+    for (const bool mirrored : {false, true}) {
+        control.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        test::SwitchPicture picture = dressed(false, true, mirrored);
+        picture.text = text;
+        QVERIFY(test::sameImage(test::paintedBy(control), test::painted(picture)));
+    }
 }
 
 void tst_SwitchPainting::labelColorComesFromThePalette_data()

@@ -1,5 +1,6 @@
 #include "Animator.h"
 #include "Painting.h"
+#include "PaintRecorder.h"
 #include "Switch.h"
 #include "SwitchTools.h"
 #include "TestApplication.h"
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void foreignAnimatorValues();
     void deletedAnimators_data();
     void deletedAnimators();
+    void settersRepaintWithoutAnimators();
     void switchDeletedMidTransition();
     void parentDeletedMidTransition();
     void deletedInClicked();
@@ -179,6 +181,18 @@ void tst_SwitchRobustness::deletedAnimators()
     control.hide();
     control.setChecked(true);
     test::paintedBy(control);
+}
+
+void tst_SwitchRobustness::settersRepaintWithoutAnimators()
+{
+    Switch control;
+    qDeleteAll(control.findChildren<Animator*>());
+    control.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&control));
+    test::PaintRecorder recorder(&control);
+    recorder.takeRegions();
+    control.setTrackOnOpacity(0.9);
+    QCOMPARE(recorder.takeRegions(), QVector<QRegion>{control.rect()});
 }
 
 void tst_SwitchRobustness::switchDeletedMidTransition()
