@@ -49,4 +49,5 @@ int main(int argc, char** argv)
 END
 cmake -S "$scratch/consumer" -B "$scratch/consumer/build" -G Ninja -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
 cmake --build "$scratch/consumer/build"
-"$scratch/consumer/build/consumer"
+# On a device its libraries lie where the loader looks by itself.
+LD_LIBRARY_PATH="$scratch/device/lib" "$scratch/consumer/build/consumer"
