@@ -53,7 +53,8 @@ public:
     /// Qt::Checked or Qt::Unchecked, after isChecked(); never Qt::PartiallyChecked.
     Qt::CheckState checkState() const;
 
-    using QAbstractButton::toggle; // The slot toggle() inverts the state.
+    /// The slot toggle() inverts the state.
+    using QAbstractButton::toggle;
 
     /// Reacts to the new \a state, once for every stateChanged().
     virtual void toggle(Qt::CheckState state) = 0;

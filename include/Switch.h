@@ -28,6 +28,7 @@ namespace Style {
  */
 struct Animation
 {
+    /// Shape of the transition.
     QEasingCurve::Type easing = QEasingCurve::Linear;
     int duration = 0; ///< Milliseconds; 0 for an immediate change.
 };
@@ -136,6 +137,7 @@ public:
      * property \c height; height() is the widget's own.
      */
     int indicatorHeight() const;
+    /// Sets indicatorHeight().
     void setHeight(int height);
 
     /**
@@ -144,74 +146,92 @@ public:
      * which QWidget::setFont() sets.
      */
     QFont labelFont() const;
+    /// Sets labelFont().
     void setFont(QFont font);
 
     /// Colour of the thumb when on, at thumbOnOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
     QColor thumbOnBrush() const;
+    /// Sets thumbOnBrush().
     void setThumbOnBrush(QColor color);
 
     /// Opacity of the thumb when on. Default 1.0.
     double thumbOnOpacity() const;
+    /// Sets thumbOnOpacity().
     void setThumbOnOpacity(double opacity);
 
     /// Colour of the track when on, at trackOnOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
     QColor trackOnBrush() const;
+    /// Sets trackOnBrush().
     void setTrackOnBrush(QColor color);
 
     /// Opacity of the track when on. Default 0.5.
     double trackOnOpacity() const;
+    /// Sets trackOnOpacity().
     void setTrackOnOpacity(double opacity);
 
     /// Colour of the thumb when off, at thumbOffOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
     QColor thumbOffBrush() const;
+    /// Sets thumbOffBrush().
     void setThumbOffBrush(QColor color);
 
     /// Opacity of the thumb when off. Default 1.0.
     double thumbOffOpacity() const;
+    /// Sets thumbOffOpacity().
     void setThumbOffOpacity(double opacity);
 
     /// Colour of the track when off, at trackOffOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
     QColor trackOffBrush() const;
+    /// Sets trackOffBrush().
     void setTrackOffBrush(QColor color);
 
     /// Opacity of the track when off. Default 0.25.
     double trackOffOpacity() const;
+    /// Sets trackOffOpacity().
     void setTrackOffOpacity(double opacity);
 
     /// Colour of the thumb when disabled, with its own alpha. Default: invalid, drawn as opaque black.
     QColor thumbDisabled() const;
+    /// Sets thumbDisabled().
     void setThumbDisabled(QColor color);
 
     /// Kept for the application; the disabled thumb is drawn at full opacity. Default 1.0.
     double thumbDisabledOpacity() const;
+    /// Sets thumbDisabledOpacity().
     void setThumbDisabledOpacity(double opacity);
 
     /// Colour of the track when disabled, with its own alpha. Default: invalid, drawn as opaque black.
     QColor trackDisabled() const;
+    /// Sets trackDisabled().
     void setTrackDisabled(QColor color);
 
     /// Opacity of the track when disabled, on top of the colour's own alpha. Default 0.15.
     double trackDisabledOpacity() const;
+    /// Sets trackDisabledOpacity().
     void setTrackDisabledOpacity(double opacity);
 
     /// Kept for the application; the label has the colour of QPalette::ButtonText. Default: invalid.
     QColor textColor() const;
+    /// Sets textColor().
     void setTextColor(QColor color);
 
     /// Opacity of the label when disabled. Default 0.4.
     double disabledTextOpacity() const;
+    /// Sets disabledTextOpacity().
     void setDisabledTextOpacity(double opacity);
 
     /// How the colour of the thumb changes. Default: linear, 150 ms.
     Style::Animation thumbBrushAnimation() const;
+    /// Sets thumbBrushAnimation().
     void setThumbBrushAnimation(Style::Animation animation);
 
     /// How the colour of the track changes. Default: linear, 150 ms.
     Style::Animation trackBrushAnimation() const;
+    /// Sets trackBrushAnimation().
     void setTrackBrushAnimation(Style::Animation animation);
 
     /// How the thumb moves. Default: QEasingCurve::InOutQuad, 150 ms.
     Style::Animation thumbPosAnimation() const;
+    /// Sets thumbPosAnimation().
     void setThumbPosAnimation(Style::Animation animation);
 
     /**
@@ -224,13 +244,16 @@ public:
     /// Hands the animation properties and the colours of the off state to the animators and repaints.
     void refresh();
 
-    using SelectionControl::toggle; // The slot toggle() inverts the state.
+    /// The slot toggle() inverts the state.
+    using SelectionControl::toggle;
 
     /// Starts the transition to \a state, or makes it at once if the switch is not visible.
     void toggle(Qt::CheckState state) override;
 
 protected:
+    /// Paints track, shadow, thumb and label, in this order.
     void paintEvent(QPaintEvent* event) override;
+    /// Makes the image of the thumb's shadow anew.
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -103,7 +103,9 @@ public Q_SLOTS:
     void setBatteryCharging(bool charging);
 
 protected:
+    /// Paints fill, outline and bolt as far as they are damaged.
     void paintEvent(QPaintEvent* event) override;
+    /// Lays body, terminal and bolt out.
     void resizeEvent(QResizeEvent* event) override;
 
     /// Paints the charge or, without a battery, the hatch of the body.

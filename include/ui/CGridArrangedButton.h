@@ -40,12 +40,15 @@ class PLATFORM_WIDGETS_EXPORT CGridArrangedButton : public QPushButton
 public:
     /// A button with an empty grid, owned by \a parent.
     explicit CGridArrangedButton(QWidget* parent = nullptr);
+    /// The same with a text beneath the grid.
     explicit CGridArrangedButton(QString const& text, QWidget* parent = nullptr);
+    /// The same with an icon and a text beneath the grid.
     CGridArrangedButton(QIcon const& icon, QString const& text, QWidget* parent = nullptr);
     ~CGridArrangedButton() override;
 
     /// What the button's own content and the grid need, each the larger of the two.
     QSize sizeHint() const override;
+    /// The same for the smallest sizes.
     QSize minimumSizeHint() const override;
 
     /// Puts \a widget, which the button takes over from its former parent, into a cell.
@@ -63,6 +66,7 @@ public:
 
     /// Share of a column in spare width, 0 by default and for columns that do not exist.
     int columnStretch(int column) const;
+    /// Sets the share of a column in spare width.
     void setColumnStretch(int column, int stretch);
 
     /// Least height of a row in pixels, 0 by default.
@@ -73,7 +77,9 @@ public:
 
     /// Distance of rows and columns in pixels; the style's own by default and for less than 0.
     void setSpacing(int spacing);
+    /// Sets the distance of columns alone.
     void setHorizontalSpacing(int spacing);
+    /// Sets the distance of rows alone.
     void setVerticalSpacing(int spacing);
 
     /**

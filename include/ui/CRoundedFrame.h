@@ -82,6 +82,7 @@ public:
      * round; any other value is plain.
      */
     QFrame::Shadow frameShadow() const;
+    /// Sets the look of the outline.
     void setFrameShadow(QFrame::Shadow shadow);
 
     /// Whether there is an outline, Box by default.
@@ -118,7 +119,9 @@ protected:
     /// Draws the fill and then the outline of \a path in the colours of \a palette.
     void paintFrame(QPainter* painter, QPainterPath const& path, QPalette const& palette);
 
+    /// Paints fill and outline, or of the interior no more than what is damaged.
     void paintEvent(QPaintEvent* event) override;
+    /// Marks the mask for the next paint.
     void resizeEvent(QResizeEvent* event) override;
 
 private:

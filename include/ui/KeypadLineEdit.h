@@ -67,7 +67,9 @@ protected Q_SLOTS:
     void onCancelKey(); ///< The keypad's Cancel: hides the keypad and reverts.
 
 protected:
+    /// Opens the keypad, unless a closing pop-up gave the focus back.
     void focusInEvent(QFocusEvent* event) override;
+    /// Cancels the edit and hides the keypad.
     void focusOutEvent(QFocusEvent* event) override;
 
 private:

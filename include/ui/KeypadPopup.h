@@ -75,6 +75,7 @@ public:
      */
     void setKeypadSectionVisible(int section, bool visible);
 
+    /// Gives the focus back to the field once after each showing.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -86,10 +87,15 @@ protected Q_SLOTS:
     void slotCancelButton(); ///< Emits signalCancel().
 
 protected:
+    /// Passes presses and moves over the field on to it.
     bool event(QEvent* event) override;
+    /// Passes every key on to the field.
     void keyPressEvent(QKeyEvent* event) override;
+    /// Lets the pop-up close.
     void closeEvent(QCloseEvent* event) override;
+    /// Makes ready to give the focus back to the field.
     void showEvent(QShowEvent* event) override;
+    /// Does nothing.
     void hideEvent(QHideEvent* event) override;
 
 private:

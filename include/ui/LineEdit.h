@@ -51,6 +51,7 @@ class PLATFORM_WIDGETS_EXPORT LineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty field, valid until the first edit, owned by \a parent.
     explicit LineEdit(QWidget* parent = nullptr);
     ~LineEdit() override;
 
@@ -87,8 +88,11 @@ protected Q_SLOTS:
     void onCancelKey();
 
 protected:
+    /// Turns Escape, Return and Enter into signals.
     void keyPressEvent(QKeyEvent* event) override;
+    /// Keeps the text for a Cancel; selects all of it in the next turn if nothing is selected.
     void focusInEvent(QFocusEvent* event) override;
+    /// Cancels the edit.
     void focusOutEvent(QFocusEvent* event) override;
 
 private:

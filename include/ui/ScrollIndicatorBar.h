@@ -42,6 +42,7 @@ public:
 
     /// A vertical bar without highlight, owned by \a parent.
     explicit ScrollIndicatorBar(QWidget* parent = nullptr);
+    /// The same in the given orientation.
     explicit ScrollIndicatorBar(Qt::Orientation orientation, QWidget* parent = nullptr);
     ~ScrollIndicatorBar() override;
 
@@ -53,6 +54,7 @@ public Q_SLOTS:
     void setHighlightBar(bool highlight);
 
 protected:
+    /// Paints the groove, and the handle where it is damaged.
     void paintEvent(QPaintEvent* event) override;
 
 private:

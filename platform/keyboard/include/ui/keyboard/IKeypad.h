@@ -44,6 +44,7 @@ Q_SIGNALS:
     void signalCancel(); ///< The user pressed the Cancel key.
 
 protected:
+    /// For the keypads of the library, which create() makes.
     explicit IKeypad(QWidget* parent = nullptr);
 };
 
