@@ -28,6 +28,18 @@ QImage expectedImage(const ClickableLabel& label, qreal devicePixelRatio, const 
     return image;
 }
 
+class PressCounter : public QWidget
+{
+public:
+    int presses = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent*) override
+    {
+        ++presses;
+    }
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
@@ -91,17 +103,16 @@ void tst_ClickableLabel::releaseAndMoveDoNothing()
     QCOMPARE(clicked.count(), 0);
 }
 
+// A label leaves a press that it has no use for to its parent; a clickable one keeps it.
 void tst_ClickableLabel::pressIsNotPassedToTheLabel()
 {
-    ClickableLabel label;
-    label.setTextInteractionFlags(Qt::TextBrowserInteraction);
-    label.setText(QStringLiteral("selectable"));
-    label.resize(label.sizeHint());
-    const int y = label.height() / 2;
-    QTest::mousePress(&label, Qt::LeftButton, Qt::NoModifier, QPoint(1, y));
-    QTest::mouseMove(&label, QPoint(label.width() - 1, y));
-    QTest::mouseRelease(&label, Qt::LeftButton, Qt::NoModifier, QPoint(label.width() - 1, y));
-    QVERIFY(!label.hasSelectedText());
+    PressCounter parent;
+    QLabel plain(&parent);
+    ClickableLabel clickable(&parent);
+    QTest::mousePress(&plain, Qt::LeftButton);
+    QCOMPARE(parent.presses, 1);
+    QTest::mousePress(&clickable, Qt::LeftButton);
+    QCOMPARE(parent.presses, 1);
 }
 
 void tst_ClickableLabel::deletedInItsOwnSlot()
