@@ -67,16 +67,15 @@ KeypadPopup::KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::Ke
     if (keypadWidget)
         connectKeypad();
 
-    QFrame* frame = createFrame();
-    createSubtitle(frame, title);
-
     auto* outerLayout = new QVBoxLayout(this);
     outerLayout->setContentsMargins(0, 0, 0, 0);
+    QFrame* frame = createFrame();
     outerLayout->addWidget(frame);
 
     auto* innerLayout = new QVBoxLayout(frame);
     innerLayout->setContentsMargins(frameMargin, frameMargin, frameMargin, frameMargin);
     innerLayout->setSpacing(frameSpacing);
+    createSubtitle(frame, title);
     innerLayout->addWidget(subtitleLabel);
     if (keypadWidget)
         innerLayout->addWidget(keypadWidget);

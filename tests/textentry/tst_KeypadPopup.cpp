@@ -179,6 +179,11 @@ void tst_KeypadPopup::order()
     QCOMPARE(layout->count(), 2);
     QCOMPARE(layout->itemAt(0)->widget(), labelOf(popup));
     QVERIFY(qobject_cast<IKeypad*>(layout->itemAt(1)->widget()));
+
+    // The order in which the parts were made, and in which they are painted.
+    QCOMPARE(popup.children(), (QObjectList{popup.layout(), frameOf(popup)}));
+    QCOMPARE(frameOf(popup)->children(),
+             (QObjectList{layout, labelOf(popup), layout->itemAt(1)->widget()}));
 }
 
 void tst_KeypadPopup::picture()
