@@ -104,8 +104,8 @@ private:
     void createSubtitle(QWidget* frame, const QString& title);
     bool passToTarget(const QMouseEvent& event);
 
-    ui::keyboard::IKeypad* keypadWidget;
-    QLabel* subtitleLabel;
+    ui::keyboard::IKeypad* keypadWidget = nullptr;
+    QLabel* subtitleLabel = nullptr;
     QWidget* target;
     bool buttonPressed = false; // an OK or a Cancel has been pressed since construction
     bool refocusPending = true; // the focus loss that comes with the next showing is undone

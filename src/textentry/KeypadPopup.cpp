@@ -81,7 +81,14 @@ KeypadPopup::KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::Ke
         innerLayout->addWidget(keypadWidget);
 }
 
-KeypadPopup::~KeypadPopup() = default;
+KeypadPopup::~KeypadPopup()
+{
+    // These are deleted next, when nothing is left that could take note of it.
+    if (keypadWidget)
+        keypadWidget->disconnect(this);
+    if (subtitleLabel)
+        subtitleLabel->disconnect(this);
+}
 
 void KeypadPopup::connectKeypad()
 {
@@ -90,6 +97,7 @@ void KeypadPopup::connectKeypad()
     connect(keypadWidget, &IKeypad::signalCancel, this, &KeypadPopup::slotCancelButton);
     // By signature, as the edited widget may be of any class: Qt warns if it has no such signal.
     connect(target, SIGNAL(resultValidated(bool)), keypadWidget, SLOT(allowEntry(bool)));
+    connect(keypadWidget, &QObject::destroyed, this, [this] { keypadWidget = nullptr; });
 }
 
 QFrame* KeypadPopup::createFrame()
@@ -114,6 +122,7 @@ QFrame* KeypadPopup::createFrame()
 void KeypadPopup::createSubtitle(QWidget* frame, const QString& title)
 {
     subtitleLabel = new QLabel(title, frame);
+    connect(subtitleLabel, &QObject::destroyed, this, [this] { subtitleLabel = nullptr; });
     subtitleLabel->setTextFormat(Qt::PlainText);
     subtitleLabel->setFixedHeight(subtitleHeight);
     subtitleLabel->setAlignment(Qt::AlignCenter);

@@ -12,7 +12,6 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMetaMethod>
-#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QValidator>
@@ -80,10 +79,6 @@ private Q_SLOTS:
     void keypadTypesIntoTheField();
 
     void withoutKeypad();
-    void diesWithItsParent();
-    void outlivesTheEditedWidget();
-    void deletedInItsOwnSignals_data();
-    void deletedInItsOwnSignals();
 };
 
 void tst_KeypadPopup::interface()
@@ -397,49 +392,6 @@ void tst_KeypadPopup::withoutKeypad()
     popup.show();
     QTest::keyClicks(&popup, QStringLiteral("ab"));
     QCOMPARE(edit.text(), QStringLiteral("ab"));
-}
-
-void tst_KeypadPopup::diesWithItsParent()
-{
-    auto* edit = new ui::LineEdit;
-    const QPointer<KeypadPopup> popup = new KeypadPopup(edit, QString(), KeyboardType::Integer, -1);
-    popup->show();
-    delete edit;
-    QVERIFY(!popup);
-}
-
-void tst_KeypadPopup::outlivesTheEditedWidget()
-{
-    QWidget other;
-    auto* edit = new ui::LineEdit;
-    auto* popup = new KeypadPopup(edit, QString(), KeyboardType::Integer, -1);
-    popup->setParent(&other, Qt::Popup);
-    delete edit;
-    popup->move(7, 8);
-    popup->locatePopup();
-    QCOMPARE(popup->pos(), QPoint(7, 8));
-    popup->setKeypadSectionVisible(0, false);
-    QTest::keyClicks(popup, QStringLiteral("ab"));
-    QTest::mouseClick(popup, Qt::LeftButton);
-}
-
-void tst_KeypadPopup::deletedInItsOwnSignals_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::newRow("OK") << "OK";
-    QTest::newRow("Cancel") << "Cancel";
-}
-
-void tst_KeypadPopup::deletedInItsOwnSignals()
-{
-    QFETCH(QString, key);
-    ui::LineEdit edit;
-    const QPointer<KeypadPopup> popup =
-        new KeypadPopup(&edit, QString(), KeyboardType::Integer, -1);
-    connect(popup, &KeypadPopup::signalOk, &edit, [popup] { delete popup; });
-    connect(popup, &KeypadPopup::signalCancel, &edit, [popup] { delete popup; });
-    test::keypadKey(*popup, key)->click();
-    QVERIFY(!popup);
 }
 
 int main(int argc, char** argv)
