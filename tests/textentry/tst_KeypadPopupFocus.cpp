@@ -72,6 +72,25 @@ public:
     QList<QMouseEvent> seen;
 };
 
+/// Notes why a widget gets the focus.
+class FocusInRecorder : public QObject
+{
+public:
+    explicit FocusInRecorder(QWidget* widget)
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            reasons.append(static_cast<QFocusEvent*>(event)->reason());
+        return false;
+    }
+
+    QVector<Qt::FocusReason> reasons;
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(QEvent::Type)
@@ -93,6 +112,7 @@ private Q_SLOTS:
     void secondFocusLossGoesThrough();
     void everyShowingIsForgivenOnce();
     void hiddenPopupForgivesNothing();
+    void focusComesBackToTheActiveWindow();
     void otherEventsAndWidgetsPass();
     void keyboardStaysWithTheField();
 
@@ -167,11 +187,28 @@ void tst_KeypadPopupFocus::hiddenPopupForgivesNothing()
     QCOMPARE(log.take(), QStringList());
 }
 
+void tst_KeypadPopupFocus::focusComesBackToTheActiveWindow()
+{
+    PopupForm form;
+    QVERIFY(form.showActive());
+    QWidget dialog;
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    form.popup->show();
+
+    QFocusEvent out(QEvent::FocusOut);
+    QVERIFY(form.popup->eventFilter(form.field, &out));
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QCOMPARE(form.focusWidget(), form.field);
+}
+
 void tst_KeypadPopupFocus::otherEventsAndWidgetsPass()
 {
     PopupForm form;
     QVERIFY(form.showActive());
-    form.popup->show(); // nothing had the focus, so the focus loss is still to come
+    form.popup->show(); // the field had no focus, so the focus loss is still to come
+    FocusInRecorder recorder(form.field);
     QFocusEvent in(QEvent::FocusIn);
     QFocusEvent out(QEvent::FocusOut);
     QEvent other(QEvent::ToolTip);
@@ -180,6 +217,8 @@ void tst_KeypadPopupFocus::otherEventsAndWidgetsPass()
     QVERIFY(!form.popup->eventFilter(form.other, &out));
     QVERIFY(form.popup->eventFilter(form.field, &out));
     QVERIFY(form.field->hasFocus());
+    // A keypad line edit would refuse the focus for the reason of a pop-up.
+    QCOMPARE(recorder.reasons, QVector<Qt::FocusReason>{Qt::OtherFocusReason});
     QVERIFY(!form.popup->eventFilter(form.field, &out));
 }
 

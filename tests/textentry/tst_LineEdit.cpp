@@ -79,6 +79,8 @@ private Q_SLOTS:
     void okAndCancelKeysGoNoFurther();
 
     void savedTextIsThatOfTheLastFocusIn();
+    void stateAtEachSignal_data();
+    void stateAtEachSignal();
     void keepsThePreviousBlocking_data();
     void keepsThePreviousBlocking();
 
@@ -351,6 +353,38 @@ void tst_LineEdit::savedTextIsThatOfTheLastFocusIn()
     QCOMPARE(form.field->text(), QStringLiteral("third"));
     QTest::keyClick(form.field, Qt::Key_Escape);
     QCOMPARE(form.field->text(), QStringLiteral("third"));
+}
+
+void tst_LineEdit::stateAtEachSignal_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("OK") << Qt::Key_Return
+                        << QStringList{"valueChanged: new, focused", "editingFinished: new"};
+    QTest::newRow("Cancel") << Qt::Key_Escape
+                            << QStringList{"textEdited: old, focused", "editingFinished: old"};
+}
+
+void tst_LineEdit::stateAtEachSignal()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(QStringList, expected);
+    EditForm<ui::LineEdit> form;
+    QVERIFY(form.showActive());
+    form.field->setText(QStringLiteral("old"));
+    form.field->setFocus();
+    form.field->setText(QStringLiteral("new"));
+    QStringList states;
+    const auto note = [&](const char* signal) {
+        states.append(QStringLiteral("%1: %2").arg(QLatin1String(signal), form.field->text())
+                      + (form.field->hasFocus() ? ", focused" : ""));
+    };
+    connect(form.field, &ui::LineEdit::valueChanged, &form, [&] { note("valueChanged"); });
+    connect(form.field, &QLineEdit::textEdited, &form, [&] { note("textEdited"); });
+    connect(form.field, &QLineEdit::editingFinished, &form, [&] { note("editingFinished"); });
+
+    QTest::keyClick(form.field, key);
+    QCOMPARE(states, expected);
 }
 
 void tst_LineEdit::keepsThePreviousBlocking_data()
