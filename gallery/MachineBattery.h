@@ -3,7 +3,8 @@
 #include <QString>
 
 /// What the kernel says about a battery.
-struct BatteryReading {
+struct BatteryReading
+{
     bool present = false;
     bool charging = false;
     int percent = 0;
@@ -15,7 +16,8 @@ struct BatteryReading {
  * Batteries of devices beside the machine, such as a mouse, do not count. Of several batteries
  * the first that is present is read, in the order of their names.
  */
-class MachineBattery {
+class MachineBattery
+{
 public:
     /// Reads below \a directory, which holds one directory per power supply.
     explicit MachineBattery(const QString& directory = QStringLiteral("/sys/class/power_supply"));

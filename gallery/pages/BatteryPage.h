@@ -14,7 +14,8 @@ class CBatteryStatusWidget;
 }
 
 /// Batteries in their states, frames and sizes, one to play with, and the machine's own.
-class BatteryPage : public GalleryPage {
+class BatteryPage : public GalleryPage
+{
     Q_OBJECT
 
 public:

@@ -111,7 +111,8 @@ qreal coverage(const QImage& image, const QRect& line)
 
 } // namespace
 
-class tst_IconResources : public QObject {
+class tst_IconResources : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

@@ -57,7 +57,8 @@ QVector<quint64> dynamicEntries(void* library, qint64 tag)
 }
 
 /// A library loaded for as long as the object lives.
-class LoadedLibrary {
+class LoadedLibrary
+{
     Q_DISABLE_COPY(LoadedLibrary)
 
 public:
@@ -77,7 +78,8 @@ public:
         return m_handle;
     }
 
-    template <typename Symbol> Symbol* find(const char* name) const
+    template <typename Symbol>
+    Symbol* find(const char* name) const
     {
         return reinterpret_cast<Symbol*>(dlsym(m_handle, name));
     }
@@ -98,7 +100,8 @@ Q_DECL_EXPORT bool qRegisterResourceData(int version, const unsigned char* tree,
     return original(version, tree, name, data);
 }
 
-class tst_LibraryLoading : public QObject {
+class tst_LibraryLoading : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

@@ -7,7 +7,8 @@
 namespace test {
 
 /// A directory tree like the kernel's power-supply class, with attributes of the test's choice.
-class PowerSupplyTree {
+class PowerSupplyTree
+{
 public:
     QString path() const
     {

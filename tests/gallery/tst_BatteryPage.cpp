@@ -38,7 +38,8 @@ bool looksLike(CBatteryStatusWidget* battery, int percent, bool present, bool ch
 
 } // namespace
 
-class tst_BatteryPage : public QObject {
+class tst_BatteryPage : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

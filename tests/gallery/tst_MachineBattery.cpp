@@ -4,7 +4,8 @@
 
 using test::PowerSupplyTree;
 
-class tst_MachineBattery : public QObject {
+class tst_MachineBattery : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

@@ -13,7 +13,8 @@ namespace test {
  *
  * They have no getters; what they hold is read from the object itself.
  */
-struct BatteryState {
+struct BatteryState
+{
     explicit BatteryState(const ui::CBatteryStatusWidget& widget)
     {
         static_assert(sizeof(BatteryState) == sizeof(ui::CBatteryStatusWidget));
@@ -32,7 +33,8 @@ struct BatteryState {
 };
 
 /// Where the three rectangles belong, computed step by step from the rule.
-struct BatteryLayout {
+struct BatteryLayout
+{
     BatteryLayout(const QRect& contents, int frameWidth)
     {
         const int cw = contents.width();

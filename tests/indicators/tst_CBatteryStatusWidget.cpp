@@ -17,7 +17,8 @@ Q_DECLARE_METATYPE(QMargins)
 namespace {
 
 /// A battery on the screen, with nothing left to paint.
-class ShownBattery {
+class ShownBattery
+{
 public:
     explicit ShownBattery(bool present = true)
         : recorder(&widget)
@@ -52,7 +53,8 @@ void resized(CBatteryStatusWidget& widget, const QSize& size)
 
 } // namespace
 
-class tst_CBatteryStatusWidget : public QObject {
+class tst_CBatteryStatusWidget : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

@@ -51,7 +51,8 @@ void paintEveryState(CBatteryStatusWidget& widget)
 
 } // namespace
 
-class tst_CBatteryStatusWidgetLimits : public QObject {
+class tst_CBatteryStatusWidgetLimits : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

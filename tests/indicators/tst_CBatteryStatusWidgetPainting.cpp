@@ -12,7 +12,8 @@ using ui::CBatteryStatusWidget;
 namespace {
 
 /// What a battery shows, and the test's own drawing of it.
-struct Look {
+struct Look
+{
     QSize size = QSize(40, 80);
     int frameWidth = 4;
     int percent = 50;
@@ -147,7 +148,8 @@ QImage Look::image(const QBrush& foreground, qreal devicePixelRatio) const
 }
 
 /// \a draw on a canvas of the size of \a look, clipped to \a region.
-template <typename Draw> QImage clipped(const Look& look, const QRegion& region, Draw draw)
+template <typename Draw>
+QImage clipped(const Look& look, const QRegion& region, Draw draw)
 {
     QImage image = test::canvas(look.size);
     QPainter painter(&image);
@@ -159,7 +161,8 @@ template <typename Draw> QImage clipped(const Look& look, const QRegion& region,
 
 } // namespace
 
-class tst_CBatteryStatusWidgetPainting : public QObject {
+class tst_CBatteryStatusWidgetPainting : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

@@ -5,7 +5,8 @@
 using platform::ui::style::Fonts;
 using platform::ui::style::StyleManager;
 
-class tst_StyleManager : public QObject {
+class tst_StyleManager : public QObject
+{
     Q_OBJECT
 
 private Q_SLOTS:

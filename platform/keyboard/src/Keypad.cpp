@@ -33,8 +33,8 @@ Keypad::Keypad(KeyboardType type, const QVector<KeyDescription>& keys, QWidget* 
         addKey(key);
     for (int column = 0; column < grid->columnCount(); ++column)
         grid->setColumnStretch(column, 1);
-    setSectionVisible(KeypadLayout::Digits, false);
-    setSectionVisible(KeypadLayout::Symbols, false);
+    Keypad::setSectionVisible(KeypadLayout::Digits, false);
+    Keypad::setSectionVisible(KeypadLayout::Symbols, false);
 }
 
 void Keypad::addKey(const KeyDescription& description)
@@ -121,9 +121,9 @@ void Keypad::setShifted(bool shifted)
 void Keypad::switchCharacters()
 {
     const bool toLetters = !isSectionVisible(KeypadLayout::Letters);
-    setSectionVisible(KeypadLayout::Letters, toLetters);
-    setSectionVisible(KeypadLayout::Digits, !toLetters);
-    setSectionVisible(KeypadLayout::Symbols, !toLetters);
+    Keypad::setSectionVisible(KeypadLayout::Letters, toLetters);
+    Keypad::setSectionVisible(KeypadLayout::Digits, !toLetters);
+    Keypad::setSectionVisible(KeypadLayout::Symbols, !toLetters);
 }
 
 bool Keypad::isSectionVisible(int section) const
