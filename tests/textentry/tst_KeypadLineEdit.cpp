@@ -83,6 +83,8 @@ private Q_SLOTS:
     void deferredHideBeatsALaterShowRequest();
     void keypadOk();
     void keypadCancel();
+    void keypadWithoutFocus_data();
+    void keypadWithoutFocus();
     void hardwareKeys_data();
     void hardwareKeys();
     void tapOutside();
@@ -307,6 +309,25 @@ void tst_KeypadLineEdit::keypadCancel()
     QVERIFY(!form.field->hasFocus());
 }
 
+void tst_KeypadLineEdit::keypadWithoutFocus_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("OK") << "OK";
+    QTest::newRow("Cancel") << "Cancel";
+}
+
+void tst_KeypadLineEdit::keypadWithoutFocus()
+{
+    QFETCH(QString, key);
+    Form form(KeyboardType::Integer);
+    QVERIFY(form.showActive());
+    form.field->showKeypad();
+    QTRY_VERIFY(form.field->keypad()->isVisible());
+    QVERIFY(!form.field->hasFocus());
+    test::tapKey(*form.field->keypad(), key);
+    QVERIFY(waitUntilHidden(form.field->keypad()));
+}
+
 void tst_KeypadLineEdit::hardwareKeys_data()
 {
     QTest::addColumn<Qt::Key>("key");
@@ -412,11 +433,18 @@ void tst_KeypadLineEdit::popupFocusLossFinishesEditing()
     QVERIFY(waitUntilHidden(form.field->keypad()));
 
     // Without the pop-up nothing is added.
+    const QStringList cancel{"editingFinished", "resultValidated(true)", "textEdited()",
+                             "editingFinished", "signalCancelKey"};
     form.field->setText(QStringLiteral("5")); // QLineEdit has an edit to finish
     QCoreApplication::sendEvent(form.field, &event);
-    QCOMPARE(log.take(),
-             (QStringList{"editingFinished", "resultValidated(true)", "textEdited()",
-                          "editingFinished", "signalCancelKey"}));
+    QCOMPARE(log.take(), cancel);
+
+    // Nor with somebody else's pop-up.
+    QWidget foreign(&form, Qt::Popup);
+    foreign.show();
+    form.field->setText(QStringLiteral("5"));
+    QCoreApplication::sendEvent(form.field, &event);
+    QCOMPARE(log.take(), cancel);
 }
 
 void tst_KeypadLineEdit::programmaticFocusChange()
@@ -426,7 +454,11 @@ void tst_KeypadLineEdit::programmaticFocusChange()
     QVERIFY(form.showActive());
     QVERIFY(openKeypad(form));
     test::tapKey(*form.field->keypad(), QStringLiteral("4"));
+    SignalLog log(form.field);
     form.other->setFocus();
+    QCOMPARE(log.take(),
+             (QStringList{"editingFinished", "resultValidated(true)", "textEdited(1)",
+                          "editingFinished", "signalCancelKey"}));
     QVERIFY(waitUntilHidden(form.field->keypad()));
     QCOMPARE(form.field->text(), QStringLiteral("1"));
     QVERIFY(form.other->hasFocus());

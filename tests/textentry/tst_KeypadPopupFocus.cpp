@@ -284,7 +284,7 @@ void tst_KeypadPopupFocus::passedOnEvent()
     MouseRecorder recorder(form.field);
     const QPoint inField(50, 12);
     const QPoint global = form.field->mapToGlobal(inField);
-    const QPointF inPopup = form.popup->mapFromGlobal(global) + QPointF(0.4, -0.4);
+    const QPointF inPopup = form.popup->mapFromGlobal(global) + QPointF(-0.4, 0.4);
 
     QMouseEvent event(type, inPopup, QPointF(5000, 5000), button, buttons,
                       Qt::ShiftModifier | Qt::AltModifier);
