@@ -49,7 +49,7 @@ function(platform_register_test name plugin environment)
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=${plugin};${PLATFORM_TEST_ENVIRONMENT};${environment}"
         FAIL_REGULAR_EXPRESSION "QWARN  ;QCRITICAL;QSYSTEM;SKIP   ;XFAIL  "
-        TIMEOUT 300)
+        TIMEOUT ${PLATFORM_TEST_TIMEOUT})
 endfunction()
 
 set(PLATFORM_TEST_ENVIRONMENT
@@ -59,7 +59,10 @@ set(PLATFORM_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
 
+set(PLATFORM_TEST_TIMEOUT 300)
+
 if(CMAKE_CROSSCOMPILING)
+    set(PLATFORM_TEST_TIMEOUT 1200) # an emulated program is some ten times slower
     # The emulator redirects only some of the calls by which Qt looks for its plugins into the sysroot.
     list(APPEND PLATFORM_TEST_ENVIRONMENT
         "QT_PLUGIN_PATH=$<TARGET_FILE_DIR:Qt5::QOffscreenIntegrationPlugin>/..")

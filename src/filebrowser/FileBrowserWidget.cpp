@@ -212,7 +212,8 @@ QStringList FileBrowserWidget::selectedFiles() const
         view = m_tileView;
 
     QStringList files;
-    for (const QModelIndex& row : SelectionSnapshot(view->selectionModel()).rows())
+    const QModelIndexList rows = SelectionSnapshot(view->selectionModel()).rows();
+    for (const QModelIndex& row : rows)
         files.append(m_model->filePath(row));
     return files;
 }

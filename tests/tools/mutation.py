@@ -21,6 +21,7 @@ class Mutation(unittest.TestCase):
         self.assertEqual(broken("return a != b && !c;"), ["return a != b && c;", "return a != b || !c;",
                                                           "return a == b && !c;"])
         self.assertEqual(broken("if (a)\n        return;"), ["if (!(a))\n        return;", "if (a)\n        ;"])
+        self.assertIn('if (!(f("a"))) b;', broken('if (f("a")) b;'))
 
     def test_numbers(self):
         self.assertEqual(broken("return 7;"), ["return 6;", "return 8;"])

@@ -18,8 +18,8 @@ case "${1:-}" in
 esac
 [ $# -le 1 ] || die "package: too many arguments"
 
-need_packages build package
-build packages
+need_packages build docs package
+build packages all reference
 rm -f build/packages/*.deb
 cpack --preset packages >&2
 if [ "$check" = yes ]; then

@@ -183,9 +183,10 @@ def read_arguments():
 def main():
     arguments = read_arguments()
     trees = [Tree(PROJECT, PLACE / str(number)) for number in range(arguments.jobs)]
-    for tree in trees:
-        tree.refresh()
-        tree.configure()
+    if not arguments.report:
+        for tree in trees:
+            tree.refresh()
+            tree.configure()
     results = Results()
     accepted = read_accepted()
     tasks = read_tasks(arguments.file, arguments.sample, trees[0].tests())

@@ -65,7 +65,7 @@ def _numbers(code):
             yield Mutant("number", match.start(), match.end(), other)
 
 
-def _negations(code):
+def _negations(code, text):
     for match in re.finditer(r"!(?=[\w(])", code):
         yield Mutant("negation", match.start(), match.end(), "")
     for match in re.finditer(r"(?<=[(,=\s])-(?=[\w(])", code):
@@ -74,7 +74,7 @@ def _negations(code):
         end = closing(code, match.end() - 1)
         condition = code[match.end():end]
         if not re.search(r"\s(==|!=|<|>|<=|>=|&&|\|\|)\s|^!|;", condition):
-            yield Mutant("condition", match.end(), end, f"!({condition})")
+            yield Mutant("condition", match.end(), end, f"!({text[match.end():end]})")
 
 
 def _statements(code, text):
@@ -94,5 +94,5 @@ def _statements(code, text):
 def mutants(text):
     """All mutants of a source text, from its beginning to its end."""
     code = blank_out(text)
-    found = [*_exchanges(code), *_numbers(code), *_negations(code), *_statements(code, text)]
+    found = [*_exchanges(code), *_numbers(code), *_negations(code, text), *_statements(code, text)]
     return sorted(found, key=lambda mutant: (mutant.start, mutant.end, mutant.replacement))
