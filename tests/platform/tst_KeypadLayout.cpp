@@ -218,6 +218,7 @@ void tst_KeypadLayout::switchKeyExchangesTheCharacters()
              words("1 2 3 4 5 6 7 8 9 0 ! @ # % & * ( ) = _ - + / : ; , . ' \" ?")
                  << switchKey << words("Space Backspace Cancel OK"));
     QCOMPARE(keypad->sizeHint(), size); // a pop-up around it need not move
+    QCOMPARE(test::keypadKey(*keypad, QStringLiteral("&"))->text(), QStringLiteral("&&"));
 
     test::tapKey(*keypad, switchKey);
     QCOMPARE(test::shownKeys(*keypad), letters);
