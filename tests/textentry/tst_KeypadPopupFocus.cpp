@@ -112,7 +112,7 @@ private Q_SLOTS:
     void secondFocusLossGoesThrough();
     void everyShowingIsForgivenOnce();
     void hiddenPopupForgivesNothing();
-    void focusComesBackToTheActiveWindow();
+    void focusComesBackWithTheWindow();
     void otherEventsAndWidgetsPass();
     void keyboardStaysWithTheField();
 
@@ -187,7 +187,7 @@ void tst_KeypadPopupFocus::hiddenPopupForgivesNothing()
     QCOMPARE(log.take(), QStringList());
 }
 
-void tst_KeypadPopupFocus::focusComesBackToTheActiveWindow()
+void tst_KeypadPopupFocus::focusComesBackWithTheWindow()
 {
     PopupForm form;
     QVERIFY(form.showActive());
@@ -196,10 +196,13 @@ void tst_KeypadPopupFocus::focusComesBackToTheActiveWindow()
     dialog.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     form.popup->show();
+    QCoreApplication::processEvents();
+    QVERIFY(QGuiApplication::focusWindow() != form.windowHandle());
 
     QFocusEvent out(QEvent::FocusOut);
     QVERIFY(form.popup->eventFilter(form.field, &out));
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    // QApplication takes no note of it while a pop-up is open.
+    QTRY_COMPARE(QGuiApplication::focusWindow(), form.windowHandle());
     QCOMPARE(form.focusWidget(), form.field);
 }
 
