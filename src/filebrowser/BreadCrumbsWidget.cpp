@@ -60,6 +60,7 @@ BreadCrumbsWidget::BreadCrumbsWidget(QWidget* parent)
 
 BreadCrumbsWidget::~BreadCrumbsWidget() = default;
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void BreadCrumbsWidget::setRootPath(QString path)
 {
     m_rootDir = QDir(path);
@@ -67,6 +68,7 @@ void BreadCrumbsWidget::setRootPath(QString path)
     refresh();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void BreadCrumbsWidget::changeDir(QString path)
 {
     m_currentDir = QDir(path);

@@ -196,6 +196,7 @@ ui::FileBrowserWidget::SelectionMode FileBrowserWidget::selectionMode() const
     }
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void FileBrowserWidget::setRootPath(QString path)
 {
     if (!m_model)

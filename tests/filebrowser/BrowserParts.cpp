@@ -43,7 +43,8 @@ QList<ClickableLabel*> crumbLabels(const BreadCrumbsWidget& bar)
 QStringList crumbs(const BreadCrumbsWidget& bar)
 {
     QStringList texts;
-    for (const ClickableLabel* label : crumbLabels(bar))
+    const QList<ClickableLabel*> labels = crumbLabels(bar);
+    for (const ClickableLabel* label : labels)
         texts.append(label->text());
     return texts;
 }
@@ -56,7 +57,8 @@ QString lastCrumbPath(const BreadCrumbsWidget& bar)
 
 ClickableLabel* crumb(const BreadCrumbsWidget& bar, const QString& text)
 {
-    for (ClickableLabel* label : crumbLabels(bar)) {
+    const QList<ClickableLabel*> labels = crumbLabels(bar);
+    for (ClickableLabel* label : labels) {
         if (label->text() == text)
             return label;
     }
@@ -95,7 +97,8 @@ void selectEntries(const QAbstractItemView& view, const QStringList& names)
 QStringList selectedNames(const QAbstractItemView& view)
 {
     QStringList names;
-    for (const QModelIndex& row : view.selectionModel()->selectedRows())
+    const QModelIndexList rows = view.selectionModel()->selectedRows();
+    for (const QModelIndex& row : rows)
         names.append(row.data().toString());
     return names;
 }

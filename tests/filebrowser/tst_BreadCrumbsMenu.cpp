@@ -16,7 +16,8 @@ QStringList entries(const BreadCrumbsWidget& bar)
     QStringList texts{QStringLiteral("no menu")};
     withMenu(bar, [&](QMenu& menu) {
         texts.clear();
-        for (const QAction* action : menu.actions())
+        const QList<QAction*> actions = menu.actions();
+        for (const QAction* action : actions)
             texts.append(action->text());
     });
     return texts;
@@ -95,7 +96,8 @@ void tst_BreadCrumbsMenu::paths()
 {
     QSignalSpy changed(m_bar, &BreadCrumbsWidget::dirChanged);
     QVERIFY(withMenu(*m_bar, [](QMenu& menu) {
-        for (QAction* action : menu.actions())
+        const QList<QAction*> actions = menu.actions();
+        for (QAction* action : actions)
             action->trigger();
     }));
     const QString separator = QDir::separator();

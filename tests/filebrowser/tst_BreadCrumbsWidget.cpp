@@ -25,7 +25,8 @@ std::unique_ptr<BreadCrumbsWidget> barAt(const QString& path)
 QStringList directories(const BreadCrumbsWidget& bar)
 {
     QStringList paths;
-    for (const ClickableLabel* label : crumbLabels(bar))
+    const QList<ClickableLabel*> labels = crumbLabels(bar);
+    for (const ClickableLabel* label : labels)
         paths.append(label->property("directory").toString());
     return paths;
 }
@@ -201,7 +202,8 @@ void tst_BreadCrumbsWidget::crumbProperties()
 {
     const auto bar = barAt(QStringLiteral("/data/a/b"));
     QCOMPARE(directories(*bar), (QStringList{"/data/a", "/data/a/b"}));
-    for (const ClickableLabel* label : crumbLabels(*bar)) {
+    const QList<ClickableLabel*> labels = crumbLabels(*bar);
+    for (const ClickableLabel* label : labels) {
         QCOMPARE(label->parentWidget(), bar.get());
         QCOMPARE(label->objectName(), QStringLiteral("breadcrumb"));
         QCOMPARE(label->textFormat(), Qt::RichText);
@@ -332,7 +334,7 @@ void tst_BreadCrumbsWidget::unusualNames()
         const auto bar = barAt("/data/" + name);
         const QStringList expected = name.split(QLatin1Char('/')); // the closing tag holds a slash
         QCOMPARE(crumbs(*bar), expected);
-        QCOMPARE(directories(*bar).last(), "/data/" + name);
+        QCOMPARE(lastCrumbPath(*bar), "/data/" + name);
     }
 }
 

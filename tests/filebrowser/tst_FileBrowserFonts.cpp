@@ -13,7 +13,12 @@ namespace {
 constexpr int firstPixelSize = 21;
 
 int instanceRequests = 0;
-QVector<platform::ui::style::Fonts> fontRequests;
+
+QVector<platform::ui::style::Fonts>& fontRequests()
+{
+    static QVector<platform::ui::style::Fonts> requests;
+    return requests;
+}
 
 } // namespace
 
@@ -32,8 +37,8 @@ StyleManager* StyleManager::getInstance()
 QFont StyleManager::getStyleFont(Fonts font)
 {
     QFont result;
-    result.setPixelSize(firstPixelSize + fontRequests.size());
-    fontRequests.append(font);
+    result.setPixelSize(firstPixelSize + fontRequests().size());
+    fontRequests().append(font);
     return result;
 }
 
@@ -54,7 +59,7 @@ void tst_FileBrowserFonts::askedForOncePerViewInOrder()
     ui::FileBrowserWidget browser;
     const test::BrowserParts parts(browser);
     QCOMPARE(instanceRequests, 3);
-    QCOMPARE(fontRequests,
+    QCOMPARE(fontRequests(),
              QVector<platform::ui::style::Fonts>(3, platform::ui::style::Fonts::FileBrowser));
     QCOMPARE(parts.combo->font().pixelSize(), firstPixelSize);
     QCOMPARE(parts.tileView->font().pixelSize(), firstPixelSize + 1);
@@ -62,7 +67,7 @@ void tst_FileBrowserFonts::askedForOncePerViewInOrder()
 
     browser.setAllowedDirs({QStringLiteral("/")});
     browser.setRootPath(QStringLiteral("/usr"));
-    QCOMPARE(fontRequests.size(), 3);
+    QCOMPARE(fontRequests().size(), 3);
 }
 
 int main(int argc, char** argv)

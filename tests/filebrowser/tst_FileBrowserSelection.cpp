@@ -124,7 +124,8 @@ void tst_FileBrowserSelection::fileIsOnlyReported()
 void tst_FileBrowserSelection::directoryIsOpened()
 {
     bool openedBefore = false;
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this, [&] {
+    const QObject scope; // of the connection
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, &scope, [this, &openedBefore] {
         openedBefore = m_browser->currentPath() == m_tree->path(QStringLiteral("alpha"))
             && crumbs(*m_parts->bar) == QStringList{"alpha"};
     });
@@ -176,7 +177,8 @@ void tst_FileBrowserSelection::onlyTheFirstColumnIsDeselected()
 void tst_FileBrowserSelection::twoDirectoriesOpenTheSecond()
 {
     QStringList seen;
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this, [&] {
+    const QObject scope; // of the connection
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, &scope, [this, &seen] {
         seen.append(QDir(m_tree->path()).relativeFilePath(m_browser->currentPath()) + ": "
                     + selectedNames(*m_parts->tileView).join(QLatin1Char(' ')));
     });
@@ -255,7 +257,8 @@ void tst_FileBrowserSelection::selectedFilesOfAnySelectionOfCells()
             QItemSelectionModel::Toggle | QItemSelectionModel::Current};
         selection.select(cells, commands.at(random.bounded(commands.size())));
         QStringList expected;
-        for (const QModelIndex& row : selection.selectedRows())
+        const QModelIndexList rows = selection.selectedRows();
+        for (const QModelIndex& row : rows)
             expected.append(m_parts->model->filePath(row));
         QCOMPARE(m_browser->selectedFiles(), expected);
     }
@@ -353,9 +356,9 @@ void tst_FileBrowserSelection::browserDeletedLaterByAClick()
 
 void tst_FileBrowserSelection::modelDeletedInTheSlot()
 {
-    QPointer<QFileSystemModel> model(m_parts->model);
+    const QPointer<QFileSystemModel> model(m_parts->model);
     connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
-            [&] { delete model.data(); });
+            [model] { delete model.data(); });
     select({"alpha", "one", "beta", "two"});
     QVERIFY(model.isNull());
     QCOMPARE(m_browser->selectedFiles(), QStringList());

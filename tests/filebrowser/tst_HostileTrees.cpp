@@ -192,7 +192,8 @@ void tst_HostileTrees::namesThatAreNoText()
     QTRY_VERIFY(entry(*m_parts->tileView, QStringLiteral("plain")).isValid());
     m_parts->tileView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_parts->tileView->selectAll();
-    for (const QString& name : shownNames(*m_parts->tileView))
+    const QStringList names = shownNames(*m_parts->tileView);
+    for (const QString& name : names)
         selectEntries(*m_parts->tileView, {name});
     m_window->grab();
     m_browser->setRootPath(m_tree->path());
@@ -252,11 +253,9 @@ void tst_HostileTrees::unreadableDirectory()
 void tst_HostileTrees::directoryFilledWhileShown()
 {
     m_browser->setAllowedDirs({m_tree->path()});
-    QStringList names;
-    for (const QString& name : Tree::names(QStringLiteral("f"), 50)) {
+    const QStringList names = Tree::names(QStringLiteral("f"), 50);
+    for (const QString& name : names)
         m_tree->makeFile(name);
-        names.append(name);
-    }
     QVERIFY(shows(names));
     m_tree->makeDir(QStringLiteral("late"));
     QVERIFY(open(QStringLiteral("late")));
@@ -327,7 +326,7 @@ void tst_HostileTrees::fileReplacedByADirectory()
 void tst_HostileTrees::deepTree()
 {
     constexpr int depth = 40;
-    QStringList names = Tree::names(QStringLiteral("level"), depth);
+    const QStringList names = Tree::names(QStringLiteral("level"), depth);
     m_tree->makeDir(names.join(QLatin1Char('/')));
     m_browser->setAllowedDirs({m_tree->path()});
     for (const QString& name : names)
@@ -339,7 +338,8 @@ void tst_HostileTrees::deepTree()
 void tst_HostileTrees::navigatingWhileLoading()
 {
     m_tree->makeDir(QStringLiteral("many"));
-    for (const QString& name : Tree::names(QStringLiteral("many/f"), 2000))
+    const QStringList names = Tree::names(QStringLiteral("many/f"), 2000);
+    for (const QString& name : names)
         m_tree->makeFile(name);
     m_tree->makeDir(QStringLiteral("few/inside"));
     for (int round = 0; round < 5; ++round) {
@@ -356,7 +356,8 @@ void tst_HostileTrees::navigatingWhileLoading()
 
 void tst_HostileTrees::deletedWhileLoading()
 {
-    for (const QString& name : Tree::names(QStringLiteral("f"), 2000))
+    const QStringList names = Tree::names(QStringLiteral("f"), 2000);
+    for (const QString& name : names)
         m_tree->makeFile(name);
     for (int round = 0; round < 5; ++round) {
         ui::FileBrowserWidget browser;
@@ -367,7 +368,8 @@ void tst_HostileTrees::deletedWhileLoading()
 
 void tst_HostileTrees::manyEntriesLoadWhileTheInterfaceAnswers()
 {
-    for (const QString& name : Tree::names(QStringLiteral("f"), manyEntries))
+    const QStringList names = Tree::names(QStringLiteral("f"), manyEntries);
+    for (const QString& name : names)
         m_tree->makeFile(name);
     QElapsedTimer sinceTick;
     qint64 longestGap = 0;
