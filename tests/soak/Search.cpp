@@ -1,0 +1,44 @@
+#include "Search.h"
+
+#include "Machines.h"
+#include "Minimise.h"
+#include "StepFile.h"
+#include "Trial.h"
+
+namespace soak {
+
+namespace {
+
+constexpr int maxTrials = 500;
+
+QString report(const QString& widget, quint32 seed, const Verdict& verdict, const QStringList& lines)
+{
+    return QStringLiteral("%1, seed %2, step %3: %4\nFewest steps found that do the same:\n  %5\n")
+        .arg(widget)
+        .arg(seed)
+        .arg(verdict.step)
+        .arg(verdict.report.trimmed(), lines.join(QLatin1String("\n  ")));
+}
+
+} // namespace
+
+QString search(const QString& program, const QString& widget, quint32 seed, int count)
+{
+    const std::unique_ptr<Machine> machine = newMachine(widget);
+    if (!machine)
+        return QStringLiteral("there is no machine for ") + widget;
+    Steps steps = machine->steps(seed, count);
+    Trial trial(program, widget);
+    const Verdict verdict = trial.play(toLines(steps, *machine));
+    if (!verdict.failed)
+        return QString();
+
+    steps.resize(qMin(steps.size(), verdict.step + 1));
+    int trials = 0;
+    const auto fails = [&](const Steps& fewer) {
+        return ++trials <= maxTrials && trial.play(toLines(fewer, *machine)).isLike(verdict);
+    };
+    return report(widget, seed, verdict, toLines(minimised(steps, fails), *machine));
+}
+
+} // namespace soak
