@@ -52,14 +52,17 @@ public:
      */
     void changeDir(QString path);
 
-    /// Rebuilds the row. The crumbs shown until then are deleted at once.
+    /**
+     * Rebuilds the row. The crumbs shown until then are deleted at once, or if the right button is
+     * down, as Qt has a context menu event for one of them then, hidden and deleted later.
+     */
     void refresh();
 
 Q_SIGNALS:
     /**
      * Emitted when a crumb is pressed or an entry of the "..." menu is chosen. The bar itself does
-     * not change. In a slot the bar may be deleted if a crumb was pressed; a menu is still open
-     * otherwise, so use deleteLater() where both can happen.
+     * not change. In a slot the bar may be deleted if the left button was pressed on a crumb; a menu
+     * is open otherwise, or about to be asked for, so use deleteLater() where that can happen.
      *
      * \param path the directory picked: the root's path, a slash and the components up to it. Below
      * the root "/" it begins with two slashes.

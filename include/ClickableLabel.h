@@ -31,7 +31,10 @@ public:
     ~ClickableLabel() override;
 
 Q_SIGNALS:
-    /// Emitted when a mouse button is pressed on the label. The label may be deleted in a slot.
+    /**
+     * Emitted when a mouse button is pressed on the label. The label may be deleted in a slot; while
+     * the right button is down use deleteLater(), as Qt has a context menu event for it then.
+     */
     void clicked();
 
 protected:

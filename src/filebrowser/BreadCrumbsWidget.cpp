@@ -2,6 +2,7 @@
 
 #include "ClickableLabel.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
@@ -16,11 +17,27 @@ constexpr int sideMargin = 5; // pixels
 
 constexpr char directoryProperty[] = "directory";
 
+/**
+ * Qt sends the widget on which the right button goes down a context menu event after the press. If
+ * the press has led to its deletion, the widget must wait for that.
+ */
+void deleteOrRetire(QWidget* widget)
+{
+    if (!widget || !(QGuiApplication::mouseButtons() & Qt::RightButton)) {
+        delete widget;
+        return;
+    }
+    widget->hide();
+    widget->setContextMenuPolicy(Qt::PreventContextMenu);
+    widget->setObjectName(QString());
+    widget->deleteLater();
+}
+
 /// Deletes the items of \a layout, with their widgets, from \a first on.
 void clearLayout(QLayout& layout, int first)
 {
     while (QLayoutItem* item = layout.takeAt(first)) {
-        delete item->widget();
+        deleteOrRetire(item->widget());
         delete item;
     }
 }
