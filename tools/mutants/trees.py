@@ -14,6 +14,11 @@ def _limit_memory():
     resource.setrlimit(resource.RLIMIT_AS, (_MEMORY_LIMIT, _MEMORY_LIMIT))
 
 
+def program_of(test):
+    """The class part of a test's name: platform.CLASS or platform.CLASS.screen."""
+    return test.split(".")[1]
+
+
 class Tree:
     """A copy of the tracked files of the project, built for speed of building."""
 
@@ -57,11 +62,11 @@ class Tree:
         shown = json.loads(self._must_run(["ctest", "--test-dir", str(self.build), "--show-only=json-v1"]))
         folders = {path.stem[4:]: path.parent.name for path in self.source.glob("tests/*/tst_*.cpp")}
         names = [test["name"] for test in shown["tests"]]
-        return {name: folders[name.split(".", 1)[1]]
+        return {name: folders[program_of(name)]
                 for name in names if name.startswith(("offscreen.", "x11."))}
 
     def build_tests(self, names):
-        programs = sorted({"tst_" + name.split(".", 1)[1] for name in names})
+        programs = sorted({"tst_" + program_of(name) for name in names})
         self._must_run(["ninja", "-C", str(self.build), "platform_widgets", *programs])
 
     def set_source(self, name, text):
