@@ -30,8 +30,9 @@ namespace ui {
  * does not grow with it.
  *
  * Most functions do what the functions of QGridLayout with the same names do. Rows and columns
- * count from 0 to 999. Null pointers, cells outside of these and widgets that contain the button
- * are refused with a warning and left alone.
+ * count from 0 to 999. Null pointers, cells outside of these, widgets that contain the button and
+ * layout items that belong to a layout or a widget already are refused with a warning and left
+ * alone; so is everything once the application has deleted or replaced the button's layout().
  */
 class PLATFORM_WIDGETS_EXPORT CGridArrangedButton : public QPushButton
 {

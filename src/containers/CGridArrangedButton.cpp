@@ -44,15 +44,50 @@ bool contains(const QWidget* outer, const QWidget* inner)
     return inner;
 }
 
-bool acceptsWidget(const QWidget* widget, const QWidget* button)
+bool acceptsWidget(const QWidget* widget, const QWidget& button)
 {
     if (!widget)
         qWarning("CGridArrangedButton::addWidget: cannot add a null widget");
-    else if (contains(widget, button))
+    else if (contains(widget, &button))
         qWarning("CGridArrangedButton::addWidget: cannot add a widget that contains the button");
     else
         return true;
     return false;
+}
+
+/// Whether something else, or the grid itself, is going to delete \a item.
+bool hasOwner(QLayoutItem& item, const QGridLayout& grid)
+{
+    const QLayout* layout = item.layout();
+    return grid.indexOf(&item) >= 0 || (layout && layout->parent());
+}
+
+bool acceptsItem(QLayoutItem* item, const QGridLayout& grid, const QWidget& button)
+{
+    if (!item)
+        qWarning("CGridArrangedButton::addItem: cannot add a null item");
+    else if (hasOwner(*item, grid))
+        qWarning("CGridArrangedButton::addItem: cannot add an item that has an owner");
+    else if (contains(item->widget(), &button))
+        qWarning("CGridArrangedButton::addItem: cannot add an item that contains the button");
+    else
+        return true;
+    return false;
+}
+
+/// Whether \a grid still lays \a button out: by way of QWidget::layout() an application may have
+/// deleted it, moved it to another widget, or put another layout in its place and at its address.
+bool laysOut(const QGridLayout* grid, const QWidget& button)
+{
+    return grid == qobject_cast<QGridLayout*>(button.layout());
+}
+
+bool acceptsCalls(const QGridLayout* grid, const QWidget& button, const char* function)
+{
+    const bool accepted = laysOut(grid, button);
+    if (!accepted)
+        qWarning("CGridArrangedButton::%s: the button has lost its grid", function);
+    return accepted;
 }
 
 } // namespace
@@ -95,7 +130,8 @@ QSize CGridArrangedButton::minimumSizeHint() const
 void CGridArrangedButton::addWidget(QWidget* widget, int row, int column,
                                     QFlags<Qt::AlignmentFlag> alignment)
 {
-    if (!acceptsWidget(widget, this) || !acceptsCells(row, column, 1, 1, "addWidget"))
+    if (!acceptsCalls(m_gridLayout, *this, __func__) || !acceptsWidget(widget, *this)
+        || !acceptsCells(row, column, 1, 1, __func__))
         return;
     widget->setParent(this);
     m_gridLayout->addWidget(widget, row, column, alignment);
@@ -104,8 +140,8 @@ void CGridArrangedButton::addWidget(QWidget* widget, int row, int column,
 void CGridArrangedButton::addWidget(QWidget* widget, int row, int column, int rowSpan,
                                     int columnSpan, QFlags<Qt::AlignmentFlag> alignment)
 {
-    if (!acceptsWidget(widget, this)
-        || !acceptsCells(row, column, rowSpan, columnSpan, "addWidget"))
+    if (!acceptsCalls(m_gridLayout, *this, __func__) || !acceptsWidget(widget, *this)
+        || !acceptsCells(row, column, rowSpan, columnSpan, __func__))
         return;
     widget->setParent(this);
     m_gridLayout->addWidget(widget, row, column, rowSpan, columnSpan, alignment);
@@ -114,62 +150,64 @@ void CGridArrangedButton::addWidget(QWidget* widget, int row, int column, int ro
 void CGridArrangedButton::addItem(QLayoutItem* item, int row, int column, int rowSpan,
                                   int columnSpan, QFlags<Qt::AlignmentFlag> alignment)
 {
-    if (!item) {
-        qWarning("CGridArrangedButton::addItem: cannot add a null item");
-        return;
-    }
-    if (acceptsCells(row, column, rowSpan, columnSpan, "addItem"))
+    if (acceptsCalls(m_gridLayout, *this, __func__) && acceptsItem(item, *m_gridLayout, *this)
+        && acceptsCells(row, column, rowSpan, columnSpan, __func__))
         m_gridLayout->addItem(item, row, column, rowSpan, columnSpan, alignment);
 }
 
 void CGridArrangedButton::setColumnMinimumWidth(int column, int minSize)
 {
-    if (acceptsIndex(column, "setColumnMinimumWidth"))
+    if (acceptsCalls(m_gridLayout, *this, __func__) && acceptsIndex(column, __func__))
         m_gridLayout->setColumnMinimumWidth(column, minSize);
 }
 
 int CGridArrangedButton::columnStretch(int column) const
 {
-    const bool exists = column >= 0 && column < m_gridLayout->columnCount();
+    const bool exists =
+        laysOut(m_gridLayout, *this) && column >= 0 && column < m_gridLayout->columnCount();
     return exists ? m_gridLayout->columnStretch(column) : 0;
 }
 
 void CGridArrangedButton::setColumnStretch(int column, int stretch)
 {
-    if (acceptsIndex(column, "setColumnStretch"))
+    if (acceptsCalls(m_gridLayout, *this, __func__) && acceptsIndex(column, __func__))
         m_gridLayout->setColumnStretch(column, stretch);
 }
 
 void CGridArrangedButton::setRowMinimumHeight(int row, int minSize)
 {
-    if (acceptsIndex(row, "setRowMinimumHeight"))
+    if (acceptsCalls(m_gridLayout, *this, __func__) && acceptsIndex(row, __func__))
         m_gridLayout->setRowMinimumHeight(row, minSize);
 }
 
 void CGridArrangedButton::setRowStretch(int row, int stretch)
 {
-    if (acceptsIndex(row, "setRowStretch"))
+    if (acceptsCalls(m_gridLayout, *this, __func__) && acceptsIndex(row, __func__))
         m_gridLayout->setRowStretch(row, stretch);
 }
 
 void CGridArrangedButton::setSpacing(int spacing)
 {
-    m_gridLayout->setSpacing(spacing);
+    if (acceptsCalls(m_gridLayout, *this, __func__))
+        m_gridLayout->setSpacing(spacing);
 }
 
 void CGridArrangedButton::setHorizontalSpacing(int spacing)
 {
-    m_gridLayout->setHorizontalSpacing(spacing);
+    if (acceptsCalls(m_gridLayout, *this, __func__))
+        m_gridLayout->setHorizontalSpacing(spacing);
 }
 
 void CGridArrangedButton::setVerticalSpacing(int spacing)
 {
-    m_gridLayout->setVerticalSpacing(spacing);
+    if (acceptsCalls(m_gridLayout, *this, __func__))
+        m_gridLayout->setVerticalSpacing(spacing);
 }
 
 void CGridArrangedButton::setContentsMargins(int left, int top, int right, int bottom)
 {
-    m_gridLayout->setContentsMargins(left, top, right, bottom);
+    if (acceptsCalls(m_gridLayout, *this, __func__))
+        m_gridLayout->setContentsMargins(left, top, right, bottom);
 }
 
 void CGridArrangedButton::create()

@@ -13,6 +13,8 @@ using ui::CGridArrangedButton;
 namespace {
 
 using Call = std::function<void(CGridArrangedButton&)>;
+/// Finds an item in a button or in a widget.
+using Find = std::function<QLayoutItem*(CGridArrangedButton&, QWidget&)>;
 
 QGridLayout* gridOf(const CGridArrangedButton& button)
 {
@@ -22,6 +24,7 @@ QGridLayout* gridOf(const CGridArrangedButton& button)
 } // namespace
 
 Q_DECLARE_METATYPE(Call)
+Q_DECLARE_METATYPE(Find)
 
 class tst_CGridArrangedButtonMisuse : public QObject
 {
@@ -32,6 +35,10 @@ private Q_SLOTS:
     void refusesBadInput();
     void leavesRefusedWidgetsAlone();
     void refusesToContainItself();
+    void refusesItemsWithOwners_data();
+    void refusesItemsWithOwners();
+    void survivesLossOfItsGrid_data();
+    void survivesLossOfItsGrid();
     void survivesAbsurdMeasures();
 };
 
@@ -144,10 +151,92 @@ void tst_CGridArrangedButtonMisuse::refusesToContainItself()
                              "CGridArrangedButton::addWidget: cannot add a widget that"
                              " contains the button");
         button.addWidget(widget, 0, 0);
+
+        QWidgetItem item(widget);
+        QTest::ignoreMessage(QtWarningMsg,
+                             "CGridArrangedButton::addItem: cannot add an item that contains the"
+                             " button");
+        button.addItem(&item, 0, 0);
     }
     QCOMPARE(gridOf(button)->count(), 0);
     QCOMPARE(button.parentWidget(), &panel);
     QCOMPARE(panel.parentWidget(), &window);
+}
+
+void tst_CGridArrangedButtonMisuse::refusesItemsWithOwners_data()
+{
+    QTest::addColumn<Find>("find");
+    QTest::newRow("in the grid already")
+        << Find([](CGridArrangedButton& button, QWidget&) { return gridOf(button)->itemAt(0); });
+    QTest::newRow("the grid itself")
+        << Find([](CGridArrangedButton& button, QWidget&) { return button.layout(); });
+    QTest::newRow("layout of a widget")
+        << Find([](CGridArrangedButton&, QWidget& widget) { return widget.layout(); });
+    QTest::newRow("layout in a layout")
+        << Find([](CGridArrangedButton&, QWidget& widget) { return widget.layout()->itemAt(0); });
+}
+
+void tst_CGridArrangedButtonMisuse::refusesItemsWithOwners()
+{
+    QFETCH(const Find, find);
+    CGridArrangedButton button;
+    button.addItem(new QSpacerItem(1, 1), 0, 0);
+    QWidget widget;
+    auto* column = new QVBoxLayout(&widget);
+    column->addLayout(new QHBoxLayout);
+
+    QTest::ignoreMessage(QtWarningMsg,
+                         "CGridArrangedButton::addItem: cannot add an item that has an owner");
+    button.addItem(find(button, widget), 1, 1);
+    QCOMPARE(gridOf(button)->count(), 1);
+    button.addItem(new QHBoxLayout, 1, 1); // this one has none
+    QCOMPARE(gridOf(button)->count(), 2);
+}
+
+void tst_CGridArrangedButtonMisuse::survivesLossOfItsGrid_data()
+{
+    QTest::addColumn<Call>("lose");
+    QTest::newRow("deleted") << Call([](auto& button) { delete button.layout(); });
+    QTest::newRow("moved") << Call([](auto& button) { QWidget().setLayout(button.layout()); });
+    QTest::newRow("replaced by a column") << Call([](auto& button) {
+        delete button.layout();
+        button.setLayout(new QVBoxLayout);
+    });
+}
+
+void tst_CGridArrangedButtonMisuse::survivesLossOfItsGrid()
+{
+    QFETCH(const Call, lose);
+    const QHash<QString, Call> calls = {
+        {QStringLiteral("addItem"), [](auto& b) { b.addItem(nullptr, 0, 0); }},
+        {QStringLiteral("setColumnMinimumWidth"), [](auto& b) { b.setColumnMinimumWidth(0, 5); }},
+        {QStringLiteral("setColumnStretch"), [](auto& b) { b.setColumnStretch(0, 5); }},
+        {QStringLiteral("setRowMinimumHeight"), [](auto& b) { b.setRowMinimumHeight(0, 5); }},
+        {QStringLiteral("setRowStretch"), [](auto& b) { b.setRowStretch(0, 5); }},
+        {QStringLiteral("setSpacing"), [](auto& b) { b.setSpacing(5); }},
+        {QStringLiteral("setHorizontalSpacing"), [](auto& b) { b.setHorizontalSpacing(5); }},
+        {QStringLiteral("setVerticalSpacing"), [](auto& b) { b.setVerticalSpacing(5); }},
+        {QStringLiteral("setContentsMargins"), [](auto& b) { b.setContentsMargins(5, 5, 5, 5); }},
+    };
+    QWidget parent;
+    QLabel label(&parent);
+    CGridArrangedButton button(QStringLiteral("Text"));
+    button.setColumnStretch(0, 5);
+    lose(button);
+
+    const QString warning = QStringLiteral("CGridArrangedButton::%1: the button has lost its grid");
+    for (auto call = calls.begin(); call != calls.end(); ++call) {
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(warning.arg(call.key())));
+        call.value()(button);
+    }
+    for (int i = 0; i < 2; ++i)
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(warning.arg(QStringLiteral("addWidget"))));
+    button.addWidget(&label, 0, 0);
+    button.addWidget(&label, 0, 0, 1, 1);
+    QCOMPARE(label.parentWidget(), &parent);
+    QCOMPARE(button.columnStretch(0), 0);
+    QVERIFY(button.sizeHint().isValid());
+    QVERIFY(button.minimumSizeHint().isValid());
 }
 
 void tst_CGridArrangedButtonMisuse::survivesAbsurdMeasures()
