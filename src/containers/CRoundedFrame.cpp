@@ -43,13 +43,14 @@ QLinearGradient diagonalGradient(qreal firstStop, const QColor& first, qreal las
 /// Light and dark come from the widget itself, the plain outline from \a palette.
 QBrush outlineBrush(const QWidget& widget, QFrame::Shadow shadow, const QPalette& palette)
 {
-    const QColor light = widget.palette().brush(QPalette::Current, QPalette::Light).color();
-    const QColor dark = widget.palette().brush(QPalette::Current, QPalette::Dark).color();
+    const auto own = [&widget](QPalette::ColorRole role) {
+        return widget.palette().brush(QPalette::Current, role).color();
+    };
     switch (shadow) {
     case QFrame::Raised:
-        return diagonalGradient(0.4, light, 1.0, dark);
+        return diagonalGradient(0.4, own(QPalette::Light), 1.0, own(QPalette::Dark));
     case QFrame::Sunken:
-        return diagonalGradient(0.0, dark, 0.6, light);
+        return diagonalGradient(0.0, own(QPalette::Dark), 0.6, own(QPalette::Light));
     default:
         return palette.brush(QPalette::Current, widget.foregroundRole());
     }

@@ -22,7 +22,7 @@ constexpr int lineDarkening = 108;
 
 QColor buttonShade(const QPalette& palette, double saturation, double value)
 {
-    const QColor button = palette.brush(QPalette::Current, QPalette::Button).color();
+    const QColor button = palette.brush(QPalette::Current, QPalette::Button).color().toHsv();
     return QColor::fromHsv(button.hue(), qMin(int(button.saturation() * saturation), 255),
                            qMin(int(button.value() * value), 255), 255);
 }
@@ -91,13 +91,12 @@ QLine handleLine(const QRect& handle, Qt::Orientation orientation, int index)
 void drawHandle(QPainter& painter, const QRect& handle, Qt::Orientation orientation,
                 const QColor& firstColor)
 {
-    QPen pen(QBrush(firstColor, Qt::SolidPattern), 1.0, Qt::SolidLine, Qt::SquareCap,
-             Qt::BevelJoin);
     painter.setBrush(Qt::NoBrush);
+    QColor color = firstColor;
     for (int i = 0; i < ScrollIndicatorBar::PERPENDICULAR_SIZE; ++i) {
-        painter.setPen(pen);
+        painter.setPen(QPen(color, 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
         painter.drawLine(handleLine(handle, orientation, i));
-        pen.setColor(pen.color().darker(lineDarkening));
+        color = color.darker(lineDarkening);
     }
 }
 
