@@ -9,12 +9,21 @@ namespace ui {
 
 namespace {
 
+/// An interface for \a object if it is a \a Widget: the class's name alone does not tell, since an
+/// application may have a class of its own by that name.
+template <typename Widget, typename Interface>
+QAccessibleInterface* interfaceFor(QObject* object)
+{
+    auto* widget = qobject_cast<Widget*>(object);
+    return widget ? new Interface(widget) : nullptr;
+}
+
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
     if (className == QLatin1String("ui::CBatteryStatusWidget"))
-        return new AccessibleBattery(static_cast<CBatteryStatusWidget*>(object));
+        return interfaceFor<CBatteryStatusWidget, AccessibleBattery>(object);
     if (className == QLatin1String("ClickableLabel"))
-        return new AccessibleLink(static_cast<ClickableLabel*>(object));
+        return interfaceFor<ClickableLabel, AccessibleLink>(object);
     return nullptr;
 }
 
