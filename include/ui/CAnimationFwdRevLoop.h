@@ -24,7 +24,8 @@ namespace ui {
  *
  * Each time the animation finishes, the loop turns its direction round and starts it again.
  * Everything else is the caller's: values, duration, a finite loop count, the first start, and the
- * end, which is QAbstractAnimation::stop().
+ * end, which is QAbstractAnimation::stop(). Qt counts an animation that is stopped just where it
+ * would turn round as finished, and so does the loop.
  *
  * Its nearest neighbour is QAbstractAnimation::setLoopCount(-1), which always starts over from the
  * same end.

@@ -116,7 +116,8 @@ public:
     void fullUpdate();
 
 protected:
-    /// Draws the fill and then the outline of \a path in the colours of \a palette.
+    /// Draws the fill and then the outline of \a path in the colours of \a palette; those of a raised
+    /// or a sunken outline are the frame's own.
     void paintFrame(QPainter* painter, QPainterPath const& path, QPalette const& palette);
 
     /// Paints fill and outline, or of the interior no more than what is damaged.

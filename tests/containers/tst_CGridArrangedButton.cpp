@@ -1,3 +1,4 @@
+#include "Painting.h"
 #include "TestApplication.h"
 
 #include <ui/CGridArrangedButton.h>
@@ -70,6 +71,8 @@ private Q_SLOTS:
     void setsMarginsOfTheGrid();
 
     void clicksThroughItsWidgets();
+    void paintsItsContentAsPushButton();
+    void paintsItsContentBeneathItsWidgets();
 };
 
 void tst_CGridArrangedButton::constructors()
@@ -289,6 +292,36 @@ void tst_CGridArrangedButton::clicksThroughItsWidgets()
     QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, point);
     QVERIFY(!button.isDown());
     QCOMPARE(clicked.count(), 1);
+}
+
+void tst_CGridArrangedButton::paintsItsContentAsPushButton()
+{
+    const QString text = QStringLiteral("Title");
+    QPushButton reference(redIcon(), text);
+    CGridArrangedButton button(redIcon(), text);
+    button.addWidget(new QLabel(QStringLiteral("Value")), 0, 0);
+    button.resize(200, 80);
+    reference.resize(200, 80);
+    for (bool down : {false, true}) {
+        button.setDown(down);
+        reference.setDown(down);
+        QVERIFY(test::sameImage(test::paintedBy(button), test::paintedBy(reference)));
+    }
+}
+
+void tst_CGridArrangedButton::paintsItsContentBeneathItsWidgets()
+{
+    CGridArrangedButton button(QStringLiteral("A rather long caption of the button"));
+    button.setContentsMargins(0, 0, 0, 0);
+    auto* cover = new QWidget;
+    cover->setAutoFillBackground(true);
+    cover->setPalette(QColor(Qt::green));
+    button.addWidget(cover, 0, 0);
+    button.resize(button.sizeHint());
+
+    QImage green(button.size(), QImage::Format_RGB32);
+    green.fill(cover->palette().color(QPalette::Window));
+    QCOMPARE(button.grab().toImage().convertToFormat(green.format()), green);
 }
 
 int main(int argc, char** argv)
