@@ -49,8 +49,8 @@ class PLATFORM_WIDGETS_EXPORT CRoundedFrame : public QWidget
     Q_PROPERTY(Shape frameShape READ frameShape WRITE setFrameShape)
 
 public:
-    /// What is drawn around the contents.
-    enum Shape {
+    /// What is drawn around the contents. The type is open to any int; all but NoFrame count as Box.
+    enum Shape : int {
         NoFrame = 0, ///< No outline, and no room for one.
         Box = 1, ///< A rounded outline.
     };

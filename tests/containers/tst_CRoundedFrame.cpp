@@ -158,6 +158,8 @@ void tst_CRoundedFrame::setsPropertiesByName()
     QCOMPARE(frame.property("lineWidth").toInt(), 4);
     QCOMPARE(frame.property("frameShadow").toInt(), 0x30);
     QCOMPARE(frame.property("frameShape").toInt(), 0);
+    QVERIFY(frame.setProperty("frameShape", 7)); // is not checked by Qt
+    QCOMPARE(frame.property("frameShape").toInt(), 7);
 }
 
 void tst_CRoundedFrame::takesPropertiesFromStyleSheet()

@@ -68,7 +68,7 @@ QImage expected(const Look& look)
     QImage image = test::canvas(look.size, look.dpr);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    const bool box = look.shape == CRoundedFrame::Box;
+    const bool box = look.shape != CRoundedFrame::NoFrame;
     const int inset = box ? look.lineWidth : 0;
     QPainterPath path;
     path.addRoundedRect(QRect(QPoint(), look.size).adjusted(inset, inset, -inset, -inset),
@@ -124,6 +124,7 @@ void tst_CRoundedFramePainting::looks_data()
     row("raised", [](Look& look) { look.shadow = QFrame::Raised; });
     row("sunken", [](Look& look) { look.shadow = QFrame::Sunken; });
     row("unknown shadow", [](Look& look) { look.shadow = QFrame::Shadow(0); });
+    row("unknown shape", [](Look& look) { look.shape = CRoundedFrame::Shape(7); });
     row("filled", [](Look& look) { look.filled = true; });
     row("no frame", [](Look& look) { look.shape = CRoundedFrame::NoFrame; });
     row("no frame, filled", [](Look& look) {
