@@ -43,14 +43,12 @@ QLinearGradient diagonalGradient(qreal firstStop, const QColor& first, qreal las
 /// Light and dark come from the widget itself, the plain outline from \a palette.
 QBrush outlineBrush(const QWidget& widget, QFrame::Shadow shadow, const QPalette& palette)
 {
-    const auto own = [&widget](QPalette::ColorRole role) {
-        return widget.palette().brush(QPalette::Current, role).color();
-    };
+    const QPalette& own = widget.palette();
     switch (shadow) {
     case QFrame::Raised:
-        return diagonalGradient(0.4, own(QPalette::Light), 1.0, own(QPalette::Dark));
+        return diagonalGradient(0.4, own.light().color(), 1.0, own.dark().color());
     case QFrame::Sunken:
-        return diagonalGradient(0.0, own(QPalette::Dark), 0.6, own(QPalette::Light));
+        return diagonalGradient(0.0, own.dark().color(), 0.6, own.light().color());
     default:
         return palette.brush(QPalette::Current, widget.foregroundRole());
     }

@@ -22,21 +22,20 @@ constexpr int lineDarkening = 108;
 
 QColor buttonShade(const QPalette& palette, double saturation, double value)
 {
-    const QColor button = palette.brush(QPalette::Current, QPalette::Button).color().toHsv();
+    const QColor button = palette.button().color().toHsv(); // once, for the three below
     return QColor::fromHsv(button.hue(), qMin(int(button.saturation() * saturation), 255),
                            qMin(int(button.value() * value), 255), 255);
 }
 
 QColor grooveColor(const QPalette& palette)
 {
-    const QColor window = palette.brush(QPalette::Current, QPalette::Window).color();
+    const QColor window = palette.window().color();
     return window.lightness() <= darkWindowLightness ? window : buttonShade(palette, 2.6, 0.9);
 }
 
 QColor handleColor(const QPalette& palette, bool highlighted)
 {
-    return highlighted ? palette.brush(QPalette::Current, QPalette::Highlight).color()
-                       : buttonShade(palette, 1.9, 0.7);
+    return highlighted ? palette.highlight().color() : buttonShade(palette, 1.9, 0.7);
 }
 
 uint rangeOf(const QStyleOptionSlider& option)
