@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class ClickableLabel;
 QT_BEGIN_NAMESPACE
 class QHBoxLayout;
 class QPushButton;
@@ -53,8 +54,9 @@ public:
     void changeDir(QString path);
 
     /**
-     * Rebuilds the row. The crumbs shown until then are deleted at once, or if the right button is
-     * down, as Qt has a context menu event for one of them then, hidden and deleted later.
+     * Rebuilds the row. The crumbs shown until then are deleted at once; only the one whose press
+     * with the right button is being reported is hidden and deleted later, as Qt has a context menu
+     * event for it then.
      */
     void refresh();
 
@@ -71,6 +73,7 @@ Q_SIGNALS:
 
 private:
     void addCrumb(const QString& crumb, const QString& path);
+    void report(ClickableLabel* label);
     void showHiddenCrumbs();
 
     QDir m_rootDir;

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QVariant>
 
@@ -16,28 +17,36 @@ constexpr int minMoreButtonWidth = 50; // pixels; wide enough for a finger
 constexpr int sideMargin = 5; // pixels
 
 constexpr char directoryProperty[] = "directory";
+constexpr char reportingProperty[] = "_reporting"; // set while a crumb's press is being reported
 
 /**
  * Qt sends the widget on which the right button goes down a context menu event after the press. If
- * the press has led to its deletion, the widget must wait for that.
+ * the press of a crumb leads to its deletion, the crumb must wait for that.
  */
-void deleteOrRetire(QWidget* widget)
+bool awaitsContextMenuEvent(const QWidget& widget)
 {
-    if (!widget || !(QGuiApplication::mouseButtons() & Qt::RightButton)) {
-        delete widget;
-        return;
-    }
-    widget->hide();
-    widget->setContextMenuPolicy(Qt::PreventContextMenu);
-    widget->setObjectName(QString());
-    widget->deleteLater();
+    return (QGuiApplication::mouseButtons() & Qt::RightButton)
+        && widget.property(reportingProperty).toBool();
+}
+
+/// Hides \a widget from user and program at once; Qt deletes it as soon as it has done with it.
+void retire(QWidget& widget)
+{
+    widget.hide();
+    widget.setContextMenuPolicy(Qt::PreventContextMenu);
+    widget.setObjectName(QString());
+    widget.deleteLater();
 }
 
 /// Deletes the items of \a layout, with their widgets, from \a first on.
 void clearLayout(QLayout& layout, int first)
 {
     while (QLayoutItem* item = layout.takeAt(first)) {
-        deleteOrRetire(item->widget());
+        QWidget* widget = item->widget();
+        if (widget && awaitsContextMenuEvent(*widget))
+            retire(*widget);
+        else
+            delete widget;
         delete item;
     }
 }
@@ -120,9 +129,17 @@ void BreadCrumbsWidget::addCrumb(const QString& crumb, const QString& path)
     label->setObjectName(QStringLiteral("breadcrumb"));
     label->setMaximumWidth(maxCrumbWidth);
     label->setProperty(directoryProperty, path);
-    connect(label, &ClickableLabel::clicked, this,
-            [this, label] { Q_EMIT dirChanged(label->property(directoryProperty).toString()); });
+    connect(label, &ClickableLabel::clicked, this, [this, label] { report(label); });
     m_layout->addWidget(label);
+}
+
+void BreadCrumbsWidget::report(ClickableLabel* label)
+{
+    const QPointer<ClickableLabel> guard(label);
+    label->setProperty(reportingProperty, true);
+    Q_EMIT dirChanged(label->property(directoryProperty).toString()); // may delete bar and label
+    if (guard)
+        guard->setProperty(reportingProperty, QVariant());
 }
 
 void BreadCrumbsWidget::showHiddenCrumbs()

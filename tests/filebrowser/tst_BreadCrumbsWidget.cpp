@@ -81,6 +81,9 @@ private Q_SLOTS:
     void refreshDeletesTheOldRowAtOnce();
     void pressReportsAtOnce();
     void followingARightPress();
+    void followingARightPressDeletesTheOthersAtOnce();
+    void followingALeftPressDeletesAllAtOnce();
+    void refreshWithTheRightButtonDown();
     void directoryIsReadAtTheClick();
     void barDoesNotChangeByItself();
     void separatorsDoNotReact();
@@ -282,6 +285,51 @@ void tst_BreadCrumbsWidget::followingARightPress()
     QVERIFY(!QApplication::activePopupWidget());
     QTest::mouseRelease(bar->windowHandle(), Qt::RightButton, {}, position);
     QTRY_VERIFY(!pressed);
+}
+
+void tst_BreadCrumbsWidget::followingARightPressDeletesTheOthersAtOnce()
+{
+    const auto bar = barAt(QStringLiteral("/data/a/b"));
+    const QPointer<QWidget> pressed(bar->layout()->itemAt(2)->widget());
+    QVector<QPointer<QWidget>> others;
+    for (const int item : {1, 3, 4})
+        others.append(bar->layout()->itemAt(item)->widget());
+    QVector<bool> gone;
+    connect(bar.get(), &BreadCrumbsWidget::dirChanged, this, [&](const QString& path) {
+        bar->changeDir(path);
+        for (const auto& other : qAsConst(others))
+            gone.append(other.isNull());
+    });
+    QTest::mousePress(pressed.data(), Qt::RightButton);
+    QCOMPARE(gone, (QVector<bool>{true, true, true}));
+    QCOMPARE(crumbs(*bar), QStringList("a"));
+    QVERIFY(pressed);
+    QVERIFY(pressed->isHidden());
+    QTest::mouseRelease(bar.get(), Qt::RightButton);
+    QTRY_VERIFY(!pressed);
+}
+
+void tst_BreadCrumbsWidget::followingALeftPressDeletesAllAtOnce()
+{
+    const auto bar = barAt(QStringLiteral("/data/a/b"));
+    const QPointer<QWidget> pressed(bar->layout()->itemAt(2)->widget());
+    bool gone = false;
+    connect(bar.get(), &BreadCrumbsWidget::dirChanged, this, [&](const QString& path) {
+        bar->changeDir(path);
+        gone = pressed.isNull();
+    });
+    QTest::mousePress(pressed.data(), Qt::LeftButton);
+    QVERIFY(gone);
+}
+
+void tst_BreadCrumbsWidget::refreshWithTheRightButtonDown()
+{
+    const auto bar = barAt(QStringLiteral("/data/a"));
+    const QPointer<QWidget> label(bar->layout()->itemAt(2)->widget());
+    QTest::mousePress(label.data(), Qt::RightButton);
+    bar->refresh(); // the press has been dealt with
+    QVERIFY(label.isNull());
+    QTest::mouseRelease(bar.get(), Qt::RightButton);
 }
 
 void tst_BreadCrumbsWidget::pressReportsAtOnce()
