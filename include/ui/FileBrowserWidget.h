@@ -2,7 +2,6 @@
 
 #include "platform_widgets_export.h"
 
-#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
@@ -120,8 +119,8 @@ private:
     void changeRoot(int index);
     void openDirectory(const QString& path);
 
-    QPointer<FileSystemModel> m_model; // owned; a program may delete it before
-    QPointer<BreadCrumbsWidget> m_breadCrumbs; // a program may delete it in dirChanged()
+    FileSystemModel* m_model; // owned, without a parent; null once a program has deleted it
+    BreadCrumbsWidget* m_breadCrumbs; // null likewise, as in a slot of dirChanged()
     QComboBox* m_rootCombo;
     QListView* m_tileView;
     QTreeView* m_listView;

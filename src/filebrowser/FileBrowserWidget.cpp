@@ -52,12 +52,14 @@ void setUpHeader(QHeaderView* header)
 FileBrowserWidget::FileBrowserWidget(QWidget* parent)
     : QWidget(parent)
     , m_model(new FileSystemModel)
+    , m_breadCrumbs(nullptr)
     , m_rootCombo(new QComboBox(this))
     , m_tileView(new QListView(this))
     , m_listView(new QTreeView(this))
     , m_selectionMode(SingleSelection)
 {
     setObjectName(QStringLiteral("FileBrowser"));
+    connect(m_model, &QObject::destroyed, this, [this] { m_model = nullptr; });
     m_model->setFilter(QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot);
     m_model->setRootPath(QStringLiteral("~")); // a name like any other, not the home directory
     useFileBrowserFont(m_rootCombo);
@@ -72,6 +74,9 @@ FileBrowserWidget::FileBrowserWidget(QWidget* parent)
 FileBrowserWidget::~FileBrowserWidget()
 {
     delete m_model;
+    // The base class deletes the children, at a time when they must not report here any more.
+    for (const QObject* child : children())
+        child->disconnect(this);
 }
 
 QHBoxLayout* FileBrowserWidget::createNavBar()
@@ -86,6 +91,7 @@ QHBoxLayout* FileBrowserWidget::createNavBar()
 
     m_breadCrumbs = new BreadCrumbsWidget(this);
     connect(m_breadCrumbs, &BreadCrumbsWidget::dirChanged, this, &FileBrowserWidget::openDirectory);
+    connect(m_breadCrumbs, &QObject::destroyed, this, [this] { m_breadCrumbs = nullptr; });
     layout->addWidget(m_breadCrumbs, 1);
     layout->addStretch(0);
 
