@@ -219,7 +219,7 @@ QStringList FileBrowserWidget::selectedFiles() const
         view = m_tileView;
 
     QStringList files;
-    const QModelIndexList rows = SelectionSnapshot(view->selectionModel()).rows();
+    const QModelIndexList rows = SelectionSnapshot(view->selectionModel(), m_model).rows();
     for (const QModelIndex& row : rows)
         files.append(m_model->filePath(row));
     return files;

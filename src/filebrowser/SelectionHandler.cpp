@@ -47,7 +47,7 @@ SelectionHandler::Run SelectionHandler::startRun() const
     Run run;
     if (!m_browser || !m_model || !m_tileView)
         return run;
-    const QModelIndexList rows = SelectionSnapshot(m_tileView->selectionModel()).rows();
+    const QModelIndexList rows = SelectionSnapshot(m_tileView->selectionModel(), m_model).rows();
     if (rows.size() == 1 && m_model->isDir(rows.first())) {
         const QString path = m_model->filePath(rows.first());
         if (!path.isEmpty())
@@ -68,7 +68,7 @@ bool SelectionHandler::deselectNext(Run& run)
         return false;
     // A run that has only just begun found all of its directories selected.
     const bool justBegun = run.next == 0;
-    const SelectionSnapshot snapshot(justBegun ? nullptr : m_tileView->selectionModel());
+    const SelectionSnapshot snapshot(justBegun ? nullptr : m_tileView->selectionModel(), m_model);
     while (run.next < run.directories.size()) {
         const QModelIndex directory = run.directories.at(run.next++);
         if (!directory.isValid() || !m_model->isDir(directory))

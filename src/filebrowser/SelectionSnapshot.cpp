@@ -16,10 +16,11 @@ quint64 columnBits(int first, int last)
 
 } // namespace
 
-SelectionSnapshot::SelectionSnapshot(const QItemSelectionModel* selectionModel)
-    : m_selectionModel(selectionModel)
+SelectionSnapshot::SelectionSnapshot(const QItemSelectionModel* selectionModel,
+                                     const QAbstractItemModel* model)
+    : m_model(model)
 {
-    if (!selectionModel || !selectionModel->model())
+    if (!selectionModel || !model || selectionModel->model() != model)
         return;
     for (const QItemSelectionRange& range : selectionModel->selection()) {
         if (range.topLeft().isValid()) // range.isValid() compares parents, which take time to find
@@ -31,9 +32,8 @@ QModelIndexList SelectionSnapshot::rows() const
 {
     QModelIndexList result;
     for (const Row& row : m_rows) {
-        const QAbstractItemModel* model = m_selectionModel->model();
-        if (m_columns.value(row) == columnBits(0, model->columnCount(row.first) - 1))
-            result.append(model->index(row.second, 0, row.first));
+        if (m_columns.value(row) == columnBits(0, m_model->columnCount(row.first) - 1))
+            result.append(m_model->index(row.second, 0, row.first));
     }
     return result;
 }

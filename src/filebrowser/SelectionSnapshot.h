@@ -6,6 +6,7 @@
 #include <QVector>
 
 QT_BEGIN_NAMESPACE
+class QAbstractItemModel;
 class QItemSelectionModel;
 class QItemSelectionRange;
 QT_END_NAMESPACE
@@ -22,8 +23,8 @@ namespace ui {
 class SelectionSnapshot
 {
 public:
-    /// Empty if \a selectionModel is null or has lost its model.
-    explicit SelectionSnapshot(const QItemSelectionModel* selectionModel);
+    /// Empty if one is null, or \a selectionModel has another model: a program may give a view its own.
+    SelectionSnapshot(const QItemSelectionModel* selectionModel, const QAbstractItemModel* model);
 
     /// The indexes in column 0 of the rows selected in all columns: those of selectedRows(), in its order.
     QModelIndexList rows() const;
@@ -36,7 +37,7 @@ private:
 
     void add(const QItemSelectionRange& range);
 
-    const QItemSelectionModel* m_selectionModel;
+    const QAbstractItemModel* m_model;
     QVector<Row> m_rows; ///< In the order of the ranges.
     QHash<Row, quint64> m_columns; ///< The selected columns of each row, one bit each.
 };

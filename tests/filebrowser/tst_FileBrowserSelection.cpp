@@ -9,6 +9,7 @@
 #include <QListView>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QStandardItemModel>
 #include <QTreeView>
 
 #include <memory>
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void browserDeletedLaterByAClick();
     void modelDeletedInTheSlot();
     void barDeletedInTheSlot();
+    void viewWithAModelOfTheProgram();
     void selectedDirectoryRemoved();
     void modelEmptiedUnderASelection();
 
@@ -371,6 +373,21 @@ void tst_FileBrowserSelection::barDeletedInTheSlot()
     select({"alpha", "beta", "gamma"});
     QCOMPARE(m_browser->currentPath(), m_tree->path(QStringLiteral("gamma")));
     QCOMPARE(m_changes, 4);
+}
+
+void tst_FileBrowserSelection::viewWithAModelOfTheProgram()
+{
+    QStandardItemModel other(2, m_parts->model->columnCount());
+    m_parts->tileView->setModel(&other);
+    m_parts->tileView->setRootIndex(QModelIndex());
+    m_parts->tileView->selectionModel()->select(
+        other.index(0, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    selectEntries(*m_parts->listView, {"one"}); // has the handler read the tile view
+    QCOMPARE(m_changes, 1);
+    QCOMPARE(m_browser->currentPath(), m_tree->path());
+    QCOMPARE(m_browser->selectedFiles(), QStringList());
+    delete m_parts->model;
+    QCOMPARE(m_browser->selectedFiles(), QStringList());
 }
 
 void tst_FileBrowserSelection::selectedDirectoryRemoved()
