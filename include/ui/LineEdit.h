@@ -28,6 +28,9 @@ namespace ui {
  * ui--LineEdit[inputValid="false"] { color: red; }
  * @endcode
  *
+ * A screen reader hears of it as well: while "inputValid" is false, the field's accessible description
+ * begins with "Invalid input", before what the application says there.
+ *
  * The field takes the focus from a click or tap only and opens no context menu. It paints what
  * QLineEdit paints, from the same palette roles. Its nearest neighbour is QLineEdit, which keeps what
  * was typed when it loses the focus and which lets the validator refuse Return and Enter: here OK does

@@ -1,5 +1,7 @@
 #include "ui/LineEdit.h"
 
+#include "../frame/accessibility/InvalidInputNote.h"
+
 #include <QKeyEvent>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -33,6 +35,7 @@ LineEdit::LineEdit(QWidget* parent)
     connect(this, &LineEdit::signalOkKey, this, &LineEdit::onOkKey);
     connect(this, &QLineEdit::returnPressed, this, &LineEdit::onOkKey);
     connect(this, &LineEdit::signalCancelKey, this, &LineEdit::onCancelKey);
+    new InvalidInputNote(this);
 }
 
 LineEdit::~LineEdit() = default;
