@@ -58,7 +58,7 @@ platform_describe_package(development platform-widgets-dev
 platform_describe_package(gallery platform-widgets-gallery
     SUMMARY "touch-screen widgets for Qt 5 - gallery"
     SECTION x11
-    DEPENDS "platform-widgets ${same_version}" fonts-dejavu-core)
+    DEPENDS "platform-widgets ${same_version}" fonts-dejavu-core qttranslations5-l10n)
 platform_describe_package(designer platform-widgets-designer
     SUMMARY "touch-screen widgets for Qt 5 - plugin for Qt Designer"
     SECTION devel

@@ -12,11 +12,6 @@
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("GalleryOptions", text);
-}
-
 QStringList pageIds()
 {
     QStringList ids;
@@ -33,19 +28,21 @@ const QString styleSheetName = QStringLiteral("style-sheet");
 
 void describe(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(tr("Shows every widget of the library live."));
+    parser.setApplicationDescription(GalleryOptions::tr("Shows every widget of the library live."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({screenshotsName,
-                      tr("Render every page to PNG files in DIR and print their paths."),
-                      QStringLiteral("DIR")});
     parser.addOption(
-        {styleSheetName, tr("Apply the application style sheet FILE."), QStringLiteral("FILE")});
-    parser.addOption(
-        {pageName, tr("Show the page ID first, or render that page alone."), QStringLiteral("ID")});
-    parser.addOption({listPagesName, tr("List the pages: id and title.")});
+        {screenshotsName,
+         GalleryOptions::tr("Render every page to PNG files in DIR and print their paths."),
+         QStringLiteral("DIR")});
+    parser.addOption({styleSheetName, GalleryOptions::tr("Apply the application style sheet FILE."),
+                      QStringLiteral("FILE")});
+    parser.addOption({pageName,
+                      GalleryOptions::tr("Show the page ID first, or render that page alone."),
+                      QStringLiteral("ID")});
+    parser.addOption({listPagesName, GalleryOptions::tr("List the pages: id and title.")});
     parser.addPositionalArgument(QStringLiteral("directory"),
-                                 tr("A root directory of the file browser page."),
+                                 GalleryOptions::tr("A root directory of the file browser page."),
                                  QStringLiteral("[directory...]"));
 }
 

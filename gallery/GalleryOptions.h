@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +11,9 @@ QT_END_NAMESPACE
 /// What the command line asks for.
 struct GalleryOptions
 {
+    Q_DECLARE_TR_FUNCTIONS(GalleryOptions)
+
+public:
     bool listPages = false;
     QString page; ///< Id of the page; empty for the first one, or for every one in screenshots.
     QString screenshots; ///< Directory to render the pages to; a window is opened if empty.

@@ -13,10 +13,10 @@ static void registerResources()
 
 namespace {
 
-QString tr(const char* text)
+struct StyleSheetFile
 {
-    return QCoreApplication::translate("StyleSheetFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(StyleSheetFile)
+};
 
 bool parsingFailed = false;
 
@@ -54,16 +54,18 @@ std::optional<QString> readStyleSheet(const QString& path, QString* error)
     const QString name = QDir::toNativeSeparators(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = tr("cannot read the style sheet \"%1\": %2").arg(name, file.errorString());
+        *error = StyleSheetFile::tr("cannot read the style sheet \"%1\": %2")
+                     .arg(name, file.errorString());
         return std::nullopt;
     }
     const QString styleSheet = QString::fromUtf8(file.readAll());
     if (file.error() != QFile::NoError) {
-        *error = tr("cannot read the style sheet \"%1\": %2").arg(name, file.errorString());
+        *error = StyleSheetFile::tr("cannot read the style sheet \"%1\": %2")
+                     .arg(name, file.errorString());
         return std::nullopt;
     }
     if (!isWellFormed(styleSheet)) {
-        *error = tr("\"%1\" is not a well-formed style sheet").arg(name);
+        *error = StyleSheetFile::tr("\"%1\" is not a well-formed style sheet").arg(name);
         return std::nullopt;
     }
     return styleSheet;

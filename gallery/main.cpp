@@ -4,9 +4,11 @@
 #include "GalleryWindow.h"
 #include "pages/AllPages.h"
 #include "Screenshots.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QTextStream>
 
 #include <algorithm>
@@ -14,10 +16,10 @@
 
 namespace {
 
-QString tr(const char* text)
+struct Main
 {
-    return QCoreApplication::translate("main", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Main)
+};
 
 int fail(const QString& message)
 {
@@ -52,7 +54,8 @@ int renderPages(const GalleryOptions& options, const QString& path)
 {
     const QDir directory(path);
     if (!directory.mkpath(QStringLiteral(".")))
-        return fail(tr("cannot make the directory \"%1\"").arg(QDir::toNativeSeparators(path)));
+        return fail(
+            Main::tr("cannot make the directory \"%1\"").arg(QDir::toNativeSeparators(path)));
 
     QVector<PageEntry> pages = allPages();
     pages.erase(std::remove_if(pages.begin(), pages.end(),
@@ -90,6 +93,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("platform-widgets-gallery"));
     QApplication::setApplicationVersion(QStringLiteral(GALLERY_VERSION));
+    installTranslations(QLocale());
 
     GalleryOptions options;
     QString error;
@@ -105,7 +109,7 @@ int main(int argc, char* argv[])
         return openWindow(options);
 
     const QString path = QDir::current().absoluteFilePath(QStringLiteral("gallery-screenshots"));
-    QTextStream(stderr) << tr("There is no display. The pages are rendered to \"%1\":").arg(path)
-                        << Qt::endl;
+    QTextStream(stderr)
+        << Main::tr("There is no display. The pages are rendered to \"%1\":").arg(path) << Qt::endl;
     return renderPages(options, path);
 }

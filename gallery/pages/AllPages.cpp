@@ -21,24 +21,25 @@ GalleryPage* make(QWidget* parent)
     return new Page(parent);
 }
 
-QString tr(const char* title)
+struct Gallery
 {
-    return QCoreApplication::translate("Gallery", title);
-}
+    Q_DECLARE_TR_FUNCTIONS(Gallery)
+};
 
 } // namespace
 
 QVector<PageEntry> allPages()
 {
     return {
-        {QStringLiteral("overview"), tr("Overview"), make<OverviewPage>},
-        {QStringLiteral("frames"), tr("Frames"), make<FramesPage>},
-        {QStringLiteral("grid-button"), tr("Grid button"), make<GridButtonPage>},
-        {QStringLiteral("switch"), tr("Switch"), make<SwitchPage>},
-        {QStringLiteral("text-entry"), tr("Text entry"), make<TextEntryPage>},
-        {QStringLiteral("battery"), tr("Battery"), make<BatteryPage>},
-        {QStringLiteral("scroll-indicator"), tr("Scroll indicator"), make<ScrollIndicatorPage>},
-        {QStringLiteral("animation"), tr("Animation"), make<AnimationPage>},
-        {QStringLiteral("file-browser"), tr("File browser"), make<FileBrowserPage>},
+        {QStringLiteral("overview"), Gallery::tr("Overview"), make<OverviewPage>},
+        {QStringLiteral("frames"), Gallery::tr("Frames"), make<FramesPage>},
+        {QStringLiteral("grid-button"), Gallery::tr("Grid button"), make<GridButtonPage>},
+        {QStringLiteral("switch"), Gallery::tr("Switch"), make<SwitchPage>},
+        {QStringLiteral("text-entry"), Gallery::tr("Text entry"), make<TextEntryPage>},
+        {QStringLiteral("battery"), Gallery::tr("Battery"), make<BatteryPage>},
+        {QStringLiteral("scroll-indicator"), Gallery::tr("Scroll indicator"),
+         make<ScrollIndicatorPage>},
+        {QStringLiteral("animation"), Gallery::tr("Animation"), make<AnimationPage>},
+        {QStringLiteral("file-browser"), Gallery::tr("File browser"), make<FileBrowserPage>},
     };
 }

@@ -93,7 +93,7 @@ KeypadLineEdit* TextEntryPage::makeTemperature()
     auto* validator = new QDoubleValidator(lowestTemperature, highestTemperature, 1, nullptr);
     validator->setNotation(QDoubleValidator::StandardNotation);
     const QString title =
-        tr("Temperature, %1 to %2 \u00b0C").arg(lowestTemperature).arg(highestTemperature);
+        tr("Temperature, %1 to %2 °C").arg(lowestTemperature).arg(highestTemperature);
     KeypadLineEdit* field = makeField(title, KeyboardType::Decimal, validator);
     field->setText(QLocale().toString(21.5, 'f', 1));
     return field;

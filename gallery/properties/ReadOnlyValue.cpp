@@ -11,6 +11,8 @@ ReadOnlyValue::ReadOnlyValue(QWidget* parent)
 {
     m_label->setTextFormat(Qt::PlainText);
     m_label->setWordWrap(true);
+    // A word that is too long, as some debug output is, does not make the whole list too wide.
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_label->setEnabled(false); // the look of what cannot be changed
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

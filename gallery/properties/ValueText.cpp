@@ -10,10 +10,10 @@ namespace {
 /// A longer text would push everything else off a small screen.
 constexpr int maximumLength = 80;
 
-QString tr(const char* text)
+struct ValueText
 {
-    return QCoreApplication::translate("ValueText", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ValueText)
+};
 
 QString text(const QPoint& point)
 {
@@ -28,7 +28,7 @@ QString text(const QSize& size)
 QString text(const QObject* object)
 {
     if (!object)
-        return tr("none");
+        return ValueText::tr("none");
     const QString className = QString::fromLatin1(object->metaObject()->className());
     return object->objectName().isEmpty()
         ? className
@@ -50,13 +50,14 @@ QString fullText(const QVariant& value)
 {
     switch (value.userType()) {
     case QMetaType::UnknownType:
-        return tr("none");
+        return ValueText::tr("none");
     case QMetaType::QPoint:
         return text(value.toPoint());
     case QMetaType::QSize:
         return text(value.toSize());
     case QMetaType::QRect:
-        return tr("%1 at %2").arg(text(value.toRect().size()), text(value.toRect().topLeft()));
+        return ValueText::tr("%1 at %2")
+            .arg(text(value.toRect().size()), text(value.toRect().topLeft()));
     default:
         break;
     }

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void help();
     void version();
     void listsPages();
+    void listsPagesInGerman();
     void rejects_data();
     void rejects();
     void rejectsMalformedStyleSheet();
@@ -102,6 +103,17 @@ void tst_GalleryOptions::listsPages()
     const Outcome outcome = run({QStringLiteral("--list-pages")});
     QCOMPARE(outcome.exitCode, 0);
     QVERIFY(outcome.output.startsWith(QStringLiteral("overview\tOverview\n")));
+}
+
+void tst_GalleryOptions::listsPagesInGerman()
+{
+    QProcess process;
+    QProcessEnvironment variables = environment();
+    variables.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+    process.setProcessEnvironment(variables);
+    start(process, {QStringLiteral("--list-pages")});
+    QVERIFY(process.waitForFinished(120000));
+    QVERIFY(process.readAllStandardOutput().contains("frames\tRahmen\n"));
 }
 
 void tst_GalleryOptions::rejects_data()

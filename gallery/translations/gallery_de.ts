@@ -1,0 +1,655 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AnimationEditor</name>
+    <message>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
+    </message>
+</context>
+<context>
+    <name>AnimationPage</name>
+    <message>
+        <source>Each animation runs to its end, turns round and runs back.</source>
+        <translation>Jede Animation läuft bis zum Ende, kehrt um und läuft zurück.</translation>
+    </message>
+    <message>
+        <source>Pulsing light</source>
+        <translation>Pulsierendes Licht</translation>
+    </message>
+    <message>
+        <source>Sweeping bar</source>
+        <translation>Wandernder Balken</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Running forwards</source>
+        <translation>Läuft vorwärts</translation>
+    </message>
+    <message>
+        <source>Running backwards</source>
+        <translation>Läuft rückwärts</translation>
+    </message>
+</context>
+<context>
+    <name>BatteryPage</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>This machine</source>
+        <translation>Dieses Gerät</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Lädt</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Rahmen %1</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Try me</source>
+        <translation>Probier mich</translation>
+    </message>
+    <message>
+        <source>Height for width</source>
+        <translation>Höhe nach Breite</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Vorhanden</translation>
+    </message>
+</context>
+<context>
+    <name>ColorEditor</name>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+</context>
+<context>
+    <name>FileBrowserPage</name>
+    <message>
+        <source>File browser</source>
+        <translation>Dateibrowser</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>Select one</source>
+        <translation>Eine auswählen</translation>
+    </message>
+    <message>
+        <source>Select several</source>
+        <translation>Mehrere auswählen</translation>
+    </message>
+    <message>
+        <source>Nothing is selected</source>
+        <translation>Nichts ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Ausgewählt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FlagsEditor</name>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+</context>
+<context>
+    <name>FontEditor</name>
+    <message>
+        <source>%1, %2 px</source>
+        <translation>%1, %2 px</translation>
+    </message>
+    <message>
+        <source>%1, %2 pt</source>
+        <translation>%1, %2 pt</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Unterstrichen</translation>
+    </message>
+</context>
+<context>
+    <name>FramesPage</name>
+    <message>
+        <source>Plain</source>
+        <translation>Flach</translation>
+    </message>
+    <message>
+        <source>Raised</source>
+        <translation>Erhaben</translation>
+    </message>
+    <message>
+        <source>Sunken</source>
+        <translation>Vertieft</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation>Gefüllt</translation>
+    </message>
+    <message>
+        <source>Masked</source>
+        <translation>Maskiert</translation>
+    </message>
+    <message>
+        <source>The corners are cut off, and what lies in them.</source>
+        <translation>Die Ecken sind abgeschnitten und mit ihnen, was darin liegt.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery</name>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Grid button</source>
+        <translation>Rasterknopf</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Schalter</translation>
+    </message>
+    <message>
+        <source>Text entry</source>
+        <translation>Texteingabe</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Akku</translation>
+    </message>
+    <message>
+        <source>Scroll indicator</source>
+        <translation>Rollanzeige</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>File browser</source>
+        <translation>Dateibrowser</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryOptions</name>
+    <message>
+        <source>Shows every widget of the library live.</source>
+        <translation>Zeigt alle Widgets der Bibliothek in Aktion.</translation>
+    </message>
+    <message>
+        <source>Render every page to PNG files in DIR and print their paths.</source>
+        <translation>Jede Seite in PNG-Dateien im Verzeichnis DIR abbilden und deren Pfade ausgeben.</translation>
+    </message>
+    <message>
+        <source>Apply the application style sheet FILE.</source>
+        <translation>Das Stylesheet FILE auf die Anwendung anwenden.</translation>
+    </message>
+    <message>
+        <source>Show the page ID first, or render that page alone.</source>
+        <translation>Die Seite ID zuerst zeigen oder nur diese Seite abbilden.</translation>
+    </message>
+    <message>
+        <source>List the pages: id and title.</source>
+        <translation>Die Seiten auflisten: ID und Titel.</translation>
+    </message>
+    <message>
+        <source>A root directory of the file browser page.</source>
+        <translation>Ein Wurzelverzeichnis der Seite „Dateibrowser“.</translation>
+    </message>
+    <message>
+        <source>--screenshots needs the name of a directory</source>
+        <translation>--screenshots braucht den Namen eines Verzeichnisses</translation>
+    </message>
+    <message>
+        <source>there is no page &quot;%1&quot;; the pages are: %2</source>
+        <translation>die Seite „%1“ gibt es nicht; die Seiten sind: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a directory</source>
+        <translation>„%1“ ist kein Verzeichnis</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>Widget Gallery</source>
+        <translation>Widget-Galerie</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Stylesheet</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+</context>
+<context>
+    <name>GridButtonPage</name>
+    <message>
+        <source>Tap a button anywhere, its labels included.</source>
+        <translation>Tippen Sie irgendwo auf einen Knopf, auch auf seine Beschriftung.</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>USB stick</source>
+        <translation>USB-Stick</translation>
+    </message>
+    <message>
+        <source>12.4 GB</source>
+        <translation>12,4 GB</translation>
+    </message>
+    <message>
+        <source>free of 16 GB</source>
+        <translation>von 16 GB frei</translation>
+    </message>
+    <message>
+        <source>You tapped &quot;%1&quot;.</source>
+        <translation>Angetippt: „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>KeypadLayout</name>
+    <message>
+        <source>Decimal separator</source>
+        <translation>Dezimaltrennzeichen</translation>
+    </message>
+    <message>
+        <source>Minus</source>
+        <translation>Minus</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rückschritt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>abc/123</source>
+        <translation>abc/123</translation>
+    </message>
+    <message>
+        <source>Letters or digits and symbols</source>
+        <translation>Buchstaben oder Ziffern und Zeichen</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbruch</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>cannot make the directory &quot;%1&quot;</source>
+        <translation>das Verzeichnis „%1“ lässt sich nicht anlegen</translation>
+    </message>
+    <message>
+        <source>There is no display. The pages are rendered to &quot;%1&quot;:</source>
+        <translation>Es gibt keinen Bildschirm. Die Seiten werden in „%1“ abgebildet:</translation>
+    </message>
+</context>
+<context>
+    <name>OverviewPage</name>
+    <message>
+        <source>Fifteen Qt widgets for touch-screen applications: frames and layout containers, status indicators, text entry with an on-screen keypad, animated switches and a file browser.</source>
+        <translation>Fünfzehn Qt-Widgets für Anwendungen mit Touchscreen: Rahmen und Container, Statusanzeigen, Texteingabe mit Bildschirmtastatur, animierte Schalter und ein Dateibrowser.</translation>
+    </message>
+    <message>
+        <source>Choose a page. Tap a widget of the page to edit its properties, and use the switches above to see it in a dark palette, mirrored, disabled or with a style sheet.</source>
+        <translation>Wählen Sie eine Seite. Tippen Sie auf ein Widget, um seine Eigenschaften zu bearbeiten; die Schalter oben zeigen es in dunklen Farben, gespiegelt, gesperrt oder mit einem Stylesheet.</translation>
+    </message>
+    <message>
+        <source>Icons of the library:</source>
+        <translation>Symbole der Bibliothek:</translation>
+    </message>
+    <message>
+        <source>Qt %1, platform plugin &quot;%2&quot;</source>
+        <translation>Qt %1, Plattform-Plugin „%2“</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEditor</name>
+    <message>
+        <source>Dynamic properties</source>
+        <translation>Dynamische Eigenschaften</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshots</name>
+    <message>
+        <source>cannot write &quot;%1&quot;</source>
+        <translation>„%1“ lässt sich nicht schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>ScrollIndicatorPage</name>
+    <message>
+        <source>Track %1</source>
+        <translation>Titel %1</translation>
+    </message>
+    <message>
+        <source>Drag the list and the picture: their indicators light up while they move.</source>
+        <translation>Ziehen Sie die Liste und das Bild: Ihre Anzeigen leuchten auf, solange sie sich bewegen.</translation>
+    </message>
+    <message>
+        <source>Vertical indicator</source>
+        <translation>Senkrechte Anzeige</translation>
+    </message>
+    <message>
+        <source>Horizontal indicator</source>
+        <translation>Waagrechte Anzeige</translation>
+    </message>
+</context>
+<context>
+    <name>StyleSheetFile</name>
+    <message>
+        <source>cannot read the style sheet &quot;%1&quot;: %2</source>
+        <translation>das Stylesheet „%1“ lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a well-formed style sheet</source>
+        <translation>„%1“ ist kein wohlgeformtes Stylesheet</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchPage</name>
+    <message>
+        <source>As it comes: off, on, disabled</source>
+        <translation>Im Urzustand: aus, ein, gesperrt</translation>
+    </message>
+    <message>
+        <source>With a label</source>
+        <translation>Mit Beschriftung</translation>
+    </message>
+    <message>
+        <source>Colours, times and directions</source>
+        <translation>Farben, Zeiten und Richtungen</translation>
+    </message>
+    <message>
+        <source>One of three</source>
+        <translation>Eins von dreien</translation>
+    </message>
+    <message>
+        <source>Plain, on</source>
+        <translation>Schlicht, ein</translation>
+    </message>
+    <message>
+        <source>Plain, off</source>
+        <translation>Schlicht, aus</translation>
+    </message>
+    <message>
+        <source>Plain, disabled and on</source>
+        <translation>Schlicht, gesperrt und ein</translation>
+    </message>
+    <message>
+        <source>Plain, disabled and off</source>
+        <translation>Schlicht, gesperrt und aus</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>Labelled, off</source>
+        <translation>Beschriftet, aus</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Labelled, on</source>
+        <translation>Beschriftet, ein</translation>
+    </message>
+    <message>
+        <source>Hotspot</source>
+        <translation>Hotspot</translation>
+    </message>
+    <message>
+        <source>Labelled, disabled and off</source>
+        <translation>Beschriftet, gesperrt und aus</translation>
+    </message>
+    <message>
+        <source>Firewall</source>
+        <translation>Firewall</translation>
+    </message>
+    <message>
+        <source>Labelled, disabled and on</source>
+        <translation>Beschriftet, gesperrt und ein</translation>
+    </message>
+    <message>
+        <source>Heating</source>
+        <translation>Heizung</translation>
+    </message>
+    <message>
+        <source>Coloured</source>
+        <translation>Farbig</translation>
+    </message>
+    <message>
+        <source>Slow and springy</source>
+        <translation>Langsam und federnd</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Langsam</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>Gruppe: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TextEntryPage</name>
+    <message>
+        <source>Tap a field. OK takes the value, Cancel and a tap elsewhere do not.</source>
+        <translation>Tippen Sie auf ein Feld. OK übernimmt den Wert, Abbruch und ein Tippen daneben nicht.</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Temperature, %1 to %2 °C</source>
+        <translation>Temperatur, %1 bis %2 °C</translation>
+    </message>
+    <message>
+        <source>Name, 2 to 20 characters</source>
+        <translation>Name, 2 bis 20 Zeichen</translation>
+    </message>
+    <message>
+        <source>Kitchen</source>
+        <translation>Küche</translation>
+    </message>
+    <message>
+        <source>PIN, 4 to 6 digits</source>
+        <translation>PIN, 4 bis 6 Ziffern</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TupleEditor</name>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+</context>
+<context>
+    <name>ValueText</name>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
+    </message>
+</context>
+<context>
+    <name>ui::CBatteryStatusWidget</name>
+    <message>
+        <source>Battery</source>
+        <translation>Akku</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>absent</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>charging</source>
+        <translation>lädt</translation>
+    </message>
+</context>
+<context>
+    <name>ui::LineEdit</name>
+    <message>
+        <source>Invalid input</source>
+        <translation>Ungültige Eingabe</translation>
+    </message>
+</context>
+</TS>
