@@ -11,6 +11,7 @@
 #include <ui/LineEdit.h>
 #include <ui/ScrollIndicatorBar.h>
 
+#include <QColor>
 #include <QCoreApplication>
 
 namespace {
@@ -30,15 +31,38 @@ QWidget* makeBreadCrumbs(QWidget* parent)
     return bar;
 }
 
-QString tr(const char* text)
+struct Designer
 {
-    return QCoreApplication::translate("Designer", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Designer)
+};
 
 QString stringProperty(const char* name, const QString& value)
 {
     return QStringLiteral("<property name=\"%1\"><string>%2</string></property>")
         .arg(QLatin1String(name), value);
+}
+
+QString colorProperty(const char* name, const QColor& color)
+{
+    return QStringLiteral(
+               "<property name=\"%1\"><color><red>%2</red><green>%3</green><blue>%4</blue>"
+               "</color></property>")
+        .arg(QLatin1String(name))
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue());
+}
+
+/// A switch has no colours of its own: without these it would be black.
+QString switchProperties()
+{
+    const QColor accent(80, 7, 120);
+    return stringProperty("text", Designer::tr("Switch")) + colorProperty("thumbOnBrush", accent)
+        + colorProperty("trackOnBrush", accent.lighter(250))
+        + colorProperty("thumbOffBrush", QColor(250, 250, 250))
+        + colorProperty("trackOffBrush", QColor(160, 160, 160))
+        + colorProperty("thumbDisabled", QColor(190, 190, 190))
+        + colorProperty("trackDisabled", QColor(220, 220, 220));
 }
 
 QString verticalOrientation()
@@ -53,13 +77,13 @@ QString icon(const char* stem)
 
 QVector<WidgetDescription> containers()
 {
-    const QString group = tr("Platform Containers");
+    const QString group = Designer::tr("Platform Containers");
     return {
         {QStringLiteral("ui::CRoundedFrame"),
          QStringLiteral("QWidget"),
          QStringLiteral("ui/CRoundedFrame.h"),
          group,
-         tr("Container with a rounded outline"),
+         Designer::tr("Container with a rounded outline"),
          icon("rounded-frame"),
          {200, 140},
          {},
@@ -69,7 +93,7 @@ QVector<WidgetDescription> containers()
          QStringLiteral("QPushButton"),
          QStringLiteral("ui/CGridArrangedButton.h"),
          group,
-         tr("Push button that carries a grid of widgets"),
+         Designer::tr("Push button that carries a grid of widgets"),
          icon("grid-button"),
          {160, 80},
          {},
@@ -80,13 +104,13 @@ QVector<WidgetDescription> containers()
 
 QVector<WidgetDescription> indicators()
 {
-    const QString group = tr("Platform Indicators");
+    const QString group = Designer::tr("Platform Indicators");
     return {
         {QStringLiteral("ui::CBatteryStatusWidget"),
          QStringLiteral("QWidget"),
          QStringLiteral("ui/CBatteryStatusWidget.h"),
          group,
-         tr("Battery symbol"),
+         Designer::tr("Battery symbol"),
          icon("battery"),
          {60, 100},
          {},
@@ -96,7 +120,7 @@ QVector<WidgetDescription> indicators()
          QStringLiteral("QScrollBar"),
          QStringLiteral("ui/ScrollIndicatorBar.h"),
          group,
-         tr("Thin scroll bar"),
+         Designer::tr("Thin scroll bar"),
          icon("scroll-indicator"),
          {5, 160},
          verticalOrientation(),
@@ -107,13 +131,13 @@ QVector<WidgetDescription> indicators()
 
 QVector<WidgetDescription> inputs()
 {
-    const QString group = tr("Platform Input");
+    const QString group = Designer::tr("Platform Input");
     return {
         {QStringLiteral("ui::LineEdit"),
          QStringLiteral("QLineEdit"),
          QStringLiteral("ui/LineEdit.h"),
          group,
-         tr("Line edit that commits on OK and reverts on Cancel"),
+         Designer::tr("Line edit that commits on OK and reverts on Cancel"),
          icon("line-edit"),
          {160, 40},
          {},
@@ -123,7 +147,7 @@ QVector<WidgetDescription> inputs()
          QStringLiteral("QLineEdit"),
          QStringLiteral("ui/KeypadLineEdit.h"),
          group,
-         tr("Line edit with an on-screen keypad"),
+         Designer::tr("Line edit with an on-screen keypad"),
          icon("keypad-line-edit"),
          {160, 40},
          {},
@@ -133,10 +157,10 @@ QVector<WidgetDescription> inputs()
          QStringLiteral("QAbstractButton"),
          QStringLiteral("Switch.h"),
          group,
-         tr("Animated on/off switch with a label"),
+         Designer::tr("Animated on/off switch with a label"),
          icon("switch"),
          {160, 40},
-         stringProperty("text", tr("Switch")),
+         switchProperties(),
          false,
          make<Switch>},
     };
@@ -144,13 +168,13 @@ QVector<WidgetDescription> inputs()
 
 QVector<WidgetDescription> fileBrowsing()
 {
-    const QString group = tr("Platform File Browsing");
+    const QString group = Designer::tr("Platform File Browsing");
     return {
         {QStringLiteral("ui::FileBrowserWidget"),
          QStringLiteral("QWidget"),
          QStringLiteral("ui/FileBrowserWidget.h"),
          group,
-         tr("File picker below allowed directories"),
+         Designer::tr("File picker below allowed directories"),
          icon("file-browser"),
          {400, 280},
          {},
@@ -160,7 +184,7 @@ QVector<WidgetDescription> fileBrowsing()
          QStringLiteral("QWidget"),
          QStringLiteral("BreadCrumbsWidget.h"),
          group,
-         tr("Path of clickable components"),
+         Designer::tr("Path of clickable components"),
          icon("bread-crumbs"),
          {240, 40},
          {},
@@ -170,10 +194,10 @@ QVector<WidgetDescription> fileBrowsing()
          QStringLiteral("QLabel"),
          QStringLiteral("ClickableLabel.h"),
          group,
-         tr("Label that reports a press"),
+         Designer::tr("Label that reports a press"),
          icon("clickable-label"),
          {120, 32},
-         stringProperty("text", tr("Label")),
+         stringProperty("text", Designer::tr("Label")),
          false,
          make<ClickableLabel>},
     };

@@ -50,7 +50,12 @@ QString WidgetPlugin::includeFile() const
 
 QIcon WidgetPlugin::icon() const
 {
-    return QIcon(m_description.icon);
+    // A scalable icon names no sizes, and the widget box shows Qt's logo in place of such icons.
+    const QIcon scalable(m_description.icon);
+    QIcon icon;
+    for (const int extent : {16, 24, 32, 48})
+        icon.addPixmap(scalable.pixmap(extent));
+    return icon;
 }
 
 bool WidgetPlugin::isContainer() const

@@ -105,7 +105,7 @@ void tst_DesignerPlugin::offersEveryWidget()
     QVERIFY((*found)->group().startsWith(QLatin1String("Platform")));
     QVERIFY(!(*found)->toolTip().isEmpty());
     QVERIFY2(headerExists((*found)->includeFile()), qPrintable((*found)->includeFile()));
-    QVERIFY(!(*found)->icon().pixmap(24, 24).isNull());
+    QVERIFY(!(*found)->icon().availableSizes().isEmpty()); // or the widget box shows Qt's logo
 
     QWidget parent;
     const QWidget* widget = (*found)->createWidget(&parent);
