@@ -22,13 +22,16 @@ QWidget* make(QWidget* parent)
     return new Widget(parent);
 }
 
-/// A bar that shows a path, so that the form gives an idea of it.
-QWidget* makeBreadCrumbs(QWidget* parent)
+void showPath(QWidget* widget)
 {
-    auto* bar = new BreadCrumbsWidget(parent);
+    auto* bar = static_cast<BreadCrumbsWidget*>(widget);
     bar->setRootPath(QStringLiteral("/"));
     bar->changeDir(QStringLiteral("/home/user"));
-    return bar;
+}
+
+void showCharge(QWidget* widget)
+{
+    static_cast<ui::CBatteryStatusWidget*>(widget)->setChargePercentage(60);
 }
 
 struct Designer
@@ -58,7 +61,7 @@ QString switchProperties()
 {
     const QColor accent(80, 7, 120);
     return stringProperty("text", Designer::tr("Switch")) + colorProperty("thumbOnBrush", accent)
-        + colorProperty("trackOnBrush", accent.lighter(250))
+        + colorProperty("trackOnBrush", QColor(183, 155, 198))
         + colorProperty("thumbOffBrush", QColor(250, 250, 250))
         + colorProperty("trackOffBrush", QColor(160, 160, 160))
         + colorProperty("thumbDisabled", QColor(190, 190, 190))
@@ -115,7 +118,8 @@ QVector<WidgetDescription> indicators()
          {60, 100},
          {},
          false,
-         make<ui::CBatteryStatusWidget>},
+         make<ui::CBatteryStatusWidget>,
+         showCharge},
         {QStringLiteral("ui::widgets::ScrollIndicatorBar"),
          QStringLiteral("QScrollBar"),
          QStringLiteral("ui/ScrollIndicatorBar.h"),
@@ -189,7 +193,8 @@ QVector<WidgetDescription> fileBrowsing()
          {240, 40},
          {},
          false,
-         makeBreadCrumbs},
+         make<BreadCrumbsWidget>,
+         showPath},
         {QStringLiteral("ClickableLabel"),
          QStringLiteral("QLabel"),
          QStringLiteral("ClickableLabel.h"),

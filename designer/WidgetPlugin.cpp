@@ -63,9 +63,22 @@ bool WidgetPlugin::isContainer() const
     return m_description.container;
 }
 
+bool WidgetPlugin::isInitialized() const
+{
+    return m_inDesigner;
+}
+
+void WidgetPlugin::initialize(QDesignerFormEditorInterface*)
+{
+    m_inDesigner = true;
+}
+
 QWidget* WidgetPlugin::createWidget(QWidget* parent)
 {
-    return m_description.create(parent);
+    QWidget* widget = m_description.create(parent);
+    if (m_inDesigner && m_description.illustrate)
+        m_description.illustrate(widget);
+    return widget;
 }
 
 QString WidgetPlugin::domXml() const

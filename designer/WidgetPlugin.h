@@ -16,6 +16,7 @@ struct WidgetDescription
     QString properties; ///< Property elements of the first look.
     bool container; ///< Whether widgets can be dropped into it.
     QWidget* (*create)(QWidget* parent);
+    void (*illustrate)(QWidget* widget) = nullptr; ///< Fills one that would be empty in Designer.
 };
 
 /// Offers one widget class to Designer and QUiLoader.
@@ -34,9 +35,12 @@ public:
     QString includeFile() const override;
     QIcon icon() const override;
     bool isContainer() const override;
+    bool isInitialized() const override;
+    void initialize(QDesignerFormEditorInterface* core) override;
     QWidget* createWidget(QWidget* parent) override;
     QString domXml() const override;
 
 private:
     WidgetDescription m_description;
+    bool m_inDesigner = false; // rather than in QUiLoader, where the application fills the widget
 };

@@ -68,6 +68,7 @@ class tst_DesignerPlugin : public QObject
 private Q_SLOTS:
     void offersEveryWidget_data();
     void offersEveryWidget();
+    void showsContentInDesignerOnly();
     void firstLookLoads_data();
     void firstLookLoads();
     void formThroughUic();
@@ -112,6 +113,19 @@ void tst_DesignerPlugin::offersEveryWidget()
     QVERIFY(widget);
     QCOMPARE(widget->parentWidget(), &parent);
     QCOMPARE(QLatin1String(widget->metaObject()->className()), className); // or Designer complains
+}
+
+void tst_DesignerPlugin::showsContentInDesignerOnly()
+{
+    const auto offered = offeredWidgets();
+    const auto crumbs = std::find_if(offered.begin(), offered.end(), [](auto* widget) {
+        return widget->name() == QLatin1String("BreadCrumbsWidget");
+    });
+    QVERIFY(crumbs != offered.end());
+    QWidget parent;
+    QVERIFY(!(*crumbs)->createWidget(&parent)->findChild<ClickableLabel*>());
+    (*crumbs)->initialize(nullptr);
+    QVERIFY((*crumbs)->createWidget(&parent)->findChild<ClickableLabel*>());
 }
 
 void tst_DesignerPlugin::firstLookLoads_data()
