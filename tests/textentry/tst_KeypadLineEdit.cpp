@@ -513,6 +513,7 @@ void tst_KeypadLineEdit::maxLengthKeepsTheSelection_data()
     QTest::addColumn<QString>("expected");
     QTest::newRow("all") << 0 << 8 << 20 << 0 << "abcdefgh";
     QTest::newRow("all, shortened") << 0 << 8 << 3 << 0 << "abc";
+    QTest::newRow("one character") << 4 << 1 << 20 << 4 << "e";
     QTest::newRow("middle") << 2 << 3 << 20 << 2 << "cde";
     QTest::newRow("middle, shortened") << 2 << 3 << 4 << 2 << "cd";
     QTest::newRow("selection cut off") << 5 << 3 << 5 << -1 << "";

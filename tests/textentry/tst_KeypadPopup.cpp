@@ -13,6 +13,7 @@
 #include <QLayout>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QValidator>
 
@@ -124,8 +125,10 @@ void tst_KeypadPopup::frame_data()
 void tst_KeypadPopup::frame()
 {
     QFETCH(QPalette, palette);
+    // A window takes after the application, not after its parent.
+    QApplication::setPalette(palette);
+    const auto restore = qScopeGuard([] { QApplication::setPalette(test::lightPalette()); });
     ui::LineEdit edit;
-    edit.setPalette(palette);
     const KeypadPopup popup(&edit, QString(), KeyboardType::Integer, -1);
     const QFrame* frame = frameOf(popup);
     QVERIFY(frame);

@@ -41,6 +41,8 @@ _EXCHANGES = {
 _NUMBER = re.compile(r"(?<![\w.])(0x[0-9a-fA-F]+|\d+\.\d*|\d+)(?=[uUlLfF]*(?![\w.]))")
 # What only asks for something later does the same a statement sooner.
 _LATER = re.compile(r"(update|updateGeometry)\(")
+# Two properties can be set, and two signals connected, in either order.
+_INDEPENDENT = [re.compile(r"(\w+(\.|->))?set[A-Z]\w*\("), re.compile(r"connect\(")]
 
 
 def _exchanges(code):
@@ -77,6 +79,11 @@ def _negations(code, text):
             yield Mutant("condition", match.end(), end, f"!({text[match.end():end]})")
 
 
+def _is_order_observable(first, second):
+    return not (_LATER.match(first) or _LATER.match(second)
+                or any(pattern.match(first) and pattern.match(second) for pattern in _INDEPENDENT))
+
+
 def _statements(code, text):
     previous = None
     for statement in statements(code):
@@ -84,7 +91,7 @@ def _statements(code, text):
             yield Mutant("dropped", statement.start, statement.end, ";")
         swappable = statement.is_expression() and not statement.controlled
         if swappable and previous and previous.block == statement.block \
-                and not (_LATER.match(previous.text) or _LATER.match(statement.text)):
+                and _is_order_observable(previous.text, statement.text):
             between = text[previous.end:statement.start]
             yield Mutant("order", previous.start, statement.end,
                          text[statement.start:statement.end] + between + text[previous.start:previous.end])
