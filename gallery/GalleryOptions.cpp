@@ -21,6 +21,7 @@ QStringList pageIds()
     return ids;
 }
 
+const QString classPicturesName = QStringLiteral("class-pictures");
 const QString listPagesName = QStringLiteral("list-pages");
 const QString pageName = QStringLiteral("page");
 const QString screenshotsName = QStringLiteral("screenshots");
@@ -31,6 +32,10 @@ void describe(QCommandLineParser& parser)
     parser.setApplicationDescription(GalleryOptions::tr("Shows every widget of the library live."));
     parser.addHelpOption();
     parser.addVersionOption();
+    parser.addOption({classPicturesName,
+                      GalleryOptions::tr("Render the states of every class, as the reference shows "
+                                         "them, to PNG files in DIR and print their paths."),
+                      QStringLiteral("DIR")});
     parser.addOption(
         {screenshotsName,
          GalleryOptions::tr("Render every page to PNG files in DIR and print their paths."),
@@ -59,11 +64,9 @@ bool GalleryOptions::read(QString* error)
 bool GalleryOptions::readValues(const QCommandLineParser& parser, QString* error)
 {
     listPages = parser.isSet(listPagesName);
-    screenshots = parser.value(screenshotsName);
-    if (parser.isSet(screenshotsName) && screenshots.isEmpty()) {
-        *error = tr("--screenshots needs the name of a directory");
+    if (!readTarget(parser, classPicturesName, &classPictures, error)
+        || !readTarget(parser, screenshotsName, &screenshots, error))
         return false;
-    }
     if (parser.isSet(styleSheetName)) {
         const auto text = readStyleSheet(parser.value(styleSheetName), error);
         if (!text)
@@ -73,6 +76,16 @@ bool GalleryOptions::readValues(const QCommandLineParser& parser, QString* error
     if (parser.isSet(pageName) && !readPage(parser.value(pageName), error))
         return false;
     return readDirectories(parser.positionalArguments(), error);
+}
+
+bool GalleryOptions::readTarget(const QCommandLineParser& parser, const QString& name,
+                                QString* path, QString* error)
+{
+    *path = parser.value(name);
+    const bool accepted = !parser.isSet(name) || !path->isEmpty();
+    if (!accepted)
+        *error = tr("--%1 needs the name of a directory").arg(name);
+    return accepted;
 }
 
 bool GalleryOptions::readPage(const QString& id, QString* error)
@@ -107,6 +120,7 @@ bool GalleryOptions::wantsWindow(int argc, const char* const* argv)
                                            QStringLiteral("--help-all"),
                                            QStringLiteral("-v"),
                                            QStringLiteral("--version"),
+                                           QStringLiteral("--") + classPicturesName,
                                            QStringLiteral("--") + listPagesName,
                                            QStringLiteral("--") + screenshotsName};
     return std::none_of(argv + qMin(argc, 1), argv + argc, [](const char* argument) {

@@ -16,6 +16,7 @@ struct GalleryOptions
 public:
     bool listPages = false;
     QString page; ///< Id of the page; empty for the first one, or for every one in screenshots.
+    QString classPictures; ///< Directory to render the pictures of the reference to; none if empty.
     QString screenshots; ///< Directory to render the pages to; a window is opened if empty.
     QString styleSheet; ///< Text of the style sheet; empty if none was named.
     QStringList directories; ///< Absolute paths.
@@ -33,6 +34,8 @@ public:
 
 private:
     bool readValues(const QCommandLineParser& parser, QString* error);
+    static bool readTarget(const QCommandLineParser& parser, const QString& name, QString* path,
+                           QString* error);
     bool readPage(const QString& id, QString* error);
     bool readDirectories(const QStringList& paths, QString* error);
 };

@@ -2,10 +2,10 @@
 
 #include "Appearance.h"
 #include "GalleryPage.h"
+#include "Rendering.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QTextStream>
 
@@ -21,9 +21,6 @@ struct Variant
 /// What the page gets in a gallery window of 800 x 480 without the property editor, and about as much
 /// height as it wants.
 constexpr QSize leastSize(600, 400);
-
-/// Time for what a page does by itself at its start: listing a folder, the first steps of an animation.
-constexpr int settlingTime = 200;
 
 QVector<Variant> variants(const QString& styleSheet)
 {
@@ -43,23 +40,6 @@ QSize sizeOf(const QWidget& page)
     return size;
 }
 
-void settle()
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!timer.hasExpired(settlingTime))
-        QCoreApplication::processEvents(QEventLoop::AllEvents, settlingTime);
-}
-
-QImage pictureOf(QWidget& widget, qreal devicePixelRatio)
-{
-    QImage image(widget.size() * devicePixelRatio, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(widget.palette().color(QPalette::Window));
-    widget.render(&image);
-    return image;
-}
-
 QImage picture(const PageEntry& entry, const Variant& variant)
 {
     variant.appearance.applyToApplication();
@@ -69,10 +49,8 @@ QImage picture(const PageEntry& entry, const Variant& variant)
     page->ensurePolished();
     page->resize(sizeOf(*page));
     stage.resize(page->size());
-    stage.setAttribute(Qt::WA_DontShowOnScreen);
-    stage.show();
-    settle();
-    return pictureOf(stage, variant.devicePixelRatio);
+    rendering::showUnseen(&stage);
+    return rendering::pictureOf(&stage, variant.devicePixelRatio);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "GalleryOptions.h"
 #include "GalleryWindow.h"
 #include "pages/AllPages.h"
+#include "reference/AllClassSheets.h"
+#include "reference/ClassPictures.h"
 #include "Screenshots.h"
 #include "Translations.h"
 
@@ -50,13 +52,26 @@ int listPages()
     return EXIT_SUCCESS;
 }
 
-int renderPages(const GalleryOptions& options, const QString& path)
+bool makeDirectory(const QDir& directory, QString* error)
 {
-    const QDir directory(path);
-    if (!directory.mkpath(QStringLiteral(".")))
-        return fail(
-            Main::tr("cannot make the directory \"%1\"").arg(QDir::toNativeSeparators(path)));
+    const bool made = directory.mkpath(QStringLiteral("."));
+    if (!made)
+        *error = Main::tr("cannot make the directory \"%1\"")
+                     .arg(QDir::toNativeSeparators(directory.path()));
+    return made;
+}
 
+int renderClasses(const QDir& directory)
+{
+    QTextStream out(stdout);
+    QString error;
+    const bool rendered = makeDirectory(directory, &error)
+        && takeClassPictures(allClassSheets(), directory, out, &error);
+    return rendered ? EXIT_SUCCESS : fail(error);
+}
+
+int renderPages(const GalleryOptions& options, const QDir& directory)
+{
     QVector<PageEntry> pages = allPages();
     pages.erase(std::remove_if(pages.begin(), pages.end(),
                                [&options](const PageEntry& entry) {
@@ -66,8 +81,9 @@ int renderPages(const GalleryOptions& options, const QString& path)
 
     QTextStream out(stdout);
     QString error;
-    return takeScreenshots(pages, directory, options.styleSheet, out, &error) ? EXIT_SUCCESS
-                                                                              : fail(error);
+    const bool rendered = makeDirectory(directory, &error)
+        && takeScreenshots(pages, directory, options.styleSheet, out, &error);
+    return rendered ? EXIT_SUCCESS : fail(error);
 }
 
 int openWindow(const GalleryOptions& options)
@@ -103,6 +119,8 @@ int main(int argc, char* argv[])
 
     if (options.listPages)
         return listPages();
+    if (!options.classPictures.isEmpty())
+        return renderClasses(options.classPictures);
     if (!options.screenshots.isEmpty())
         return renderPages(options, options.screenshots);
     if (canOpenWindow)

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void rejects();
     void rejectsMalformedStyleSheet();
     void rendersToDirectory();
+    void rendersClasses();
     void rendersOnePage();
     void rendersWithStyleSheet();
     void overridesNoPlatform();
@@ -86,8 +87,8 @@ void tst_GalleryOptions::help()
 {
     const Outcome outcome = run({QStringLiteral("--help")});
     QCOMPARE(outcome.exitCode, 0);
-    for (const char* option :
-         {"--screenshots", "--style-sheet", "--page", "--list-pages", "--version"})
+    for (const char* option : {"--class-pictures", "--screenshots", "--style-sheet", "--page",
+                               "--list-pages", "--version"})
         QVERIFY2(outcome.output.contains(QLatin1String(option)), option);
 }
 
@@ -130,6 +131,8 @@ void tst_GalleryOptions::rejects_data()
         QStringLiteral("there is no page \"nowhere\"; the pages are: overview"));
     row("no directory", {QStringLiteral("--screenshots=")},
         QStringLiteral("--screenshots needs the name of a directory"));
+    row("no directory for classes", {QStringLiteral("--class-pictures=")},
+        QStringLiteral("--class-pictures needs the name of a directory"));
     row("no style sheet", {QStringLiteral("--style-sheet"), QStringLiteral("missing.qss")},
         QStringLiteral("cannot read the style sheet \"missing.qss\""));
     row("no such argument", {QStringLiteral("missing")},
@@ -169,6 +172,18 @@ void tst_GalleryOptions::rendersToDirectory()
     QVERIFY(paths.size() >= 5);
     QCOMPARE(paths.constFirst(), QDir(path).filePath(QStringLiteral("overview-light.png")));
     QCOMPARE(QDir(path).entryList(QDir::Files).size(), paths.size());
+    for (const QString& file : paths)
+        QVERIFY2(!QImage(file).isNull(), qPrintable(file));
+}
+
+void tst_GalleryOptions::rendersClasses()
+{
+    const QDir directory(m_directory.filePath(QStringLiteral("classes")));
+    const Outcome outcome = run({QStringLiteral("--class-pictures"), directory.path()});
+    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
+    const QStringList paths = outcome.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QVERIFY(paths.contains(directory.filePath(QStringLiteral("Switch.png"))));
+    QCOMPARE(directory.entryList(QDir::Files).size(), paths.size());
     for (const QString& file : paths)
         QVERIFY2(!QImage(file).isNull(), qPrintable(file));
 }

@@ -1,0 +1,155 @@
+#include "TextSheets.h"
+
+#include "FieldPicture.h"
+
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+
+#include <QIntValidator>
+#include <QLabel>
+
+using ui::keyboard::KeyboardType;
+
+namespace {
+
+constexpr QSize fieldSize(200, 40);
+constexpr int highestPort = 65535;
+
+// Sections of the number keypads and of the text keypad.
+constexpr int numbers = 0;
+constexpr int letters = 0;
+constexpr int digits = 1;
+constexpr int symbols = 2;
+
+template <typename Field>
+Field* prepare(Field* field)
+{
+    field->setMinimumSize(fieldSize);
+    field->setText(QStringLiteral("8080"));
+    field->setValidator(new QIntValidator(1, highestPort, field));
+    return field;
+}
+
+/// So that text that is not acceptable can be told.
+template <typename Field>
+Field* dress(Field* field)
+{
+    field->setStyleSheet(
+        QStringLiteral("ui--LineEdit[inputValid=\"false\"],"
+                       "ui--KeypadLineEdit[inputValid=\"false\"] { color: #b00020; }"));
+    return field;
+}
+
+ui::LineEdit* makeField()
+{
+    return prepare(new ui::LineEdit);
+}
+
+ui::KeypadLineEdit* makeKeypadField()
+{
+    auto* field = prepare(new ui::KeypadLineEdit(nullptr, KeyboardType::Integer));
+    QObject::connect(field, &ui::KeypadLineEdit::startKeypad, field, [field] {
+        field->keypad()->setSubtitleLabel(TextSheets::tr("Port, 1 to %1").arg(highestPort));
+    });
+    return field;
+}
+
+template <typename Field>
+QWidget* makeDisabled(Field* field)
+{
+    field->setEnabled(false);
+    return field;
+}
+
+QWidget* makeLabel(const QPixmap& picture)
+{
+    auto* label = new QLabel;
+    label->setPixmap(picture);
+    return label;
+}
+
+auto edited(const QString& text)
+{
+    return [text] { return makeLabel(fieldpicture::edited(dress(makeField()), text)); };
+}
+
+auto editedByKeypad(const QString& text)
+{
+    return [text] { return makeLabel(fieldpicture::edited(dress(makeKeypadField()), text)); };
+}
+
+/// The pop-up by itself, once \a prepare has been called for it and its field.
+auto popup(KeyboardType type,
+           const std::function<void(ui::KeypadPopup*, ui::LineEdit*)>& prepare = nullptr)
+{
+    return [type, prepare] {
+        ui::LineEdit field;
+        ui::KeypadPopup popup(&field, TextSheets::tr("Subtitle"), type, -1);
+        if (prepare)
+            prepare(&popup, &field);
+        popup.resize(popup.sizeHint());
+        return makeLabel(popup.grab());
+    };
+}
+
+void showDigits(ui::KeypadPopup* popup, ui::LineEdit*)
+{
+    popup->setKeypadSectionVisible(letters, false);
+    popup->setKeypadSectionVisible(digits, true);
+    popup->setKeypadSectionVisible(symbols, true);
+}
+
+void hideNumbers(ui::KeypadPopup* popup, ui::LineEdit*)
+{
+    popup->setKeypadSectionVisible(numbers, false);
+}
+
+void refuseEntry(ui::KeypadPopup*, ui::LineEdit* field)
+{
+    Q_EMIT field->resultValidated(false);
+}
+
+} // namespace
+
+ClassSheet TextSheets::lineEdit()
+{
+    return {QStringLiteral("LineEdit"),
+            3,
+            {
+                {tr("At rest"), makeField},
+                {tr("With the focus: all is selected"), edited(QString())},
+                {tr("Acceptable text is typed"), edited(QStringLiteral("443"))},
+                {tr("Not acceptable, coloured by a style sheet"), edited(QStringLiteral("0"))},
+                {tr("Disabled"), [] { return makeDisabled(makeField()); }},
+                {tr("Dark palette"), makeField, ClassState::Dark},
+            }};
+}
+
+ClassSheet TextSheets::keypadLineEdit()
+{
+    return {QStringLiteral("KeypadLineEdit"),
+            3,
+            {
+                {tr("At rest"), makeKeypadField},
+                {tr("Disabled"), [] { return makeDisabled(makeKeypadField()); }},
+                {tr("Dark palette"), makeKeypadField, ClassState::Dark},
+                {tr("With the focus: the keypad is open"), editedByKeypad(QString())},
+                {tr("Acceptable text is typed"), editedByKeypad(QStringLiteral("443"))},
+                {tr("Not acceptable: OK is refused"), editedByKeypad(QStringLiteral("0"))},
+            }};
+}
+
+ClassSheet TextSheets::keypadPopup()
+{
+    return {
+        QStringLiteral("KeypadPopup"),
+        2,
+        {
+            {tr("Integer"), popup(KeyboardType::Integer)},
+            {tr("While the text is not acceptable"), popup(KeyboardType::Integer, refuseEntry)},
+            {tr("Decimal"), popup(KeyboardType::Decimal)},
+            {tr("Decimal, without its only section"), popup(KeyboardType::Decimal, hideNumbers)},
+            {tr("Text"), popup(KeyboardType::Text)},
+            {tr("Text, with other sections visible"), popup(KeyboardType::Text, showDigits)},
+        }};
+}

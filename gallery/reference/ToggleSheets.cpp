@@ -1,0 +1,118 @@
+#include "ToggleSheets.h"
+
+#include "Lamp.h"
+
+#include <Animator.h>
+#include <Switch.h>
+
+#include <QTimer>
+
+namespace {
+
+const QColor blue(33, 150, 243);
+constexpr int halfWay = 75; // of the 150 ms that a switch takes by default
+
+Switch* makePlain(bool on, bool enabled)
+{
+    auto* control = new Switch;
+    control->setChecked(on);
+    control->setEnabled(enabled);
+    return control;
+}
+
+auto plain(bool on, bool enabled)
+{
+    return [on, enabled] { return makePlain(on, enabled); };
+}
+
+Switch* makeColoured(bool on)
+{
+    auto* control = new Switch(ToggleSheets::tr("Wi-Fi"), blue);
+    control->setThumbOffBrush(QColor(250, 250, 250));
+    control->setTrackOffBrush(Qt::gray);
+    control->setTrackOffOpacity(0.6);
+    control->setThumbDisabled(QColor(190, 190, 190));
+    control->setTrackDisabled(Qt::gray);
+    control->setTrackDisabledOpacity(0.3);
+    control->setChecked(on); // after the colours
+    return control;
+}
+
+auto coloured(bool on)
+{
+    return [on] { return makeColoured(on); };
+}
+
+QWidget* makeDisabled()
+{
+    Switch* control = makeColoured(true);
+    control->setEnabled(false);
+    return control;
+}
+
+/// Labels stay black unless the application says otherwise.
+QWidget* makeDark()
+{
+    Switch* control = makeColoured(true);
+    QPalette palette = control->palette();
+    palette.setColor(QPalette::ButtonText, Qt::white);
+    control->setPalette(palette);
+    return control;
+}
+
+/// Moves once it is visible, and stops half way.
+QWidget* makeMoving()
+{
+    Switch* control = makeColoured(false);
+    QTimer::singleShot(0, control, [control] {
+        control->setChecked(true);
+        const QList<Animator*> animators = control->findChildren<Animator*>();
+        for (Animator* animator : animators) {
+            animator->pause();
+            animator->setCurrentTime(halfWay);
+        }
+    });
+    return control;
+}
+
+QWidget* makeLamp(bool on, bool enabled)
+{
+    auto* lamp = new Lamp;
+    lamp->setChecked(on);
+    lamp->setEnabled(enabled);
+    return lamp;
+}
+
+} // namespace
+
+ClassSheet ToggleSheets::switchControl()
+{
+    return {QStringLiteral("Switch"),
+            4,
+            {
+                {tr("As it comes: off"), plain(false, true)},
+                {tr("On"), plain(true, true)},
+                {tr("Disabled, off"), plain(false, false)},
+                {tr("Disabled, on"), plain(true, false)},
+                {tr("With label and colours: off"), coloured(false)},
+                {tr("Half way"), makeMoving},
+                {tr("On"), coloured(true)},
+                {tr("Disabled"), makeDisabled},
+                {tr("Right to left, off"), coloured(false), ClassState::Light, Qt::RightToLeft},
+                {tr("Right to left, on"), coloured(true), ClassState::Light, Qt::RightToLeft},
+                {tr("Dark, as it comes"), plain(false, true), ClassState::Dark},
+                {tr("Dark, with a light label"), makeDark, ClassState::Dark},
+            }};
+}
+
+ClassSheet ToggleSheets::selectionControl()
+{
+    return {QStringLiteral("SelectionControl"),
+            4,
+            {
+                {tr("Off"), [] { return makeLamp(false, true); }},
+                {tr("On"), [] { return makeLamp(true, true); }},
+                {tr("Disabled, off"), [] { return makeLamp(false, false); }},
+                {tr("Disabled, on"), [] { return makeLamp(true, false); }},
+            }};
+}
