@@ -13,13 +13,11 @@
  * not accepted. A widget that receives it schedules a repaint, and its paint code then reads
  * currentValue():
  *
- * \code
- * auto* glow = new Animator(widget, widget);
- * glow->setup(200, QEasingCurve::OutQuad);
- * glow->interpolate(QColor(Qt::black), QColor(Qt::white));
- * // in paintEvent():
- * painter.fillRect(rect(), glow->currentValue().value<QColor>());
- * \endcode
+ * \image html Animator.png "The sample below while it lights up: its value after so many milliseconds"
+ *
+ * \snippet Glow.cpp Animator
+ *
+ * It paints nothing itself and has no hook for style sheets.
  *
  * The nearest class of Qt is QPropertyAnimation, which writes a property of its target. The animator
  * writes nothing, so a value that only matters to the picture needs neither a property nor a field.
@@ -49,8 +47,9 @@ public:
 
 public Q_SLOTS:
     /**
-     * Sets the \a duration in milliseconds and the \a easing curve; a running animation runs on.
-     * A negative duration is refused by Qt with a warning and leaves the former one in place.
+     * Sets the \a duration in milliseconds, 0 or more, and the \a easing curve; a running animation
+     * runs on. Until then the animation takes 250 ms, linearly. A negative duration is refused by Qt
+     * with a warning and leaves the former one in place.
      */
     void setup(int duration, QEasingCurve easing = QEasingCurve(QEasingCurve::Linear));
 

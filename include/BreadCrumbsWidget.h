@@ -22,16 +22,26 @@ QT_END_NAMESPACE
  * changeDir() to follow. Qt has no such widget; QFileDialog's list of recent and parent directories
  * comes nearest.
  *
- * \code
- * auto* bar = new BreadCrumbsWidget(this);
- * bar->setRootPath("/data");
- * bar->changeDir("/data/music/live");
- * connect(bar, &BreadCrumbsWidget::dirChanged, bar, &BreadCrumbsWidget::changeDir);
- * \endcode
+ * \image html BreadCrumbsWidget.png "A path bar below the root /data"
  *
- * The crumbs are ClickableLabel objects with the object name "breadcrumb", for style sheets, and
- * the dynamic property "directory", the path that a crumb stands for. The root has no crumb.
- * The file system is not consulted: paths need not exist.
+ * \snippet BreadCrumbsWidget.cpp BreadCrumbsWidget
+ *
+ * The crumbs are ClickableLabel objects. The root has no crumb. The file system is not consulted:
+ * paths need not exist.
+ *
+ * \anchor looks_BreadCrumbsWidget
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | QPalette::WindowText | the crumbs and the slashes between them |
+ * | QPalette::Button, QPalette::ButtonText | the "..." button, as of any QPushButton |
+ * | `#breadcrumb` | each crumb, by its object name: colour, font, least height |
+ * | `[directory="..."]` | the crumb of that path, by a dynamic property |
+ * | `BreadCrumbsWidget QLabel` | crumbs and slashes |
+ * | `BreadCrumbsWidget QPushButton` | the "..." button |
+ *
+ * Without a style sheet a row of crumbs alone is as high as their font, and cuts them off at the
+ * top: give them a \c min-height of half as much again, or of a finger's width.
  */
 class PLATFORM_WIDGETS_EXPORT BreadCrumbsWidget : public QWidget
 {

@@ -11,15 +11,18 @@
  * release, and takes no part in keyboard activation; unlike a QLabel it paints its text() plainly,
  * whatever the text format, without frame, margin and alignment.
  *
- * \code
- * auto* label = new ClickableLabel(this);
- * label->setText("A rather long name of a directory");
- * label->setMaximumWidth(150);
- * connect(label, &ClickableLabel::clicked, this, &Page::open);
- * \endcode
+ * \image html ClickableLabel.png "A label 150 pixels wide"
  *
- * The text is painted with the palette's foreground role, as in a QLabel. To assistive technology the
- * label is a link that can be pressed.
+ * \snippet ClickableLabel.cpp ClickableLabel
+ *
+ * \anchor looks_ClickableLabel
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | foregroundRole(), QPalette::WindowText by default | the text |
+ * | `ClickableLabel` | colour and font of the text, which ignores \c padding |
+ *
+ * To assistive technology the label is a link that can be pressed.
  */
 class PLATFORM_WIDGETS_EXPORT ClickableLabel : public QLabel
 {

@@ -11,26 +11,22 @@
  * by stateChanged() and hands it to toggle(Qt::CheckState). A subclass paints the control and
  * implements that function, typically to start a transition:
  *
- * \code
- * class Lamp : public SelectionControl
- * {
- * public:
- *     using SelectionControl::SelectionControl;
- *     using SelectionControl::toggle;
- *     void toggle(Qt::CheckState) override { update(); }
+ * \image html SelectionControl.png "The sample below: a control that paints itself"
  *
- * protected:
- *     void paintEvent(QPaintEvent*) override
- *     {
- *         QPainter(this).fillRect(rect(), checkState() == Qt::Checked ? Qt::yellow : Qt::gray);
- *     }
- * };
- * \endcode
+ * \snippet Lamp.h SelectionControl
+ * \snippet Lamp.cpp SelectionControl
  *
  * The nearest class of Qt is QCheckBox. Unlike it, this one leaves all painting to the subclass, has
  * no partially checked state, and also reports a state that is set again to what it was.
  *
  * Clicks, keys, shortcuts, groups and accessibility are those of QAbstractButton.
+ *
+ * \anchor looks_SelectionControl
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | palette roles | those that the subclass paints with |
+ * | `#SelectionControl` | every control that has not been given another object name |
  *
  * Order of signals:
  * - a click: toggled(), stateChanged(), toggle(Qt::CheckState), released(), clicked();

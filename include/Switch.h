@@ -28,9 +28,9 @@ namespace Style {
  */
 struct Animation
 {
-    /// Shape of the transition.
+    /// Shape of the transition, linear by default.
     QEasingCurve::Type easing = QEasingCurve::Linear;
-    int duration = 0; ///< Milliseconds; 0 for an immediate change.
+    int duration = 0; ///< Milliseconds, 0 or more; 0, the default, for an immediate change.
 };
 
 inline bool operator==(const Animation& a, const Animation& b)
@@ -51,21 +51,33 @@ Q_DECLARE_METATYPE(Style::Animation)
 /**
  * An on/off switch: a round thumb that slides along a track, with an optional label beside it.
  *
- * \code
- * auto* wifi = new Switch(tr("Wi-Fi"), QColor(Qt::darkGreen), this);
- * wifi->setThumbOffBrush(Qt::white);
- * connect(wifi, &QAbstractButton::clicked, this, &Settings::enableWifi);
- * \endcode
+ * \image html Switch.png "A switch in its states"
+ *
+ * \snippet Switch.cpp Switch
  *
  * The nearest class of Qt is QCheckBox, which is drawn by the style. The switch draws itself from
  * its properties, so it looks the same under every style, and animates every change of its state.
  *
+ * \anchor looks_Switch
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | QPalette::ButtonText | the label, from the group Active or Disabled; black by default |
+ * | `#Switch` | every switch that has not been given another object name |
+ * | `color` | the label, as QPalette::ButtonText |
+ * | `qproperty-height` | indicatorHeight() |
+ * | `qproperty-thumbOnBrush`, `qproperty-thumbOffBrush` | colour of the thumb; black by default |
+ * | `qproperty-trackOnBrush`, `qproperty-trackOffBrush` | colour of the track; black by default |
+ * | `qproperty-thumbOnOpacity`, `qproperty-thumbOffOpacity` | its opacity, from 0 to 1; 1 by default |
+ * | `qproperty-trackOnOpacity`, `qproperty-trackOffOpacity` | opacity of the track; 0.5 and 0.25 by default |
+ * | `qproperty-thumbDisabled`, `qproperty-trackDisabled` | their colours when disabled; black by default |
+ * | `qproperty-trackDisabledOpacity` | opacity of the track when disabled; 0.15 by default |
+ * | `qproperty-disabledTextOpacity` | opacity of the label when disabled; 0.4 by default |
+ *
  * \par Looks
- * The colours of the track and thumb are the properties', those of the label
- * QPalette::ButtonText, in the group Active or, when disabled, Disabled. The constructor sets that
- * role to black; an application with a dark palette sets it with setPalette(). A switch that nobody
- * configured draws black in different opacities: dark thumb, lighter track, the track lighter still
- * when off. Track and thumb have fixed radii; at the default height and margins the track is a pill
+ * Colours are those of the properties, and of the palette for the label alone. An application with a
+ * dark palette sets the label's with setPalette(). A switch that nobody configured draws black in
+ * different opacities: dark thumb, lighter track, the track lighter still when off. Track and thumb have fixed radii; at the default height and margins the track is a pill
  * of 36 x 16 pixels, and the thumb and its shadow just fit.
  *
  * \par Opacities
@@ -122,10 +134,10 @@ public:
 
     ~Switch() override;
 
-    /// The indicator and the label in the widget's font, side by side; indicatorHeight() tall.
+    /// The indicator and the label in the widget's font, side by side; indicatorHeight() pixels tall.
     QSize sizeHint() const override;
 
-    /// The area of track and thumb, margins included: at the leading edge and indicatorHeight() tall.
+    /// The area of track and thumb with the margins: at the leading edge, indicatorHeight() pixels tall.
     QRect indicatorRect() const;
 
     /// The area of the label: what indicatorRect() leaves of the width, in the full height.
@@ -154,7 +166,7 @@ public:
     /// Sets thumbOnBrush().
     void setThumbOnBrush(QColor color);
 
-    /// Opacity of the thumb when on. Default 1.0.
+    /// Opacity of the thumb when on, from 0 to 1. Default 1.0.
     double thumbOnOpacity() const;
     /// Sets thumbOnOpacity().
     void setThumbOnOpacity(double opacity);
@@ -164,7 +176,7 @@ public:
     /// Sets trackOnBrush().
     void setTrackOnBrush(QColor color);
 
-    /// Opacity of the track when on. Default 0.5.
+    /// Opacity of the track when on, from 0 to 1. Default 0.5.
     double trackOnOpacity() const;
     /// Sets trackOnOpacity().
     void setTrackOnOpacity(double opacity);
@@ -174,7 +186,7 @@ public:
     /// Sets thumbOffBrush().
     void setThumbOffBrush(QColor color);
 
-    /// Opacity of the thumb when off. Default 1.0.
+    /// Opacity of the thumb when off, from 0 to 1. Default 1.0.
     double thumbOffOpacity() const;
     /// Sets thumbOffOpacity().
     void setThumbOffOpacity(double opacity);
@@ -184,7 +196,7 @@ public:
     /// Sets trackOffBrush().
     void setTrackOffBrush(QColor color);
 
-    /// Opacity of the track when off. Default 0.25.
+    /// Opacity of the track when off, from 0 to 1. Default 0.25.
     double trackOffOpacity() const;
     /// Sets trackOffOpacity().
     void setTrackOffOpacity(double opacity);
@@ -194,7 +206,7 @@ public:
     /// Sets thumbDisabled().
     void setThumbDisabled(QColor color);
 
-    /// Kept for the application; the disabled thumb is drawn at full opacity. Default 1.0.
+    /// Kept for the application, any value; the disabled thumb is drawn at full opacity. Default 1.0.
     double thumbDisabledOpacity() const;
     /// Sets thumbDisabledOpacity().
     void setThumbDisabledOpacity(double opacity);
@@ -204,7 +216,7 @@ public:
     /// Sets trackDisabled().
     void setTrackDisabled(QColor color);
 
-    /// Opacity of the track when disabled, on top of the colour's own alpha. Default 0.15.
+    /// Opacity of the track when disabled, from 0 to 1, on top of the colour's own alpha. Default 0.15.
     double trackDisabledOpacity() const;
     /// Sets trackDisabledOpacity().
     void setTrackDisabledOpacity(double opacity);
@@ -214,7 +226,7 @@ public:
     /// Sets textColor().
     void setTextColor(QColor color);
 
-    /// Opacity of the label when disabled. Default 0.4.
+    /// Opacity of the label when disabled, from 0 to 1. Default 0.4.
     double disabledTextOpacity() const;
     /// Sets disabledTextOpacity().
     void setDisabledTextOpacity(double opacity);

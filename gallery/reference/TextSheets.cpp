@@ -34,9 +34,7 @@ Field* prepare(Field* field)
 template <typename Field>
 Field* dress(Field* field)
 {
-    field->setStyleSheet(
-        QStringLiteral("ui--LineEdit[inputValid=\"false\"],"
-                       "ui--KeypadLineEdit[inputValid=\"false\"] { color: #b00020; }"));
+    field->setStyleSheet(QStringLiteral("ui--LineEdit[inputValid=\"false\"] { color: #b00020; }"));
     return field;
 }
 

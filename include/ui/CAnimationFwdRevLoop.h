@@ -13,19 +13,16 @@ namespace ui {
 /**
  * Makes an animation run back and forth for ever.
  *
- * \code
- * auto* pulse = new QPropertyAnimation(effect, "opacity", this);
- * pulse->setStartValue(1.0);
- * pulse->setEndValue(0.2);
- * pulse->setDuration(800);
- * new ui::CAnimationFwdRevLoop(pulse);
- * pulse->start();
- * \endcode
+ * \image html CAnimationFwdRevLoop.png "A light whose brightness runs from 1 to 0 in 800 ms, and back"
+ *
+ * \snippet CAnimationFwdRevLoop.cpp CAnimationFwdRevLoop
  *
  * Each time the animation finishes, the loop turns its direction round and starts it again.
  * Everything else is the caller's: values, duration, a finite loop count, the first start, and the
  * end, which is QAbstractAnimation::stop(). Qt counts an animation that is stopped just where it
  * would turn round as finished, and so does the loop.
+ *
+ * It paints nothing itself and has no hook for style sheets.
  *
  * Its nearest neighbour is QAbstractAnimation::setLoopCount(-1), which always starts over from the
  * same end.

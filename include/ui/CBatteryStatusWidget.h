@@ -22,12 +22,9 @@ class AccessibleBattery;
  * battery body and terminal are hatched and their outlines dashed; while the battery charges a
  * lightning bolt lies over the body. All proportions derive from #GOLDEN_RATIO.
  *
- * \code
- * auto* battery = new ui::CBatteryStatusWidget(statusBar);
- * battery->setFillColor(Qt::darkGreen);
- * battery->setChargePercentage(80);
- * battery->setBatteryCharging(true);
- * \endcode
+ * \image html CBatteryStatusWidget.png "A battery in its states"
+ *
+ * \snippet CBatteryStatusWidget.cpp CBatteryStatusWidget
  *
  * The nearest neighbour in Qt is a vertical QProgressBar, which has a range, a text and the look
  * of the style. This widget has a fixed range of 0 to 100 percent, no text and a look of its own.
@@ -36,9 +33,15 @@ class AccessibleBattery;
  * another shape the battery is fitted to the smaller side and centred in the contents rectangle.
  * There is no size hint; the layout or a fixed size decides how large the battery is.
  *
- * Outline, terminal and hatch have the brush of the widget's foreground role (by default
- * QPalette::WindowText) in the current colour group. The fill has the colour of setFillColor(),
- * the bolt is always amber. To assistive technology the battery is a progress bar from 0 to 100,
+ * \anchor looks_CBatteryStatusWidget
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | foregroundRole(), QPalette::WindowText by default | outline, terminal and hatch |
+ * | `ui--CBatteryStatusWidget` | the same by \c color |
+ * | setFillColor() | the charge; no style sheet reaches it |
+ *
+ * The bolt is always amber. To assistive technology the battery is a progress bar from 0 to 100,
  * described as charging or absent.
  */
 class PLATFORM_WIDGETS_EXPORT CBatteryStatusWidget : public QWidget

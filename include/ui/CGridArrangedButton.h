@@ -14,17 +14,22 @@ namespace ui {
 /**
  * A push button whose face is laid out by a grid.
  *
- * \code
- * auto* button = new ui::CGridArrangedButton(this);
- * button->addWidget(new QLabel(tr("Temperature")), 0, 0);
- * button->addWidget(new QLabel(tr("21 °C")), 1, 0);
- * button->addWidget(thermometer, 0, 1, 2, 1, Qt::AlignCenter);
- * connect(button, &QPushButton::clicked, this, &Panel::editTemperature);
- * \endcode
+ * \image html CGridArrangedButton.png "A button with an icon and two labels"
+ *
+ * \snippet CGridArrangedButton.cpp CGridArrangedButton
  *
  * Several labels, icons or other widgets make one large touch button with the usual frame, pressed
  * state and signals; it is as large as its own text and icon and its grid need. A text or icon of
  * the button itself is painted beneath the widgets of the grid, and nothing keeps them apart.
+ *
+ * \anchor looks_CGridArrangedButton
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | QPalette::Button | the face, by the style, as of any QPushButton |
+ * | QPalette::ButtonText | text of the button itself, and labels with that setForegroundRole() |
+ * | `ui--CGridArrangedButton` | its box, in states such as \c :pressed |
+ * | `ui--CGridArrangedButton QLabel` | the labels of the grid, which do not take the \c color of the button |
  *
  * Its nearest neighbour is QPushButton, which lays nothing out on its face and, given a layout,
  * does not grow with it.
@@ -65,7 +70,7 @@ public:
     /// Least width of a column in pixels, 0 by default.
     void setColumnMinimumWidth(int column, int minSize);
 
-    /// Share of a column in spare width, 0 by default and for columns that do not exist.
+    /// Share of a column in spare width, from 0; 0 by default and for columns that do not exist.
     int columnStretch(int column) const;
     /// Sets the share of a column in spare width.
     void setColumnStretch(int column, int stretch);
@@ -73,18 +78,18 @@ public:
     /// Least height of a row in pixels, 0 by default.
     void setRowMinimumHeight(int row, int minSize);
 
-    /// Share of a row in spare height, 0 by default.
+    /// Share of a row in spare height, from 0; 0 by default.
     void setRowStretch(int row, int stretch);
 
     /// Distance of rows and columns in pixels; the style's own by default and for less than 0.
     void setSpacing(int spacing);
-    /// Sets the distance of columns alone.
+    /// Sets the distance of columns alone, as setSpacing().
     void setHorizontalSpacing(int spacing);
-    /// Sets the distance of rows alone.
+    /// Sets the distance of rows alone, as setSpacing().
     void setVerticalSpacing(int spacing);
 
     /**
-     * Margins of the grid in pixels; the style's own by default.
+     * Margins of the grid in pixels; the style's own by default and for less than 0.
      * This is not QWidget::setContentsMargins(), which sets the margins of the button; call that by
      * its full name where it is meant.
      */

@@ -16,13 +16,9 @@ namespace ui {
 /**
  * A container that draws a rounded frame around its children.
  *
- * \code
- * auto* frame = new ui::CRoundedFrame(this);
- * frame->setFrameShadow(QFrame::Raised);
- * frame->enableFillContents(true);
- * auto* column = new QVBoxLayout(frame);
- * column->addWidget(new QLabel(tr("Volume"), frame));
- * \endcode
+ * \image html CRoundedFrame.png "A frame in its looks"
+ *
+ * \snippet CRoundedFrame.cpp CRoundedFrame
  *
  * The outline is plain or shaded, the inside may be filled, and a widget mask may cut the corners
  * off, children included, so that they are truly transparent. The frame sets its own contents
@@ -31,11 +27,16 @@ namespace ui {
  * Its nearest neighbour is QFrame, of which it borrows no more than the Shadow enumeration:
  * QFrame's corners are square, it fills nothing and clips nothing.
  *
- * | Palette role       | Paints                                     |
- * |--------------------|--------------------------------------------|
- * | foregroundRole()   | the outline of a plain frame               |
- * | Light and Dark     | the outline of a raised or a sunken frame  |
- * | backgroundRole()   | the inside, if it is filled                |
+ * \anchor looks_CRoundedFrame
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | foregroundRole(), QPalette::WindowText by default | the outline of a plain frame |
+ * | QPalette::Light, QPalette::Dark | the outline of a raised or a sunken frame |
+ * | backgroundRole(), QPalette::Window by default | the inside, if it is filled |
+ * | `ui--CRoundedFrame` | plain outline by \c color, filled inside by \c background-color |
+ * | `qproperty-radius`, `qproperty-lineWidth` | outline and contents margins, in pixels |
+ * | `qproperty-frameShadow`, `qproperty-frameShape` | look of the outline, by the names of the enumerators |
  *
  * No value is refused. Radii and widths that are too large for the widget leave no room for its
  * contents; then, and with margins of 0 or less, no outline is drawn and no mask is made.
@@ -69,7 +70,7 @@ public:
     void setRadius(int radius);
 
     /**
-     * Width of the outline in pixels, 2 by default.
+     * Width of the outline in pixels, 2 by default; with 0 it is drawn one pixel wide, with less not.
      * The outline lies half a line width inside the widget's edge.
      */
     int lineWidth() const;

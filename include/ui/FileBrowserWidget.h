@@ -27,17 +27,21 @@ class FileSystemModel;
  * opened by selecting it in the tile view. QFileDialog comes nearest in Qt; unlike it this is no
  * dialog, has no buttons to accept or reject, and offers only the allowed directories.
  *
- * \code
- * auto* browser = new ui::FileBrowserWidget(this);
- * browser->setFilters({"*.txt", "*.csv"});
- * browser->setAllowedDirs({"/data", "/media/usb"});
- * connect(browser, &ui::FileBrowserWidget::selectionChanged, this,
- *         [=] { openButton->setEnabled(!browser->selectedFiles().isEmpty()); });
- * \endcode
+ * \image html FileBrowserWidget.png "A browser with two allowed directories"
  *
- * For style sheets the browser has the object name "FileBrowser", its view buttons "toolbarButton"
- * and its crumbs "breadcrumb". The combo box and the views use the device's file browser font. All
- * painting is done by Qt's own widgets and by the path bar, with their usual palette roles.
+ * \snippet FileBrowserWidget.cpp FileBrowserWidget
+ *
+ * \anchor looks_FileBrowserWidget
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | palette roles | those of the path bar and of Qt's own widgets |
+ * | `#FileBrowser` | the browser, and what lies in it: `#FileBrowser QAbstractItemView::item` |
+ * | `#FileBrowser #toolbarButton` | the two view buttons, whose icons are dark |
+ * | `#FileBrowser #breadcrumb` | see \ref looks_BreadCrumbsWidget "BreadCrumbsWidget" |
+ * | `#FileBrowser QComboBox` | the directories to start from |
+ *
+ * The combo box and the views use the device's file browser font.
  */
 class PLATFORM_WIDGETS_EXPORT FileBrowserWidget : public QWidget
 {

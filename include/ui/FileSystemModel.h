@@ -12,14 +12,14 @@ namespace ui {
  * It is QFileSystemModel with short header texts of its own and a right-aligned modification date.
  * Everything else (watching, lazy population, icons, formatting, sorting) is the base class's.
  *
- * \code
- * ui::FileSystemModel model;
- * view.setModel(&model);
- * view.setRootIndex(model.setRootPath("/data"));
- * \endcode
+ * \image html FileSystemModel.png "The model beside its base class"
+ *
+ * \snippet FileSystemModel.cpp FileSystemModel
  *
  * The class has no meta-object of its own, so that its header texts are found in Qt's own
  * translations, in the context QFileSystemModel.
+ *
+ * It paints nothing: the views that show it have the palette roles and hooks of Qt.
  *
  * The columns are name (0), size (1), type (2) and date modified (3).
  */

@@ -16,11 +16,18 @@ class KeypadPopup;
  * the edit as Return and Escape do; a tap outside both closes the pop-up and reverts the text. The
  * pop-up is made on first use and serves the field for its whole life.
  *
- * @code
- * auto* port = new ui::KeypadLineEdit(form, ui::keyboard::KeyboardType::Integer);
- * port->setValidator(new QIntValidator(1, 65535, port));
- * connect(port, &ui::LineEdit::valueChanged, form, [=] { store(port->text()); });
- * @endcode
+ * \image html KeypadLineEdit.png "A field for a number, at rest and with its keypad"
+ *
+ * \snippet KeypadLineEdit.cpp KeypadLineEdit
+ *
+ * \anchor looks_KeypadLineEdit
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | palette roles | as of ui::LineEdit |
+ * | `ui--KeypadLineEdit` | fields with a keypad; `ui--LineEdit` selects them too |
+ * | `[inputValid="false"]` | as of \ref looks_LineEdit "ui::LineEdit" |
+ * | `ui--KeypadPopup` | its pop-up: see \ref looks_KeypadPopup "ui::KeypadPopup" |
  *
  * The pop-up is always shown and hidden one turn of the event loop after the request. It leaves the
  * focus with the field; focus that comes back because a pop-up was closed is given up at once. The
@@ -43,8 +50,9 @@ public:
     ~KeypadLineEdit() override;
 
     /**
-     * Sets the maximum length of the text to \a length characters as QLineEdit::setMaxLength() does,
-     * but keeps what was selected, as far as the shortened text still holds it.
+     * Sets the maximum length of the text to \a length characters, 32767 by default, as
+     * QLineEdit::setMaxLength() does, but keeps what was selected, as far as the shortened text still
+     * holds it.
      */
     virtual void setMaxLength(int length);
 

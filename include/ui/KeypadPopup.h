@@ -25,19 +25,25 @@ class IKeypad;
  * the keypad or from a hardware keyboard, and taps on the edited widget are passed on. The keypad is
  * told the verdict of a ui::LineEdit, so that it can refuse OK while the text is not acceptable.
  *
- * @code
- * auto* popup = new ui::KeypadPopup(edit, tr("Port"), ui::keyboard::KeyboardType::Integer, -1);
- * connect(popup, &ui::KeypadPopup::signalOk, popup, &QWidget::hide);
- * popup->locatePopup();
- * popup->show();
- * @endcode
+ * \image html KeypadPopup.png "The pop-up with the keypads of the desktop's keyboard library"
+ *
+ * \snippet KeypadPopup.cpp KeypadPopup
  *
  * ui::KeypadLineEdit does all of this by itself. The nearest neighbour in Qt is any QWidget with the
  * window type Qt::Popup, which takes the keyboard from the focused widget instead of feeding it. As
  * there, a press outside the pop-up, but not on the edited widget, closes it.
  *
- * The background is a fixed light grey, whatever the palette; texts are painted in the palette's
- * WindowText and by the keypad. A keyboard library that offers no keypad for the type asked for leaves
+ * \anchor looks_KeypadPopup
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | QPalette::WindowText | the subtitle |
+ * | none | the background, a light grey of its own whatever the palette |
+ * | `ui--KeypadPopup QFrame` | the background and the subtitle, by \c background-color |
+ * | `ui--KeypadPopup QLabel` | the subtitle |
+ * | `ui--KeypadPopup QPushButton` | the keys of the desktop stand-in; those of a device are its own |
+ *
+ * A keyboard library that offers no keypad for the type asked for leaves
  * a pop-up with the subtitle alone.
  */
 class PLATFORM_WIDGETS_EXPORT KeypadPopup : public QWidget

@@ -15,26 +15,29 @@ namespace ui {
  * field's validator and publishes the verdict as the dynamic property "inputValid" and as the signal
  * resultValidated().
  *
- * @code
- * auto* name = new ui::LineEdit(form);
- * name->setValidator(new QRegularExpressionValidator(QRegularExpression("[a-z]{3,8}"), name));
- * connect(name, &ui::LineEdit::valueChanged, form, [=] { store(name->text()); });
- * @endcode
+ * \image html LineEdit.png "A field with a QIntValidator from 1 to 65535"
  *
- * An application's style sheet can colour text that is not acceptable. The dynamic property is true
- * from construction on and is not reset when the focus changes; setText() does not touch it:
+ * \snippet LineEdit.cpp LineEdit
  *
- * @code
- * ui--LineEdit[inputValid="false"] { color: red; }
- * @endcode
+ * An application's style sheet can colour text that is not acceptable. The dynamic property
+ * "inputValid" is true from construction on and is not reset when the focus changes; setText() does
+ * not touch it.
  *
  * A screen reader hears of it as well: while "inputValid" is false, the field's accessible description
  * begins with "Invalid input", before what the application says there.
  *
- * The field takes the focus from a click or tap only and opens no context menu. It paints what
- * QLineEdit paints, from the same palette roles. Its nearest neighbour is QLineEdit, which keeps what
- * was typed when it loses the focus and which lets the validator refuse Return and Enter: here OK does
- * not ask the validator.
+ * \anchor looks_LineEdit
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | QPalette::Base, QPalette::Text | field and text, as of any QLineEdit |
+ * | QPalette::Highlight and its text | what is selected, which is all of it when editing begins |
+ * | `ui--LineEdit` | every field of this class and of those derived from it |
+ * | `[inputValid="false"]` | a field whose text is not acceptable |
+ *
+ * The field takes the focus from a click or tap only and opens no context menu. Its nearest
+ * neighbour is QLineEdit, which keeps what was typed when it loses the focus and which lets the
+ * validator refuse Return and Enter: here OK does not ask the validator.
  *
  * The field emits, in this order:
  *  - OK: signalOkKey() (from the keyboard), valueChanged(), editingFinished();

@@ -10,24 +10,22 @@ namespace widgets {
 /**
  * A scroll bar reduced to a slim indicator, for contents that are scrolled by dragging them.
  *
- * \code
- * auto* indicator = new ui::widgets::ScrollIndicatorBar(scrollArea);
- * scrollArea->setVerticalScrollBar(indicator);
- * QScroller* scroller = QScroller::scroller(scrollArea->viewport());
- * connect(scroller, &QScroller::stateChanged, indicator, [indicator](QScroller::State state) {
- *     indicator->setHighlightBar(state != QScroller::Inactive);
- * });
- * \endcode
+ * \image html ScrollIndicatorBar.png "An indicator, vertical and horizontal"
+ *
+ * \snippet ScrollIndicatorBar.cpp ScrollIndicatorBar
  *
  * It has no arrow buttons and no page areas, just a flat groove and a handle of five lines that
  * shade from light to dark. Range, steps, signals and mouse handling are those of its nearest
  * neighbour, QScrollBar; only the thickness and the painting are its own.
  *
- * | Palette role | Paints                                                                       |
- * |--------------|------------------------------------------------------------------------------|
- * | Window       | the groove, if its lightness is 120 or less (a dark palette)                 |
- * | Button       | the groove otherwise, and the handle, in shades of the role's own colour     |
- * | Highlight    | the handle of an enabled bar that is highlighted                             |
+ * \anchor looks_ScrollIndicatorBar
+ * \par Palette roles and style-sheet hooks
+ * | Role, property or selector | Effect |
+ * |---|---|
+ * | QPalette::Window | the groove, if its lightness is 120 or less (a dark palette) |
+ * | QPalette::Button | the groove otherwise, and the handle, in shades of the role's own colour |
+ * | QPalette::Highlight | the handle of an enabled bar that is highlighted |
+ * | `ui--widgets--ScrollIndicatorBar` | the roles by \c background-color and \c selection-background-color |
  *
  * The handle's length stands to the groove's as the page step to range and page step together; it
  * has one pixel at least, and just one where the range is larger than 0x3FFFFFFF.
