@@ -22,7 +22,7 @@ QT_END_NAMESPACE
  * changeDir() to follow. Qt has no such widget; QFileDialog's list of recent and parent directories
  * comes nearest.
  *
- * \image html BreadCrumbsWidget.png "A path bar below the root /data"
+ * \image html BreadCrumbsWidget.png "A path bar below the root /data, mostly with a style sheet for fingers"
  *
  * \snippet BreadCrumbsWidget.cpp BreadCrumbsWidget
  *

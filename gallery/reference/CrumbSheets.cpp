@@ -5,29 +5,50 @@
 
 namespace {
 
+const QString shortPath = QStringLiteral("music/live");
 constexpr int barWidth = 400;
 constexpr QSize crumbSize(150, 44);
 
-QWidget* makeBar(const QString& path)
+void show(BreadCrumbsWidget* bar, const QString& path)
 {
-    auto* bar = new BreadCrumbsWidget;
     bar->setFixedWidth(barWidth);
     bar->setRootPath(QStringLiteral("/data"));
     bar->changeDir(QStringLiteral("/data/") + path);
+}
+
+QWidget* makePlainBar(const QString& path, bool enabled)
+{
+    auto* bar = new BreadCrumbsWidget;
+    show(bar, path);
+    bar->setEnabled(enabled);
     return bar;
 }
 
-QWidget* makeStyledBar()
+auto plainBar(const QString& path, bool enabled = true)
 {
-    QWidget* bar = makeBar(QStringLiteral("music/live"));
-    bar->setStyleSheet(QStringLiteral("QLabel { min-height: 44px; font-size: 20px; }"
+    return [path, enabled] { return makePlainBar(path, enabled); };
+}
+
+/// As an application for fingers has it.
+BreadCrumbsWidget* makeBar(const QString& path)
+{
+    auto* bar = new BreadCrumbsWidget;
+    bar->setStyleSheet(QStringLiteral("QLabel { min-height: 44px; font-size: 18px; }"
                                       "#breadcrumb { color: #1a82b4; }"));
+    show(bar, path);
     return bar;
+}
+
+auto bar(const QString& path)
+{
+    return [path] { return makeBar(path); };
 }
 
 QWidget* makeDisabledBar()
 {
-    QWidget* bar = makeBar(QStringLiteral("music/live"));
+    QWidget* bar = makeBar(shortPath);
+    bar->setStyleSheet(bar->styleSheet()
+                       + QStringLiteral("#breadcrumb:disabled { color: #9aa7ae; }"));
     bar->setEnabled(false);
     return bar;
 }
@@ -51,23 +72,19 @@ QWidget* makeDisabledLabel(const QString& text)
 
 ClassSheet CrumbSheets::breadCrumbs()
 {
-    const QString path = QStringLiteral("music/live");
     const QString deepPath = QStringLiteral("music/live/2024/Berlin/encores");
     const QString longName = QStringLiteral("music/A rather long name of a directory");
     return {QStringLiteral("BreadCrumbsWidget"),
             2,
             {
-                {tr("Two components below the root"), [path] { return makeBar(path); }},
-                {tr("More than three: the others are in a menu"),
-                 [deepPath] { return makeBar(deepPath); }},
-                {tr("A long name"), [longName] { return makeBar(longName); }},
-                {tr("Right to left"), [path] { return makeBar(path); }, ClassState::Light,
-                 Qt::RightToLeft},
+                {tr("Two components below the root"), bar(shortPath)},
+                {tr("More than three: the others are in a menu"), bar(deepPath)},
+                {tr("A long name"), bar(longName)},
+                {tr("Right to left"), bar(shortPath), ClassState::Light, Qt::RightToLeft},
                 {tr("Disabled"), makeDisabledBar},
-                {tr("With a style sheet for fingers"), makeStyledBar},
-                {tr("Dark palette"), [path] { return makeBar(path); }, ClassState::Dark},
-                {tr("Dark palette, with the menu"), [deepPath] { return makeBar(deepPath); },
-                 ClassState::Dark},
+                {tr("Without a style sheet"), plainBar(shortPath)},
+                {tr("Dark palette"), plainBar(deepPath), ClassState::Dark},
+                {tr("Dark, disabled"), plainBar(deepPath, false), ClassState::Dark},
             }};
 }
 

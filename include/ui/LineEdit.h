@@ -46,7 +46,7 @@ namespace ui {
  *    editingFinished() once before.
  *
  * The field reacts to its own signals first: a slot that an application connects to signalOkKey(),
- * signalCancelKey() or textEdited() runs after what that signal sets off.
+ * signalCancelKey() or textEdited() runs after what that signal sets off: \ref textfields shows it.
  *
  * A slot of one of these signals may delete the field, and the rest of the sequence is dropped. Only
  * while Qt itself handles typed text or a change of the focus does a slot have to use deleteLater(), as
