@@ -7,7 +7,7 @@ sources() {
 
 # Compiled sources that are ours; the tests need not satisfy what makes a library robust.
 library_sources() {
-    sources 'src/*.cpp' 'platform/*.cpp' 'gallery/*.cpp' 'designer/*.cpp'
+    sources 'src/*.cpp' 'platform/*.cpp' 'gallery/*.cpp' 'designer/*.cpp' 'docs/*.cpp'
 }
 
 # Runs a command once for each file on standard input, on all processors.
@@ -50,7 +50,7 @@ lint_cppcheck() {
         --suppress=duplicateCondition --suppress=knownConditionTrueFalse --suppress=shadowFunction \
         --suppress=unassignedVariable --suppress=unsafeClassCanLeak --suppress=unusedStructMember \
         -I include -I platform/keyboard/include -I platform/style/include \
-        src include platform gallery designer
+        src include platform gallery designer docs
 }
 
 # The compile commands of the dev build, less what only g++ understands, in build/lint.
@@ -60,7 +60,7 @@ clang_compile_commands() {
     sed -E 's/ (-fno-gnu-unique|-Werror)\b//g' build/dev/compile_commands.json >build/lint/compile_commands.json
 }
 
-readonly OWN_HEADERS="$DEV_ROOT/(src|include|platform|gallery|designer)/"
+readonly OWN_HEADERS="$DEV_ROOT/(src|include|platform|gallery|designer|docs)/"
 
 lint_clazy() {
     clang_compile_commands
