@@ -58,12 +58,13 @@ FileBrowserWidget* makeDevice()
     return makeBrowser(Device);
 }
 
-/// Selects the row of that number, from 0.
-FileBrowserWidget* makeSelection(int row)
+/// Selects the entry \a name, which opens a directory.
+FileBrowserWidget* makeSelection(const QString& name)
 {
     FileBrowserWidget* browser = makeDevice();
     QListView* view = tileView(*browser);
-    view->setCurrentIndex(view->model()->index(row, 0, view->rootIndex()));
+    const auto* model = qobject_cast<QFileSystemModel*>(view->model());
+    view->setCurrentIndex(model->index(fileTree().device() + QLatin1Char('/') + name));
     waitForFiles(*view);
     return browser;
 }
@@ -108,20 +109,20 @@ QWidget* makeTree()
 
 ClassSheet FileSheets::fileBrowser()
 {
-    constexpr int musicRow = 0; // directories come first
-    constexpr int journalRow = 3;
-    return {QStringLiteral("FileBrowserWidget"),
-            2,
-            {
-                {tr("Tile view"), makeDevice},
-                {tr("List view"), makeListView},
-                {tr("A file is selected"), [] { return makeSelection(journalRow); }},
-                {tr("A directory has been opened"), [] { return makeSelection(musicRow); }},
-                {tr("Texts and tables only"), makeFiltered},
-                {tr("Disabled"), makeDisabled},
-                {tr("Right to left"), makeDevice, ClassState::Light, Qt::RightToLeft},
-                {tr("Dark palette"), makeDevice, ClassState::Dark},
-            }};
+    return {
+        QStringLiteral("FileBrowserWidget"),
+        2,
+        {
+            {tr("Tile view"), makeDevice},
+            {tr("List view"), makeListView},
+            {tr("A file is selected"), [] { return makeSelection(QStringLiteral("journal.txt")); }},
+            {tr("A directory has been opened"),
+             [] { return makeSelection(QStringLiteral("Music")); }},
+            {tr("Texts and tables only"), makeFiltered},
+            {tr("Disabled"), makeDisabled},
+            {tr("Right to left"), makeDevice, ClassState::Light, Qt::RightToLeft},
+            {tr("Dark palette"), makeDevice, ClassState::Dark},
+        }};
 }
 
 ClassSheet FileSheets::fileSystemModel()
