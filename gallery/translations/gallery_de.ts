@@ -40,6 +40,21 @@
     </message>
 </context>
 <context>
+    <name>AnimationSheets</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, forwards</source>
+        <translation>%1 ms, vorwärts</translation>
+    </message>
+    <message>
+        <source>%1 ms, back</source>
+        <translation>%1 ms, zurück</translation>
+    </message>
+</context>
+<context>
     <name>BatteryPage</name>
     <message>
         <source>%1 %</source>
@@ -87,6 +102,52 @@
     </message>
 </context>
 <context>
+    <name>BatterySheet</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Lädt</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Another fill colour</source>
+        <translation>Andere Füllfarbe</translation>
+    </message>
+    <message>
+        <source>Frame width 2</source>
+        <translation>Rahmenbreite 2</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+    <message>
+        <source>Dark, charging</source>
+        <translation>Dunkel, lädt</translation>
+    </message>
+    <message>
+        <source>Dark, absent</source>
+        <translation>Dunkel, fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>ClassPictures</name>
+    <message>
+        <source>cannot write &quot;%1&quot;</source>
+        <translation>„%1“ lässt sich nicht schreiben</translation>
+    </message>
+</context>
+<context>
     <name>ColorEditor</name>
     <message>
         <source>none</source>
@@ -107,6 +168,128 @@
     <message>
         <source>Alpha</source>
         <translation>Alpha</translation>
+    </message>
+</context>
+<context>
+    <name>ContainerSheets</name>
+    <message>
+        <source>USB stick</source>
+        <translation>USB-Stick</translation>
+    </message>
+    <message>
+        <source>12.4 GB free</source>
+        <translation>12,4 GB frei</translation>
+    </message>
+    <message>
+        <source>contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Flach</translation>
+    </message>
+    <message>
+        <source>Raised</source>
+        <translation>Erhaben</translation>
+    </message>
+    <message>
+        <source>Sunken</source>
+        <translation>Vertieft</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation>Gefüllt</translation>
+    </message>
+    <message>
+        <source>Filled, without outline</source>
+        <translation>Gefüllt, ohne Umriss</translation>
+    </message>
+    <message>
+        <source>Radius 0</source>
+        <translation>Radius 0</translation>
+    </message>
+    <message>
+        <source>A child reaches into the corners</source>
+        <translation>Ein Kind reicht in die Ecken</translation>
+    </message>
+    <message>
+        <source>The same with the mask</source>
+        <translation>Dasselbe mit der Maske</translation>
+    </message>
+    <message>
+        <source>Dark palette, raised</source>
+        <translation>Dunkle Palette, erhaben</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nicht gedrückt</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Gedrückt</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+</context>
+<context>
+    <name>CrumbSheets</name>
+    <message>
+        <source>Two components below the root</source>
+        <translation>Zwei Teile unter der Wurzel</translation>
+    </message>
+    <message>
+        <source>More than three: the others are in a menu</source>
+        <translation>Mehr als drei: Die übrigen stehen in einem Menü</translation>
+    </message>
+    <message>
+        <source>A long name</source>
+        <translation>Ein langer Name</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Without a style sheet</source>
+        <translation>Ohne Stylesheet</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+    <message>
+        <source>Dark, disabled</source>
+        <translation>Dunkel, gesperrt</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>A rather long name of a directory</source>
+        <translation>Ein ziemlich langer Verzeichnisname</translation>
+    </message>
+    <message>
+        <source>A text with room enough</source>
+        <translation>Ein Text mit genug Platz</translation>
+    </message>
+    <message>
+        <source>A text too long</source>
+        <translation>Ein zu langer Text</translation>
     </message>
 </context>
 <context>
@@ -150,6 +333,49 @@
     <message>
         <source>Selected: %1</source>
         <translation>Ausgewählt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FileSheets</name>
+    <message>
+        <source>Tile view</source>
+        <translation>Kachelansicht</translation>
+    </message>
+    <message>
+        <source>List view</source>
+        <translation>Listenansicht</translation>
+    </message>
+    <message>
+        <source>A file is selected</source>
+        <translation>Eine Datei ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>A directory has been opened</source>
+        <translation>Ein Verzeichnis wurde geöffnet</translation>
+    </message>
+    <message>
+        <source>Texts and tables only</source>
+        <translation>Nur Texte und Tabellen</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+    <message>
+        <source>This model in a QTreeView</source>
+        <translation>Dieses Modell in einem QTreeView</translation>
+    </message>
+    <message>
+        <source>QFileSystemModel, for comparison</source>
+        <translation>QFileSystemModel zum Vergleich</translation>
     </message>
 </context>
 <context>
@@ -275,16 +501,20 @@
         <translation>Ein Wurzelverzeichnis der Seite „Dateibrowser“.</translation>
     </message>
     <message>
-        <source>--screenshots needs the name of a directory</source>
-        <translation>--screenshots braucht den Namen eines Verzeichnisses</translation>
-    </message>
-    <message>
         <source>there is no page &quot;%1&quot;; the pages are: %2</source>
         <translation>die Seite „%1“ gibt es nicht; die Seiten sind: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a directory</source>
         <translation>„%1“ ist kein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Render the states of every class, as the reference shows them, to PNG files in DIR and print their paths.</source>
+        <translation>Die Zustände jeder Klasse, wie die Referenz sie zeigt, in PNG-Dateien im Verzeichnis DIR abbilden und deren Pfade ausgeben.</translation>
+    </message>
+    <message>
+        <source>--%1 needs the name of a directory</source>
+        <translation>--%1 braucht den Namen eines Verzeichnisses</translation>
     </message>
 </context>
 <context>
@@ -448,6 +678,57 @@
     </message>
 </context>
 <context>
+    <name>ScrollIndicatorSheet</name>
+    <message>
+        <source>At the top</source>
+        <translation>Ganz oben</translation>
+    </message>
+    <message>
+        <source>In the middle</source>
+        <translation>In der Mitte</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>Ganz unten</translation>
+    </message>
+    <message>
+        <source>Nothing to scroll</source>
+        <translation>Nichts zu rollen</translation>
+    </message>
+    <message>
+        <source>Highlighted</source>
+        <translation>Hervorgehoben</translation>
+    </message>
+    <message>
+        <source>Much to scroll</source>
+        <translation>Viel zu rollen</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+    <message>
+        <source>Dark, highlighted</source>
+        <translation>Dunkel, hervorgehoben</translation>
+    </message>
+    <message>
+        <source>Horizontal, at the start</source>
+        <translation>Waagrecht, am Anfang</translation>
+    </message>
+    <message>
+        <source>Horizontal, in the middle</source>
+        <translation>Waagrecht, in der Mitte</translation>
+    </message>
+    <message>
+        <source>Horizontal, at the end</source>
+        <translation>Waagrecht, am Ende</translation>
+    </message>
+    <message>
+        <source>Right to left, near the start</source>
+        <translation>Rechts nach links, nahe dem Anfang</translation>
+    </message>
+</context>
+<context>
     <name>StyleSheetFile</name>
     <message>
         <source>cannot read the style sheet &quot;%1&quot;: %2</source>
@@ -602,6 +883,128 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextSheets</name>
+    <message>
+        <source>Port, 1 to %1</source>
+        <translation>Port, 1 bis %1</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>At rest</source>
+        <translation>In Ruhe</translation>
+    </message>
+    <message>
+        <source>With the focus: all is selected</source>
+        <translation>Mit dem Fokus: Alles ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>Acceptable text is typed</source>
+        <translation>Gültiger Text wird eingegeben</translation>
+    </message>
+    <message>
+        <source>Not acceptable, coloured by a style sheet</source>
+        <translation>Ungültig, durch ein Stylesheet gefärbt</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+    <message>
+        <source>With the focus: the keypad is open</source>
+        <translation>Mit dem Fokus: Die Tastatur ist offen</translation>
+    </message>
+    <message>
+        <source>Not acceptable: OK is refused</source>
+        <translation>Ungültig: OK ist gesperrt</translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation>Ganzzahl</translation>
+    </message>
+    <message>
+        <source>While the text is not acceptable</source>
+        <translation>Solange der Text ungültig ist</translation>
+    </message>
+    <message>
+        <source>Decimal</source>
+        <translation>Dezimalzahl</translation>
+    </message>
+    <message>
+        <source>Decimal, without its only section</source>
+        <translation>Dezimalzahl, ohne ihren einzigen Bereich</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text, with other sections visible</source>
+        <translation>Text, andere Bereiche sichtbar</translation>
+    </message>
+</context>
+<context>
+    <name>ToggleSheets</name>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>As it comes: off</source>
+        <translation>Im Urzustand: aus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Disabled, off</source>
+        <translation>Gesperrt, aus</translation>
+    </message>
+    <message>
+        <source>Disabled, on</source>
+        <translation>Gesperrt, ein</translation>
+    </message>
+    <message>
+        <source>With label and colours: off</source>
+        <translation>Mit Beschriftung und Farben: aus</translation>
+    </message>
+    <message>
+        <source>Half way</source>
+        <translation>Auf halbem Weg</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Right to left, off</source>
+        <translation>Rechts nach links, aus</translation>
+    </message>
+    <message>
+        <source>Right to left, on</source>
+        <translation>Rechts nach links, ein</translation>
+    </message>
+    <message>
+        <source>Dark, as it comes</source>
+        <translation>Dunkel, im Urzustand</translation>
+    </message>
+    <message>
+        <source>Dark, with a light label</source>
+        <translation>Dunkel, mit heller Beschriftung</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
     </message>
 </context>
 <context>
