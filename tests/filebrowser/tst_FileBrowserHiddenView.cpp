@@ -1,0 +1,132 @@
+#include "BrowserParts.h"
+#include "OffscreenMessages.h"
+#include "TestApplication.h"
+#include "Tree.h"
+#include "ui/FileBrowserWidget.h"
+
+#include <QListView>
+#include <QPushButton>
+#include <QSet>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+
+using namespace test;
+
+namespace {
+
+const QString longName = QString(20, QLatin1Char('w'));
+
+/// Notes of which rows a view measures the items.
+class RecordingDelegate : public QStyledItemDelegate
+{
+public:
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        m_rows.insert(index.row());
+        return QStyledItemDelegate::sizeHint(option, index);
+    }
+    QSet<int> rows() const
+    {
+        return m_rows;
+    }
+
+private:
+    mutable QSet<int> m_rows;
+};
+
+} // namespace
+
+/// What the view that is not shown costs, and that the user does not notice.
+class tst_FileBrowserHiddenView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void hiddenListViewMeasuresOneRow();
+    void columnsFitWhenTheListViewIsShown();
+    void columnsFitInAnotherDirectory();
+
+private:
+    /// Opens \a directory and waits until \a view shows \a count entries of it.
+    void open(ui::FileBrowserWidget& browser, const QAbstractItemView& view,
+              const QString& directory, int count) const;
+
+    Tree m_tree;
+};
+
+void tst_FileBrowserHiddenView::initTestCase()
+{
+    dropOffscreenMessages();
+    m_tree.makeDir(QStringLiteral("short"));
+    m_tree.makeDir(QStringLiteral("long"));
+    m_tree.makeFile(QStringLiteral("short/a"));
+    m_tree.makeFile(QStringLiteral("long/a"));
+    m_tree.makeFile(QStringLiteral("long/") + longName);
+}
+
+void tst_FileBrowserHiddenView::open(ui::FileBrowserWidget& browser, const QAbstractItemView& view,
+                                     const QString& directory, int count) const
+{
+    browser.setAllowedDirs({m_tree.path(directory)});
+    QTRY_COMPARE(shownNames(view).size(), count);
+    QCoreApplication::processEvents();
+}
+
+void tst_FileBrowserHiddenView::hiddenListViewMeasuresOneRow()
+{
+    ui::FileBrowserWidget browser;
+    const BrowserParts parts(browser);
+    RecordingDelegate delegate;
+    parts.listView->setItemDelegate(&delegate);
+    browser.show();
+    open(browser, *parts.tileView, QStringLiteral("long"), 2);
+    QVERIFY(!parts.tileView->visualRect(entry(*parts.tileView, longName)).isEmpty());
+    QCOMPARE(delegate.rows(), QSet<int>{0}); // all rows are as high as the first
+
+    parts.listButton->click();
+    QTRY_COMPARE(delegate.rows(), (QSet<int>{0, 1}));
+}
+
+void tst_FileBrowserHiddenView::columnsFitWhenTheListViewIsShown()
+{
+    ui::FileBrowserWidget shownBefore;
+    const BrowserParts expected(shownBefore);
+    expected.listButton->click();
+    shownBefore.show();
+    open(shownBefore, *expected.listView, QStringLiteral("long"), 2);
+
+    ui::FileBrowserWidget browser;
+    const BrowserParts parts(browser);
+    browser.show();
+    open(browser, *parts.tileView, QStringLiteral("long"), 2);
+    parts.listButton->click();
+    QTRY_COMPARE(parts.listView->columnWidth(0), expected.listView->columnWidth(0));
+    QCOMPARE(parts.listView->columnWidth(1), expected.listView->columnWidth(1));
+    QVERIFY(parts.listView->columnWidth(0)
+            > parts.listView->fontMetrics().horizontalAdvance(longName));
+}
+
+void tst_FileBrowserHiddenView::columnsFitInAnotherDirectory()
+{
+    ui::FileBrowserWidget browser;
+    const BrowserParts parts(browser);
+    browser.show();
+    parts.listButton->click();
+    open(browser, *parts.listView, QStringLiteral("short"), 1);
+    const int narrow = parts.listView->columnWidth(0);
+
+    parts.tileButton->click();
+    open(browser, *parts.tileView, QStringLiteral("long"), 2);
+    parts.listButton->click();
+    QTRY_VERIFY(parts.listView->columnWidth(0) > narrow);
+    QVERIFY(parts.listView->columnWidth(0)
+            > parts.listView->fontMetrics().horizontalAdvance(longName));
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_FileBrowserHiddenView>(argc, argv);
+}
+
+#include "tst_FileBrowserHiddenView.moc"
