@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <malloc.h>
 
 // The program's own malloc() comes before the C library's for every library that it loads.
 
@@ -15,7 +16,7 @@ void* __libc_realloc(void* block, std::size_t size);
 
 namespace {
 
-std::atomic<long> taken{0};
+std::atomic<qint64> taken{0};
 
 } // namespace
 
@@ -39,9 +40,15 @@ extern "C" __attribute__((visibility("default"))) void* realloc(void* block, std
 
 namespace bench {
 
-long allocations()
+qint64 blocksTaken()
 {
     return taken;
+}
+
+qint64 bytesInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return qint64(info.uordblks + info.hblkhd);
 }
 
 } // namespace bench

@@ -4,11 +4,40 @@
 #include <QVector>
 
 #include <functional>
+#include <utility>
 
 namespace bench {
 
 /// One unit of work; it keeps alive what it works on and may be run any number of times.
-using Work = std::function<void()>;
+class Work
+{
+public:
+    /// \a run is what is measured; \a prepare comes before each run and is not.
+    template <typename Run>
+    Work(Run run, std::function<void()> prepare = {}) // not explicit: a lambda is a work
+        : m_run(std::move(run))
+        , m_prepare(std::move(prepare))
+    {
+    }
+
+    bool needsPreparation() const
+    {
+        return bool(m_prepare);
+    }
+    void prepare() const
+    {
+        if (m_prepare)
+            m_prepare();
+    }
+    void operator()() const
+    {
+        m_run();
+    }
+
+private:
+    std::function<void()> m_run;
+    std::function<void()> m_prepare;
+};
 
 /// Makes a unit of work ready to be run.
 using Setup = std::function<Work()>;
@@ -21,9 +50,10 @@ struct Row
     QString stockName; ///< What one would use instead.
     Setup stock; ///< May be empty.
     Setup floor; ///< The least that the work costs; may be empty.
+    int parts = 1; ///< How many widgets one run is for; the table tells the cost of one.
 };
 
-/// Every row of the table, in its order.
-QVector<Row> allRows();
+/// What Qt's dispatch costs, and the rows whose names match the regular expression \a filter, in their order.
+QVector<Row> rows(const QString& filter);
 
 } // namespace bench

@@ -1,5 +1,7 @@
 #include "Allocations.h"
 #include "Browsing.h"
+#include "Damage.h"
+#include "Rest.h"
 #include "Row.h"
 
 #include <QApplication>
@@ -10,34 +12,35 @@
 
 namespace {
 
-/// Calls \a visit with the name and the set-up of every filled cell of the table.
-void forEachCell(const std::function<void(const QString&, const bench::Setup&)>& visit)
+/// Calls \a visit with the name and the set-up of every filled cell of \a row.
+template <typename Visit>
+void forEachCell(const bench::Row& row, const Visit& visit)
 {
-    const QVector<bench::Row> rows = bench::allRows();
-    for (const bench::Row& row : rows) {
-        visit(row.name + QStringLiteral("|ours"), row.ours);
-        if (row.stock)
-            visit(row.name + QStringLiteral("|stock"), row.stock);
-        if (row.floor)
-            visit(row.name + QStringLiteral("|floor"), row.floor);
-    }
+    visit(row.name + QStringLiteral("|ours"), row.ours);
+    if (row.stock)
+        visit(row.name + QStringLiteral("|stock"), row.stock);
+    if (row.floor)
+        visit(row.name + QStringLiteral("|floor"), row.floor);
 }
 
 /// Makes a cell's work ready, and runs it until it has filled its caches.
-bench::Work warmedUp(const bench::Setup& setup)
+bench::Work warmedUp(const bench::Row& row, const bench::Setup& setup)
 {
-    constexpr int runs = 2;
-    bench::Work work = setup();
-    for (int i = 0; i < runs; ++i)
+    const int runs = row.parts == 1 ? 2 : 1;
+    const bench::Work work = setup();
+    for (int i = 0; i < runs; ++i) {
+        work.prepare();
         work();
+    }
+    work.prepare();
     return work;
 }
 
 /// Under callgrind: counts one run of every cell.
-void countInstructions()
+void countInstructions(const bench::Row& row)
 {
-    forEachCell([](const QString& name, const bench::Setup& setup) {
-        const bench::Work work = warmedUp(setup);
+    forEachCell(row, [&row](const QString& name, const bench::Setup& setup) {
+        const bench::Work work = warmedUp(row, setup);
         CALLGRIND_TOGGLE_COLLECT;
         work();
         CALLGRIND_TOGGLE_COLLECT;
@@ -45,76 +48,112 @@ void countInstructions()
     });
 }
 
-/// Blocks that one run of every cell takes from the heap.
-void countAllocations()
+/// Blocks that one run of every cell takes from the heap, and bytes that it keeps.
+void countAllocations(const bench::Row& row)
 {
     QTextStream out(stdout);
-    forEachCell([&out](const QString& name, const bench::Setup& setup) {
-        const bench::Work work = warmedUp(setup);
-        const long before = bench::allocations();
+    forEachCell(row, [&](const QString& name, const bench::Setup& setup) {
+        const bench::Work work = warmedUp(row, setup);
+        const qint64 blocks = bench::blocksTaken();
+        const qint64 bytes = bench::bytesInUse();
         work();
-        const long taken = bench::allocations() - before;
-        out << name << '\t' << taken << '\n';
+        out << name << '\t' << bench::blocksTaken() - blocks << '\t' << bench::bytesInUse() - bytes
+            << '\n';
     });
 }
 
-void registerTimings()
+void time(benchmark::State& state, const bench::Work& work)
 {
-    forEachCell([](const QString& name, const bench::Setup& setup) {
-        benchmark::RegisterBenchmark(name.toUtf8().constData(), [setup](benchmark::State& state) {
-            const bench::Work work = setup();
-            for (auto _ : state)
-                work();
-        });
+    for (auto _ : state) {
+        if (work.needsPreparation()) { // stopping the clock takes some time itself
+            state.PauseTiming();
+            work.prepare();
+            state.ResumeTiming();
+        }
+        work();
+    }
+}
+
+void registerTimings(const bench::Row& row)
+{
+    forEachCell(row, [&row](const QString& name, const bench::Setup& setup) {
+        auto* cell = benchmark::RegisterBenchmark(
+            name.toUtf8().constData(), [setup](benchmark::State& state) { time(state, setup()); });
+        if (row.parts > 1)
+            cell->Iterations(1); // what comes before each is much longer
     });
 }
 
-void listStockNames()
+void listRow(const bench::Row& row)
 {
     QTextStream out(stdout);
-    const QVector<bench::Row> rows = bench::allRows();
-    for (const bench::Row& row : rows)
-        out << row.name << '\t' << row.stockName << '\n';
+    out << row.name << '\t' << row.stockName << '\t' << row.parts << '\n';
 }
 
-/// What the program does instead of timing, by option.
+/// What the program does with each row, by option.
+struct RowMode
+{
+    const char* option;
+    void (*run)(const bench::Row& row);
+};
+
+const char* const timeOption = "--time";
+
+// They take a regular expression: the names of the rows meant.
+const RowMode rowModes[] = {
+    {"--rows", listRow},
+    {"--count", countInstructions}, // run it under callgrind
+    {"--allocations", countAllocations},
+    {timeOption, registerTimings}, // with Google Benchmark's options
+};
+
+/// What it does beside the rows.
 struct Mode
 {
     const char* option;
-    void (*run)();
+    void (*run)(const QStringList& arguments, QTextStream& out);
 };
-
-void browse()
-{
-    QTextStream out(stdout);
-    bench::compareBrowsing(out);
-}
 
 const Mode modes[] = {
-    {"--rows", listStockNames}, // the rows of the table
-    {"--count", countInstructions}, // run it under callgrind
-    {"--allocations", countAllocations},
-    {"--browsing", browse}, // large directories
+    {"--browse", bench::browse}, // WAY DIRECTORY COUNT
+    {"--damage", bench::compareDamage},
+    {"--rest", bench::countWakeUps}, // MILLISECONDS
 };
+
+bool run(const QString& option, const QStringList& arguments)
+{
+    for (const RowMode& mode : rowModes) {
+        if (option == QLatin1String(mode.option)) {
+            const QVector<bench::Row> rows = bench::rows(arguments.value(0));
+            for (const bench::Row& row : rows)
+                mode.run(row);
+            return true;
+        }
+    }
+    QTextStream out(stdout);
+    for (const Mode& mode : modes) {
+        if (option == QLatin1String(mode.option)) {
+            mode.run(arguments, out);
+            return true;
+        }
+    }
+    return false;
+}
 
 } // namespace
 
-/// Times every cell, with Google Benchmark's options, unless the first argument asks for another mode.
 int main(int argc, char** argv)
 {
+    benchmark::Initialize(&argc, argv); // takes out the options that it knows
     QApplication::setDesktopSettingsAware(false);
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication application(argc, argv);
-    for (const Mode& mode : modes) {
-        if (argc > 1 && qstrcmp(argv[1], mode.option) == 0) {
-            mode.run();
-            return 0;
-        }
-    }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    const QString option = QCoreApplication::arguments().value(1);
+    if (!run(option, QCoreApplication::arguments().mid(2))) {
+        qWarning("unknown option '%s'", qUtf8Printable(option));
         return 1;
-    registerTimings();
-    benchmark::RunSpecifiedBenchmarks();
+    }
+    if (option == QLatin1String(timeOption))
+        benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -6,8 +6,9 @@ namespace bench {
 
 QVector<Row> batteryRows();
 QVector<Row> buttonRows();
+QVector<Row> crowdRows();
 QVector<Row> frameRows();
-QVector<Row> lifeRows();
+QVector<Row> keypadRows();
 QVector<Row> scrollIndicatorRows();
 QVector<Row> switchRows();
 QVector<Row> textRows();

@@ -1,78 +1,113 @@
 #!/usr/bin/env python3
-"""Makes the table of ./dev bench from what callgrind counted and Google Benchmark timed.
+"""Makes the tables of ./dev bench from what it measured.
 
-"Own" are the instructions less what Qt spends to dispatch a paint event to one empty widget.
+usage: table.py RESULTS [DOCUMENT]
 
-usage: table.py ROWS TIMINGS.json ALLOCATIONS CALLGRIND_FILE...
+Prints them; with DOCUMENT, replaces those between the two marks of that file.
 """
 
-import json
 import re
 import sys
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+from aims import aims  # noqa: E402
+from figures import LOADING, own, ratio  # noqa: E402
+from results import Results  # noqa: E402
 
 COLUMNS = ("ours", "stock", "floor")
-DISPATCH = "paint an empty widget (Qt's dispatch)"
+WAYS = {"bare": "a bare model and list view", "ours": "FileBrowserWidget", "dialog": "QFileDialog"}
+MARKS = "<!-- measured -->\n", "<!-- end of what was measured -->\n"
 
 
-def counted_instructions(files):
-    """Instructions by 'row|column', from the dumps of one callgrind run."""
-    counts = {}
-    for name in files:
-        trigger = total = None
-        with open(name, encoding="utf-8") as dump:
-            for line in dump:
-                if match := re.match(r"desc: Trigger: Client Request: (.*)", line):
-                    trigger = match.group(1)
-                elif match := re.match(r"(?:summary|totals): (\d+)", line):
-                    total = int(match.group(1))
-        if trigger is not None and total is not None:
-            counts[trigger] = total
-    return counts
+def table(head, rows):
+    """Markdown, or nothing without rows; columns of figures are those whose head has a leading '>'."""
+    rows = list(rows)
+    if not rows:
+        return ""
+    names = " | ".join(name.lstrip(">") for name in head)
+    rule = "|".join("--:" if name.startswith(">") else "---" for name in head)
+    return "\n".join([f"| {names} |", f"|{rule}|", *(f"| {' | '.join(row)} |" for row in rows), ""])
 
 
-def median_times(name):
-    """Median wall time in nanoseconds by 'row|column'."""
-    with open(name, encoding="utf-8") as file:
-        runs = json.load(file)["benchmarks"]
-    return {
-        run["run_name"]: run["real_time"]
-        for run in runs
-        if run.get("aggregate_name") == "median"
-    }
+def whole(figures, row, parts=1, columns=COLUMNS):
+    for column in columns:
+        figure = figures.get(f"{row}|{column}")
+        yield "" if figure is None else f"{figure / parts:,.0f}"
 
 
-def counted_allocations(name):
-    """Blocks taken from the heap by 'row|column'."""
-    with open(name, encoding="utf-8") as lines:
-        return {cell: int(count) for cell, count in (line.rstrip("\n").split("\t") for line in lines)}
+def microseconds(results, row, parts=1, columns=COLUMNS):
+    for column in columns:
+        time = results.nanoseconds.get(f"{row}|{column}")
+        yield "" if time is None else f"{time / parts / 1000:.1f}"
 
 
-def ratio(numerator, denominator):
-    return f"{numerator / denominator:.2f}" if numerator and denominator else ""
+def works(results):
+    for row, stock, parts in results.rows:
+        if parts == 1:
+            counts = results.instructions
+            yield [row, stock, *whole(counts, row), ratio(counts, row, "stock"), own(counts, row),
+                   *microseconds(results, row), *whole(results.blocks, row)]
 
 
-def cells(row, counts, times, blocks):
-    count = {column: counts.get(f"{row}|{column}") for column in COLUMNS}
-    time = {column: times.get(f"{row}|{column}") for column in COLUMNS}
-    own = count["ours"] and count["ours"] - counts[f"{DISPATCH}|ours"]
-    yield from (f"{count[column]:,}" if count[column] else "" for column in COLUMNS)
-    yield ratio(count["ours"], count["stock"])
-    yield ratio(own, count["floor"])
-    yield from (f"{time[column] / 1000:.1f}" if time[column] else "" for column in COLUMNS)
-    yield from (str(blocks.get(f"{row}|{column}", "")) for column in COLUMNS)
+def lives(results):
+    two = COLUMNS[:2]
+    for row, stock, parts in results.rows:
+        if parts > 1:
+            counts = results.instructions
+            yield [row, stock, *whole(counts, row, parts, two), ratio(counts, row, "stock"),
+                   *microseconds(results, row, parts, two), *whole(results.blocks, row, parts, two),
+                   *whole(results.bytes, row, parts, two)]
 
 
-def main(rows_file, times_file, allocations_file, *callgrind_files):
-    counts = counted_instructions(callgrind_files)
-    times = median_times(times_file)
-    blocks = counted_allocations(allocations_file)
-    print("| Work | Stock widget | Instructions: ours | stock | floor | ours / stock | own / floor "
-          "| µs: ours | stock | floor | heap blocks: ours | stock | floor |")
-    print("|---|---|" + "--:|" * 11)
-    with open(rows_file, encoding="utf-8") as rows:
-        for line in rows:
-            row, stock = line.rstrip("\n").split("\t")
-            print(f"| {row} | {stock} | " + " | ".join(cells(row, counts, times, blocks)) + " |")
+def browsing(results):
+    for (count, way), figures in results.browsing().items():
+        yield [f"{count:,}", WAYS[way], *(f"{figure:,.0f}" for figure in figures)]
+
+
+def library(results):
+    for name, figure in results.facts().items():
+        yield [name, figure]
+    if LOADING in results.instructions:
+        yield [LOADING, f"{results.instructions[LOADING]:,} instructions"]
+    if LOADING in results.nanoseconds:
+        yield [LOADING, f"{results.nanoseconds[LOADING] / 1000:.1f} µs"]
+
+
+def report(results):
+    ours = [">ours", ">stock"]
+    return "\n".join(filter(None, [
+        table(["Aim", "Worst case", ">Measured", ">At most", "Reached"], aims(results)),
+        table(["Work", "Stock widget", ">Instructions: ours", ">stock", ">floor", ">ours / stock",
+               ">own / floor", ">µs: ours", ">stock", ">floor", ">heap blocks: ours", ">stock", ">floor"],
+              works(results)),
+        table(["Of each", "Stock widget", ">Instructions: ours", ">stock", ">ours / stock", ">µs: ours",
+               ">stock", ">heap blocks: ours", ">stock", ">bytes kept: ours", ">stock"], lives(results)),
+        table([">Files", "Opened with", ">first screenful, ms", ">all shown, ms", ">longest block, ms",
+               ">processor, ms", ">memory, kB"], browsing(results)),
+        table(["Change", "Stock widget", ">Pixels of the widget", ">painted: ours", ">stock"],
+              results.lines("damage")),
+        table([">Milliseconds at rest", ">wake-ups with every widget", ">with an empty window"],
+              results.lines("rest")),
+        table(["Library", ">"], library(results)),
+    ]))
+
+
+def replace_between_marks(document, text):
+    old = document.read_text(encoding="utf-8")
+    begin, end = MARKS
+    pattern = re.compile(f"{begin}.*{end}", re.DOTALL)
+    if not pattern.search(old):
+        sys.exit(f"table.py: {document} has not both marks")
+    document.write_text(pattern.sub(lambda _: f"{begin}\n{text}\n{end}", old), encoding="utf-8")
+
+
+def main(folder, document=None):
+    text = report(Results(folder))
+    print(text)
+    if document:
+        replace_between_marks(Path(document), text)
 
 
 if __name__ == "__main__":

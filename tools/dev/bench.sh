@@ -1,50 +1,39 @@
 #!/usr/bin/env bash
 # measure what the widgets cost beside stock widgets and bare drawing
 #
-# usage: ./dev bench
+# usage: ./dev bench [--filter REGEX] [--accept]
 #
-# Prints one table and writes it to build/bench/table.md. Instructions are counted with callgrind, so
-# they repeat; times are interleaved medians of one run.
+#   --filter REGEX  only the rows of the table whose names match, and nothing else
+#   --accept        write the tables into docs/benchmarks.md
+#
+# Prints the tables and writes them to build/bench/table.md. Instructions are counted with callgrind, so
+# they repeat; times are interleaved medians of one run. On a busy machine it takes half an hour.
 
-case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
-    "") ;;
-    *) unknown_option bench "$1" ;;
-esac
+filter=
+document=
+while [ $# -gt 0 ]; do
+    case "$1" in
+        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
+        --filter) filter=$(option_value bench "$1" $# "${2:-}"); shift ;;
+        --accept) document=docs/benchmarks.md ;;
+        *) unknown_option bench "$1" ;;
+    esac
+    shift
+done
+[ -z "$filter" ] || [ -z "$document" ] || die "bench: --accept is for the whole table, not for a part of it"
 
 need_packages build bench
-build bench platform_bench
-program=build/bench/bench/platform_bench
+build bench platform_bench platform_bench_loading
+. "$DEV_ROOT/tools/lib/bench.sh"
 results=build/bench/results
 rm -rf "$results"
 mkdir -p "$results"
-export QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96
 
-"$program" --rows >"$results/rows"
-"$program" --benchmark_enable_random_interleaving=true --benchmark_repetitions=9 --benchmark_min_time=0.02 \
-    --benchmark_report_aggregates_only=true \
-    --benchmark_out="$results/times.json" --benchmark_out_format=json >"$results/times.txt"
-"$program" --allocations >"$results/allocations"
-"$program" --browsing >"$results/browsing"
-valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file="$results/callgrind" \
-    "$program" --count >"$results/callgrind.log" 2>&1
-
-# What loading the library costs.
-library_facts() {
-    local library=build/bench/src/libplatform_widgets.so.1.2 stripped=$results/stripped
-    strip -o "$stripped" "$library"
-    echo "| Library | |"
-    echo "|---|--:|"
-    echo "| size, stripped | $(stat -c %s "$stripped") bytes |"
-    echo "| relocations | $(readelf -rW "$library" | grep -c ' R_') |"
-    echo "| exported symbols | $(nm -D --defined-only "$library" | wc -l) |"
-}
-
-{
-    python3 tools/bench/table.py "$results/rows" "$results/times.json" "$results/allocations" \
-        "$results"/callgrind.*
-    echo
-    cat "$results/browsing"
-    echo
-    library_facts
-} | tee build/bench/table.md
+measure_rows build/bench/bench/platform_bench "$results" "$filter"
+if [ -z "$filter" ]; then
+    measure_browsing build/bench/bench/platform_bench "$results"
+    measure_rest build/bench/bench/platform_bench "$results"
+    measure_library build/bench/src/libplatform_widgets.so.1.2 build/bench/bench/platform_bench_loading "$results"
+    note_run "$results"
+fi
+python3 tools/bench/table.py "$results" $document | tee build/bench/table.md

@@ -1,0 +1,55 @@
+"""What the widgets may cost at most, and whether they keep to it."""
+
+import re
+
+from figures import own_by_floor, quotient, shown
+
+FILES = 10000
+
+
+def by_floor(results):
+    counts = results.instructions
+    return {row: own_by_floor(counts, row) for row, _, _ in results.rows}
+
+
+def by_stock(pattern):
+    """Of the rows whose names match."""
+    return lambda results: {row: quotient(results.instructions, row, "stock")
+                            for row, _, _ in results.rows if re.search(pattern, row)}
+
+
+def by_bare_view(results):
+    opened = results.browsing()
+    ours, bare = opened.get((FILES, "ours")), opened.get((FILES, "bare"))
+    if not ours:
+        return {}
+    names = "first screenful", "all shown", "longest block", "processor time", "memory"
+    return {name: mine / other for name, mine, other in zip(names, ours, bare) if name != "memory"}
+
+
+def fact(name):
+    return lambda results: {"": int(results.facts()[name])} if name in results.facts() else {}
+
+
+AIMS = [
+    ("own instructions by the floor's", 1.05, by_floor),
+    ("battery by a QProgressBar", 1, by_stock("^battery")),
+    ("scroll indicator by a QScrollBar", 0.5, by_stock("^scroll indicator")),
+    ("frame's interior by a QFrame", 0.5, by_stock("child's update inside")),
+    ("switch in transition by a QCheckBox", 2, by_stock("^switch, a transition")),
+    ("switch at rest by a QCheckBox", 2, by_stock("^switch(, o| with)")),
+    ("10,000 files by a bare model and view", 1.1, by_bare_view),
+    ("bytes of the stripped library", 300 * 1024, fact("bytes, stripped")),
+    ("relocations", 1500, fact("relocations")),
+]
+
+
+def aims(results):
+    """The rows of the table of aims: the worst case of each."""
+    for name, limit, figures in AIMS:
+        known = {case: figure for case, figure in figures(results).items() if figure is not None}
+        if known:
+            case = max(known, key=known.get)
+            figure = known[case]
+            yield [name, case, f"{figure:,}" if isinstance(figure, int) else shown(figure), f"{limit:,}",
+                   "yes" if figure <= limit else "no"]
