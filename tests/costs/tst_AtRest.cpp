@@ -1,0 +1,203 @@
+#include "OffscreenMessages.h"
+#include "PaintRecorder.h"
+#include "TestApplication.h"
+
+#include <BreadCrumbsWidget.h>
+#include <ClickableLabel.h>
+#include <Switch.h>
+#include <ui/CBatteryStatusWidget.h>
+#include <ui/CGridArrangedButton.h>
+#include <ui/CRoundedFrame.h>
+#include <ui/FileBrowserWidget.h>
+#include <ui/FileSystemModel.h>
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+#include <ui/ScrollIndicatorBar.h>
+
+#include <QAbstractEventDispatcher>
+#include <QAbstractItemView>
+#include <QMetaProperty>
+
+#include <memory>
+
+namespace {
+
+using MakeWidget = QWidget* (*)(QWidget* parent);
+
+template <typename Widget>
+QWidget* make(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+QWidget* makeChargingBattery(QWidget* parent)
+{
+    auto* battery = new ui::CBatteryStatusWidget(parent);
+    battery->setChargePercentage(50);
+    battery->setBatteryCharging(true);
+    return battery;
+}
+
+QWidget* makeButton(QWidget* parent)
+{
+    auto* button = new ui::CGridArrangedButton(parent);
+    button->addWidget(new QLabel(QStringLiteral("1")), 0, 0);
+    return button;
+}
+
+QWidget* makeBrowser(QWidget* parent)
+{
+    auto* browser = new ui::FileBrowserWidget(parent);
+    browser->setAllowedDirs({QDir::rootPath()});
+    return browser;
+}
+
+/// The timers of \a object and all that it owns, and of the models of its views, which it may not own.
+QVector<int> timers(QObject* object)
+{
+    QVector<int> result;
+    const auto registered = QAbstractEventDispatcher::instance()->registeredTimers(object);
+    for (const auto& timer : registered)
+        result.append(timer.timerId);
+    if (const auto* view = qobject_cast<QAbstractItemView*>(object)) {
+        if (view->model() && view->model()->parent() != view)
+            result += timers(view->model());
+    }
+    for (QObject* child : object->children())
+        result += timers(child);
+    return result;
+}
+
+} // namespace
+
+/// What a widget does while nobody does anything to it: nothing.
+class tst_AtRest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void noTimerRuns_data();
+    void noTimerRuns();
+    void noTimerRunsAfterATransition();
+    void noTimerRunsAfterTheKeypad();
+    void nothingIsPaintedAgain_data();
+    void nothingIsPaintedAgain();
+
+private:
+    void addWidgets();
+    /// The widget of the row, shown.
+    QWidget* showWidget();
+
+    std::unique_ptr<QWidget> m_window;
+};
+
+Q_DECLARE_METATYPE(MakeWidget)
+
+void tst_AtRest::initTestCase()
+{
+    test::dropOffscreenMessages();
+}
+
+void tst_AtRest::init()
+{
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(800, 480);
+    m_window->setFocusPolicy(Qt::StrongFocus);
+}
+
+void tst_AtRest::addWidgets()
+{
+    QTest::addColumn<MakeWidget>("make");
+    QTest::newRow("CRoundedFrame") << MakeWidget(make<ui::CRoundedFrame>);
+    QTest::newRow("CGridArrangedButton") << MakeWidget(makeButton);
+    QTest::newRow("CBatteryStatusWidget") << MakeWidget(makeChargingBattery);
+    QTest::newRow("ScrollIndicatorBar") << MakeWidget(make<ui::widgets::ScrollIndicatorBar>);
+    QTest::newRow("LineEdit") << MakeWidget(make<ui::LineEdit>);
+    QTest::newRow("KeypadLineEdit") << MakeWidget(make<ui::KeypadLineEdit>);
+    QTest::newRow("Switch") << MakeWidget(make<Switch>);
+    QTest::newRow("ClickableLabel") << MakeWidget(make<ClickableLabel>);
+    QTest::newRow("BreadCrumbsWidget") << MakeWidget(make<BreadCrumbsWidget>);
+    QTest::newRow("FileBrowserWidget") << MakeWidget(makeBrowser);
+}
+
+QWidget* tst_AtRest::showWidget()
+{
+    QFETCH(MakeWidget, make);
+    QWidget* widget = make(m_window.get());
+    widget->resize(400, 200);
+    m_window->show();
+    return QTest::qWaitForWindowActive(m_window.get()) ? widget : nullptr;
+}
+
+void tst_AtRest::noTimerRuns_data()
+{
+    addWidgets();
+}
+
+void tst_AtRest::noTimerRuns()
+{
+    QVERIFY(showWidget());
+    QTRY_COMPARE(timers(m_window.get()), QVector<int>());
+}
+
+void tst_AtRest::noTimerRunsAfterATransition()
+{
+    auto* control = new Switch(m_window.get());
+    m_window->show();
+    control->setChecked(true);
+    const auto animations = control->findChildren<QAbstractAnimation*>();
+    QCOMPARE(animations.size(), 3);
+    QCOMPARE(animations.first()->state(), QAbstractAnimation::Running);
+    for (const QAbstractAnimation* animation : animations)
+        QTRY_COMPARE(animation->state(), QAbstractAnimation::Stopped);
+    QTRY_COMPARE(timers(m_window.get()), QVector<int>());
+}
+
+void tst_AtRest::noTimerRunsAfterTheKeypad()
+{
+    auto* field = new ui::KeypadLineEdit(m_window.get());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->setFocus();
+    field->setFocus(Qt::MouseFocusReason);
+    QTRY_VERIFY(field->keypad() && field->keypad()->isVisible());
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_VERIFY(!field->keypad()->isVisible());
+    QTRY_COMPARE(timers(m_window.get()), QVector<int>());
+}
+
+void tst_AtRest::nothingIsPaintedAgain_data()
+{
+    addWidgets();
+}
+
+void tst_AtRest::nothingIsPaintedAgain()
+{
+    QWidget* widget = showWidget();
+    QVERIFY(widget);
+    QTRY_COMPARE(timers(m_window.get()), QVector<int>());
+    test::PaintRecorder recorder(widget);
+    recorder.takeRegions();
+
+    const QMetaObject* meta = widget->metaObject();
+    // The library's classes stand before Qt's; all of theirs compare what they are set to.
+    while (!QByteArray(meta->className()).startsWith('Q')) {
+        for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+            const QMetaProperty property = meta->property(i);
+            if (qstrcmp(property.name(), "text") == 0)
+                continue; // QLineEdit's own setter, which paints the same text again
+            property.write(widget, property.read(widget));
+            QVERIFY2(recorder.takeRegions().isEmpty(), property.name());
+        }
+        meta = meta->superClass();
+    }
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_AtRest>(argc, argv);
+}
+
+#include "tst_AtRest.moc"
