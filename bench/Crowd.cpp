@@ -36,7 +36,6 @@ void Crowd::show()
         ++index;
     }
     QCoreApplication::sendPostedEvents();
-    m_window.repaint();
 }
 
 void Crowd::destroy()

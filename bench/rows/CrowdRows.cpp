@@ -48,6 +48,14 @@ QWidget* make(QWidget* parent)
     return new Widget(parent);
 }
 
+/// With an outline, as the rounded frame has one.
+QWidget* makeBox(QWidget* parent)
+{
+    auto* frame = new QFrame(parent);
+    frame->setFrameShape(QFrame::Box);
+    return frame;
+}
+
 /// As a part of a window, not as a dialog.
 QWidget* makeFileDialog(QWidget* parent)
 {
@@ -75,7 +83,7 @@ QVector<Kind> kinds()
 {
     using ui::widgets::ScrollIndicatorBar;
     return {
-        {"CRoundedFrame", make<ui::CRoundedFrame>, "QFrame", make<QFrame>},
+        {"CRoundedFrame", make<ui::CRoundedFrame>, "QFrame", makeBox},
         {"CGridArrangedButton", make<ui::CGridArrangedButton>, "QPushButton", make<QPushButton>},
         {"CBatteryStatusWidget", make<ui::CBatteryStatusWidget>, "QProgressBar",
          make<QProgressBar>},

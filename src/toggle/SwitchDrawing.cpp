@@ -60,7 +60,8 @@ QPixmap blurred(const QPixmap& pixmap)
     QPainter blur(&result);
     qt_blurImage(&blur, source, shadowBlurRadius, true, false);
     blur.end();
-    return QPixmap::fromImage(result);
+    // An image that has been painted on keeps its paint engine, nearly as large as this picture.
+    return QPixmap::fromImage(result.copy());
 }
 
 } // namespace
