@@ -12,10 +12,9 @@
 #include <QHeaderView>
 #include <QListView>
 #include <QPushButton>
+#include <QSharedPointer>
 #include <QTreeView>
 #include <QVBoxLayout>
-
-#include <memory>
 
 using platform::ui::style::Fonts;
 using platform::ui::style::StyleManager;
@@ -25,21 +24,6 @@ namespace ui {
 namespace {
 
 constexpr int maxSectionSize = 350; // pixels; leaves room for the date beside a long name
-
-/// A tree view that does not measure its rows while it is hidden: with many files that is a tenth of
-/// the work of opening a directory. The header asks anew when the view is shown.
-class ListView : public QTreeView
-{
-public:
-    using QTreeView::QTreeView;
-
-protected:
-    int sizeHintForColumn(int column) const override
-    {
-        constexpr int noHint = -1;
-        return isHidden() ? noHint : QTreeView::sizeHintForColumn(column);
-    }
-};
 
 void useFileBrowserFont(QWidget* widget)
 {
@@ -62,6 +46,23 @@ void setUpHeader(QHeaderView* header)
     header->setMaximumSectionSize(maxSectionSize);
 }
 
+// A header measures up to a thousand rows whenever the directory changes, hidden or not: with many
+// files that is a tenth of the work of opening a directory. It does so anew when it is shown.
+
+void hideListView(QTreeView* view)
+{
+    constexpr int visibleRows = 0;
+    view->header()->setResizeContentsPrecision(visibleRows);
+    view->hide();
+}
+
+void showListView(QTreeView* view)
+{
+    constexpr int manyRows = 1000; // Qt's default
+    view->header()->setResizeContentsPrecision(manyRows);
+    view->show();
+}
+
 } // namespace
 
 FileBrowserWidget::FileBrowserWidget(QWidget* parent)
@@ -70,7 +71,7 @@ FileBrowserWidget::FileBrowserWidget(QWidget* parent)
     , m_breadCrumbs(nullptr)
     , m_rootCombo(new QComboBox(this))
     , m_tileView(new QListView(this))
-    , m_listView(new ListView(this))
+    , m_listView(new QTreeView(this))
     , m_selectionMode(SingleSelection)
 {
     setObjectName(QStringLiteral("FileBrowser"));
@@ -113,14 +114,14 @@ QHBoxLayout* FileBrowserWidget::createNavBar()
     auto* tileButton = newToolbarButton(QStringLiteral(":/icons/tile_view.svg"), this);
     connect(tileButton, &QPushButton::clicked, this, [this] {
         m_tileView->show();
-        m_listView->hide();
+        hideListView(m_listView);
     });
     layout->addWidget(tileButton);
 
     auto* listButton = newToolbarButton(QStringLiteral(":/icons/list_view.svg"), this);
     connect(listButton, &QPushButton::clicked, this, [this] {
         m_tileView->hide();
-        m_listView->show();
+        showListView(m_listView);
     });
     layout->addWidget(listButton);
     return layout;
@@ -129,7 +130,7 @@ QHBoxLayout* FileBrowserWidget::createNavBar()
 QVBoxLayout* FileBrowserWidget::createFileView()
 {
     auto* layout = new QVBoxLayout;
-    const auto handler = std::make_shared<SelectionHandler>(
+    const auto handler = QSharedPointer<SelectionHandler>::create(
         this, m_model, m_tileView, [this](const QString& path) { openDirectory(path); });
 
     m_tileView->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -159,7 +160,7 @@ QVBoxLayout* FileBrowserWidget::createFileView()
     connect(m_listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [handler] { handler->run(); });
     layout->addWidget(m_listView);
-    m_listView->hide();
+    hideListView(m_listView);
     return layout;
 }
 
