@@ -24,8 +24,10 @@ function(platform_add_library name component)
     target_compile_options(${target} PRIVATE
         $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>
         -fno-semantic-interposition)
+    # Its own symbols are bound here and not when it is loaded: Qt's headers insist on applications that
+    # are compiled with -fPIC, which copy none of them.
     target_link_options(${target} PRIVATE
-        LINKER:--no-undefined LINKER:--as-needed LINKER:-z,now LINKER:-z,relro)
+        LINKER:-Bsymbolic LINKER:--no-undefined LINKER:--as-needed LINKER:-z,now LINKER:-z,relro)
     platform_limit_exports(${target} ${ARGN})
 
     install(FILES "${PROJECT_BINARY_DIR}/include/${target}_export.h"
