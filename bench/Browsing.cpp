@@ -10,12 +10,13 @@
 #include <QFileSystemModel>
 #include <QListView>
 #include <QTextStream>
-#include <QThread>
 
 #include <platform/ui/style/StyleManager.h>
 
+#include <chrono>
 #include <ctime>
 #include <memory>
+#include <thread>
 
 using platform::ui::style::Fonts;
 using platform::ui::style::StyleManager;
@@ -105,12 +106,13 @@ public:
     {
         constexpr qint64 patience = 300000;
         constexpr int quiet = 100;
+        constexpr std::chrono::milliseconds pause(1);
         int quietTurns = 0;
         while (quietTurns < quiet && m_clock.elapsed() < patience) {
             turn();
             note(count);
             quietTurns = m_busy || m_all < 0 ? 0 : quietTurns + 1;
-            QThread::msleep(1); // leaves the processor to the model's thread
+            std::this_thread::sleep_for(pause); // leaves the processor to the model's thread
         }
     }
 

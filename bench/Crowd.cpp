@@ -1,6 +1,7 @@
 #include "Crowd.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 
 namespace bench {
 
@@ -35,7 +36,8 @@ void Crowd::show()
         member->show();
         ++index;
     }
-    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    m_window.repaint();
 }
 
 void Crowd::destroy()
