@@ -39,6 +39,9 @@ QVector<Row> allRows()
     for (auto* family : {frameRows, switchRows, batteryRows, scrollIndicatorRows, buttonRows,
                          textRows, keypadRows, crowdRows})
         result += family();
+#ifdef BENCH_PEERS
+    result += peerRows();
+#endif
     return result;
 }
 

@@ -9,6 +9,7 @@ QVector<Row> buttonRows();
 QVector<Row> crowdRows();
 QVector<Row> frameRows();
 QVector<Row> keypadRows();
+QVector<Row> peerRows(); ///< Only in a build with the peers.
 QVector<Row> scrollIndicatorRows();
 QVector<Row> switchRows();
 QVector<Row> textRows();

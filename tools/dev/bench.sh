@@ -1,20 +1,24 @@
 #!/usr/bin/env bash
 # measure what the widgets cost beside stock widgets and bare drawing
 #
-# usage: ./dev bench [--filter REGEX] [--accept]
+# usage: ./dev bench [--filter REGEX] [--peers] [--accept]
 #
 #   --filter REGEX  only the rows of the table whose names match, and nothing else
+#   --peers         only the rows beside widgets of other libraries, whose packages it installs
 #   --accept        write the tables into docs/benchmarks.md
 #
-# Prints the tables and writes them to build/bench/table.md. Instructions are counted with callgrind, so
-# they repeat; times are interleaved medians of one run. On a busy machine it takes half an hour.
+# Prints the tables and writes them to table.md in the folder of the build. Instructions are counted with
+# callgrind, so they repeat; times are interleaved medians of one run.
 
+preset=bench
+packages=(build bench)
 filter=
 document=
 while [ $# -gt 0 ]; do
     case "$1" in
         --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --filter) filter=$(option_value bench "$1" $# "${2:-}"); shift ;;
+        --peers) preset=bench-peers packages+=(peers) filter=^peers: ;;
         --accept) document=docs/benchmarks.md ;;
         *) unknown_option bench "$1" ;;
     esac
@@ -22,18 +26,20 @@ while [ $# -gt 0 ]; do
 done
 [ -z "$filter" ] || [ -z "$document" ] || die "bench: --accept is for the whole table, not for a part of it"
 
-need_packages build bench
-build bench platform_bench platform_bench_loading
+need_packages "${packages[@]}"
+build "$preset" platform_bench platform_bench_loading
 . "$DEV_ROOT/tools/lib/bench.sh"
-results=build/bench/results
+build=build/$preset
+program=$build/bench/platform_bench
+results=$build/results
 rm -rf "$results"
 mkdir -p "$results"
 
-measure_rows build/bench/bench/platform_bench "$results" "$filter"
+measure_rows "$program" "$results" "$filter"
 if [ -z "$filter" ]; then
-    measure_browsing build/bench/bench/platform_bench "$results"
-    measure_rest build/bench/bench/platform_bench "$results"
-    measure_library build/bench/src/libplatform_widgets.so.1.2 build/bench/bench/platform_bench_loading "$results"
+    measure_browsing "$program" "$results"
+    measure_rest "$program" "$results"
+    measure_library "$build/src/libplatform_widgets.so.1.2" "$build/bench/platform_bench_loading" "$results"
     note_run "$results"
 fi
-python3 tools/bench/table.py "$results" $document | tee build/bench/table.md
+python3 tools/bench/table.py "$results" $document | tee "$build/table.md"
