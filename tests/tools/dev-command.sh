@@ -40,6 +40,8 @@ refuses "--filter needs a value" test --filter
 refuses "unknown checker 'frob'" lint frob
 refuses "unknown option '--frob'" mutants --frob
 refuses "--file needs a value" mutants --file
+refuses "--filter needs a value" bench --filter
+refuses "--accept is for the whole table" bench --accept --filter frame
 refuses "too many arguments" abi --accept --accept
 
 # Missing packages, with a stand-in for each system tool. The log shows what would be installed.
