@@ -24,10 +24,9 @@ function(platform_add_library name component)
     target_compile_options(${target} PRIVATE
         $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>
         -fno-semantic-interposition)
-    # Its own symbols are bound here and not when it is loaded: Qt's headers insist on applications that
-    # are compiled with -fPIC, which copy none of them.
     target_link_options(${target} PRIVATE
-        LINKER:-Bsymbolic LINKER:--no-undefined LINKER:--as-needed LINKER:-z,now LINKER:-z,relro)
+        LINKER:--no-undefined LINKER:--as-needed LINKER:-z,now LINKER:-z,relro)
+    platform_bind_symbols(${target})
     platform_limit_exports(${target} ${ARGN})
 
     install(FILES "${PROJECT_BINARY_DIR}/include/${target}_export.h"
@@ -38,6 +37,16 @@ function(platform_add_library name component)
             DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT ${component}
             NAMELINK_COMPONENT development)
+endfunction()
+
+# Binds the library's own symbols when it is linked instead of when it is loaded, where Qt does so too.
+# Applications have to be compiled with -fPIC then, as Qt insists, since any other code would have its
+# own addresses of the library's signals and meta-objects.
+function(platform_bind_symbols target)
+    get_target_property(demands Qt5::Core INTERFACE_COMPILE_OPTIONS)
+    if("-fPIC" IN_LIST demands)
+        target_link_options(${target} PRIVATE LINKER:-Bsymbolic)
+    endif()
 endfunction()
 
 # Hidden visibility does not reach everything that the compiler instantiates from the headers of Qt
