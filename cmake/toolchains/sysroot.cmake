@@ -30,4 +30,13 @@ if(PLATFORM_DEVICE_PREFIX)
     list(APPEND CMAKE_FIND_ROOT_PATH "${PLATFORM_DEVICE_PREFIX}")
 endif()
 
+# Qt's own package would run the tools of the sysroot, which are for its processor.
+set(PLATFORM_QT_TOOLS "/usr/lib/qt5/bin" CACHE PATH "Folder of this machine's moc, rcc, uic and qmake")
+foreach(tool IN ITEMS moc rcc uic qmake)
+    if(NOT TARGET Qt5::${tool})
+        add_executable(Qt5::${tool} IMPORTED)
+        set_target_properties(Qt5::${tool} PROPERTIES IMPORTED_LOCATION "${PLATFORM_QT_TOOLS}/${tool}")
+    endif()
+endforeach()
+
 set(CMAKE_CROSSCOMPILING_EMULATOR ${PLATFORM_EMULATOR} -L "${CMAKE_SYSROOT}")

@@ -40,7 +40,6 @@ private Q_SLOTS:
 private:
     QProcessEnvironment environment() const;
     Outcome run(const QStringList& arguments) const;
-    static void start(QProcess& process, const QStringList& arguments);
     QString write(const QString& name, const QByteArray& content) const;
 
     QTemporaryDir m_directory;
@@ -56,19 +55,12 @@ QProcessEnvironment tst_GalleryOptions::environment() const
     return variables;
 }
 
-void tst_GalleryOptions::start(QProcess& process, const QStringList& arguments)
-{
-    QStringList command = QStringLiteral(GALLERY_COMMAND).split(QLatin1Char('|'));
-    const QString program = command.takeFirst();
-    process.start(program, command + arguments);
-}
-
 Outcome tst_GalleryOptions::run(const QStringList& arguments) const
 {
     QProcess process;
     process.setProcessEnvironment(environment());
     process.setWorkingDirectory(m_directory.path());
-    start(process, arguments);
+    process.start(QStringLiteral(GALLERY_PROGRAM), arguments);
     if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, QString(), process.errorString()};
     return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),
@@ -112,7 +104,7 @@ void tst_GalleryOptions::listsPagesInGerman()
     QProcessEnvironment variables = environment();
     variables.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
     process.setProcessEnvironment(variables);
-    start(process, {QStringLiteral("--list-pages")});
+    process.start(QStringLiteral(GALLERY_PROGRAM), {QStringLiteral("--list-pages")});
     QVERIFY(process.waitForFinished(120000));
     QVERIFY(process.readAllStandardOutput().contains("frames\tRahmen\n"));
 }
@@ -234,7 +226,8 @@ void tst_GalleryOptions::opensWindow()
     QProcessEnvironment variables = environment();
     variables.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     process.setProcessEnvironment(variables);
-    start(process, {QStringLiteral("--page"), QStringLiteral("overview"), m_directory.path()});
+    process.start(QStringLiteral(GALLERY_PROGRAM),
+                  {QStringLiteral("--page"), QStringLiteral("overview"), m_directory.path()});
     QVERIFY(process.waitForStarted());
     QVERIFY(!process.waitForFinished(2000)); // it waits for its visitor
     process.terminate();

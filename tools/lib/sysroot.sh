@@ -23,7 +23,6 @@ make_sysroot() {
     unpack_packages "$arch" "$packages" "$sources" | tar -x -C "$dir" ./usr ./lib ./etc/fonts \
         || die "no $arch sysroot could be made"
     make_links_relative "$dir"
-    use_host_tools "$dir"
     echo "$packages" >"$dir/packages"
 }
 
@@ -39,15 +38,5 @@ make_links_relative() {
     find "$dir" -lname '/*' | while IFS= read -r link; do
         target=$(readlink "$link")
         ln -sfnr "$dir$target" "$link"
-    done
-}
-
-# Qt's tools that a build runs are taken from this machine.
-use_host_tools() {
-    local tool
-    find "$1/usr/lib" -path '*/qt5/bin/*' | while IFS= read -r tool; do
-        if [ -x "/usr/lib/qt5/bin/${tool##*/}" ]; then
-            ln -sf "/usr/lib/qt5/bin/${tool##*/}" "$tool"
-        fi
     done
 }
