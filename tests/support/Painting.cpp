@@ -8,12 +8,6 @@ namespace test {
 
 namespace {
 
-bool samePixel(QRgb a, QRgb b, int tolerance)
-{
-    return qAbs(qRed(a) - qRed(b)) <= tolerance && qAbs(qGreen(a) - qGreen(b)) <= tolerance
-        && qAbs(qBlue(a) - qBlue(b)) <= tolerance && qAbs(qAlpha(a) - qAlpha(b)) <= tolerance;
-}
-
 QString saved(const QImage& image, const QString& kind)
 {
     QString name = QString::fromUtf8(QTest::currentTestFunction());
@@ -53,7 +47,7 @@ QImage paintedBy(QWidget& widget, qreal devicePixelRatio, const QRegion& region,
     return image;
 }
 
-bool sameImage(const QImage& actual, const QImage& expected, int tolerance)
+bool sameImage(const QImage& actual, const QImage& expected)
 {
     if (actual.size() != expected.size()) {
         return report(actual, expected,
@@ -67,7 +61,7 @@ bool sameImage(const QImage& actual, const QImage& expected, int tolerance)
     const QImage b = expected.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x) {
-            if (!samePixel(a.pixel(x, y), b.pixel(x, y), tolerance)) {
+            if (a.pixel(x, y) != b.pixel(x, y)) {
                 return report(actual, expected,
                               QStringLiteral("pixel (%1, %2) is #%3, expected #%4")
                                   .arg(x)

@@ -22,10 +22,10 @@ QImage paintedBy(QWidget& widget, qreal devicePixelRatio = 1.0, const QRegion& r
                  const QColor& background = Qt::white);
 
 /**
- * Whether the two images agree in size and in every pixel, each channel within \a tolerance.
+ * Whether the two images agree in size and in every pixel.
  * Where they do not, prints the first differing pixel and leaves both as PNG files in the
  * working directory of the test.
  */
-bool sameImage(const QImage& actual, const QImage& expected, int tolerance = 0);
+bool sameImage(const QImage& actual, const QImage& expected);
 
 } // namespace test
