@@ -1,26 +1,31 @@
 # Debian packages, one for each install component that the build has. Made by ./dev package.
 #
 # platform_describe_package(COMPONENT PACKAGE
-#     SUMMARY text      the first line of its description, less the common end
-#     SECTION section   of Debian's archive; libs by default
+#     SUMMARY text      the first line of its description
+#     DESCRIPTION text  what follows after what all packages say
+#     SECTION section   of Debian's archive
 #     [DEPENDS ...]     besides the shared libraries, which are computed
-#     [PROVIDES ...]
+#     [REPLACES name]   a name that it provides, and that no other installed package may provide
 #     [SHLIBS lines]    which package other packages need that link its libraries
 #     [ALL])            the same for every processor
 macro(platform_describe_package component package)
-    cmake_parse_arguments(arg "ALL" "SUMMARY;SECTION" "DEPENDS;PROVIDES;SHLIBS" ${ARGN})
+    cmake_parse_arguments(arg "ALL" "SUMMARY;DESCRIPTION;SECTION;REPLACES" "DEPENDS;SHLIBS" ${ARGN})
     string(TOUPPER ${component} upper)
     string(REPLACE ";" ", " CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${arg_DEPENDS}")
-    string(REPLACE ";" ", " CPACK_DEBIAN_${upper}_PACKAGE_PROVIDES "${arg_PROVIDES}")
+    foreach(relation IN ITEMS PROVIDES CONFLICTS REPLACES)
+        set(CPACK_DEBIAN_${upper}_PACKAGE_${relation} "${arg_REPLACES}")
+    endforeach()
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
     set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${arg_SECTION})
-    set(CPACK_DEBIAN_${upper}_DESCRIPTION "${arg_SUMMARY}\n${PROJECT_DESCRIPTION}.")
+    set(CPACK_DEBIAN_${upper}_DESCRIPTION
+        "${arg_SUMMARY}\n${PROJECT_DESCRIPTION}.\n\n${arg_DESCRIPTION}")
     set(CPACK_DEBIAN_${upper}_PACKAGE_SHLIBDEPS ON)
     if(arg_SHLIBS)
         list(JOIN arg_SHLIBS "\n" shlibs)
-        file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/packages/${component}/shlibs" CONTENT "${shlibs}\n")
-        set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA
-            "${PROJECT_BINARY_DIR}/packages/${component}/shlibs")
+        set(control "${PROJECT_BINARY_DIR}/packages/${component}")
+        file(CONFIGURE OUTPUT "${control}/shlibs" CONTENT "${shlibs}\n")
+        file(CONFIGURE OUTPUT "${control}/triggers" CONTENT "activate-noawait ldconfig\n")
+        set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA "${control}/shlibs" "${control}/triggers")
     endif()
     if(arg_ALL)
         set(CPACK_DEBIAN_${upper}_PACKAGE_ARCHITECTURE all)
@@ -29,6 +34,7 @@ macro(platform_describe_package component package)
 endmacro()
 
 set(same_version "(= ${PROJECT_VERSION})")
+set(runtime libplatform-widgets${PROJECT_VERSION}) # with the soname, as another one may lie beside it
 
 # The device brings libraries of its own in place of the stand-ins: built against those, the
 # library's package leaves them to the device.
@@ -39,32 +45,44 @@ if(PLATFORM_DEVICE_PREFIX)
     set(standins)
 endif()
 
-platform_describe_package(runtime platform-widgets
+platform_describe_package(runtime ${runtime}
     SUMMARY "touch-screen widgets for Qt 5"
+    DESCRIPTION "This package contains the shared library."
     SECTION libs
     DEPENDS ${device_libraries} libqt5svg5 # Qt loads the plugin that reads the icons by itself
-    SHLIBS "libplatform_widgets 1.2 platform-widgets (>= ${PROJECT_VERSION})")
+    SHLIBS "libplatform_widgets ${PROJECT_VERSION} ${runtime} (>= ${PROJECT_VERSION})")
 platform_describe_package(standins platform-widgets-standins
     SUMMARY "touch-screen widgets for Qt 5 - stand-ins for a device's libraries"
+    DESCRIPTION "This package contains a style and a keyboard library for machines that have
+none. A device brings its own, in a package that provides
+platform-device-libraries."
     SECTION libs
-    PROVIDES platform-device-libraries
+    REPLACES platform-device-libraries
     SHLIBS
-        "libplatform_style 1.2 platform-widgets-standins | platform-device-libraries"
-        "libplatform_keyboard 1.2 platform-widgets-standins | platform-device-libraries")
-platform_describe_package(development platform-widgets-dev
+        "libplatform_style ${PROJECT_VERSION} platform-widgets-standins | platform-device-libraries"
+        "libplatform_keyboard ${PROJECT_VERSION} platform-widgets-standins | platform-device-libraries")
+platform_describe_package(development libplatform-widgets-dev
     SUMMARY "touch-screen widgets for Qt 5 - development files"
+    DESCRIPTION "This package contains the headers and what CMake, pkg-config and qmake need to
+find the library."
     SECTION libdevel
-    DEPENDS "platform-widgets ${same_version}" ${standins} "qtbase5-dev (>= 5.15)")
+    DEPENDS "${runtime} ${same_version}" ${standins} "qtbase5-dev (>= 5.15)")
 platform_describe_package(gallery platform-widgets-gallery
     SUMMARY "touch-screen widgets for Qt 5 - gallery"
+    DESCRIPTION "This package contains an application that shows every widget live and takes
+pictures of all of them."
     SECTION x11
-    DEPENDS "platform-widgets ${same_version}" fonts-dejavu-core qttranslations5-l10n)
+    DEPENDS "${runtime} ${same_version}" fonts-dejavu-core qttranslations5-l10n)
 platform_describe_package(designer platform-widgets-designer
     SUMMARY "touch-screen widgets for Qt 5 - plugin for Qt Designer"
+    DESCRIPTION "This package contains the plugin with which Qt Designer offers the widgets and
+QUiLoader makes them."
     SECTION devel
-    DEPENDS "platform-widgets ${same_version}" qttools5-dev-tools)
-platform_describe_package(documentation platform-widgets-doc
+    DEPENDS "${runtime} ${same_version}" qttools5-dev-tools)
+platform_describe_package(documentation libplatform-widgets-doc
     SUMMARY "touch-screen widgets for Qt 5 - reference"
+    DESCRIPTION "This package contains the reference as HTML pages and as a file for Qt
+Assistant."
     SECTION doc
     ALL)
 
@@ -78,6 +96,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON) # whatever the umask
 # Where the project's own libraries are while the packages are made.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
     "${PROJECT_BINARY_DIR}/src"

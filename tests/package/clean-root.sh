@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages on a clean Debian root in a temporary folder and uses them there:
-# the gallery takes its pictures, and applications are built with CMake, pkg-config and qmake.
+# the gallery takes its pictures, applications are built with CMake, pkg-config and qmake, Designer
+# loads the plugin, Assistant takes the reference, and a device gets no stand-in.
 #
 # usage: clean-root.sh SOURCE_DIR PACKAGE_DIR SOURCES_LIST
 # The pictures are left in PACKAGE_DIR/pictures.
@@ -18,6 +19,7 @@ chmod 755 "$scratch" # mmdebstrap may work as another user
 mkdir "$scratch/check"
 cp "$package_dir"/*.deb "$scratch/check"
 cp "$source_dir"/tests/package/{example,inside-clean-root}.sh "$scratch/check"
+cp "$source_dir/tests/designer/AllWidgets.ui" "$scratch/check"
 cp -r "$source_dir/tests/package/consumer" "$scratch/check/consumer"
 readme_example "$source_dir" >"$scratch/check/consumer/main.cpp"
 
