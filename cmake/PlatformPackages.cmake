@@ -97,11 +97,16 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON) # whatever the umask
-# Where the project's own libraries are while the packages are made.
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
-    "${PROJECT_BINARY_DIR}/src"
-    "${PROJECT_BINARY_DIR}/platform/style"
-    "${PROJECT_BINARY_DIR}/platform/keyboard")
+# Where the libraries are that the packages need, before they are installed.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/src")
+foreach(name IN ITEMS style keyboard)
+    if(PLATFORM_DEVICE_PREFIX)
+        get_filename_component(folder "${PLATFORM_DEVICE_${name}_LIBRARY}" DIRECTORY)
+    else()
+        set(folder "${PROJECT_BINARY_DIR}/platform/${name}")
+    endif()
+    list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${folder}")
+endforeach()
 get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
 list(REMOVE_ITEM CPACK_COMPONENTS_ALL Unspecified)
 

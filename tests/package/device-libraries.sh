@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds the library against device libraries from a prefix, for which the installed stand-ins serve
-# here, and sees that no stand-in is built and that the package finds the device's libraries again.
+# here, and sees that no stand-in is built, that the package finds the device's libraries again, and
+# that the Debian packages leave them to the device.
 #
 # usage: device-libraries.sh SOURCE_DIR BUILD_DIR
 set -euo pipefail
@@ -26,6 +27,12 @@ cmake --build "$scratch/build"
 
 if find "$scratch/build" -name 'libplatform_style*' -o -name 'libplatform_keyboard*' | grep .; then
     echo "a stand-in was built beside the device's libraries" >&2
+    exit 1
+fi
+
+(cd "$scratch/build" && cpack >cpack.log 2>&1) || { cat "$scratch/build/cpack.log" >&2; exit 1; }
+if dpkg-deb -f "$scratch"/build/libplatform-widgets1.2_*.deb Depends | grep platform; then
+    echo "the package asks for another one with the device's libraries" >&2
     exit 1
 fi
 
