@@ -14,6 +14,7 @@ namespace {
 constexpr int indexLimit = 1000;
 constexpr int maxCells = 12; // the columns and rows of the ordinary uses
 constexpr int maxChildren = 20;
+constexpr int largestButton = 1000;
 constexpr int maxLength = 2000; // of a cell; Qt adds lengths up without looking
 
 /// The children and the stretches of a grid button, which must be as large as its grid.
@@ -99,7 +100,12 @@ QWidget* GridButtonMachine::create()
 {
     m_children.clear();
     m_stretches.clear();
-    return new CGridArrangedButton(QStringLiteral("grid"));
+    auto* button = new CGridArrangedButton(QStringLiteral("grid"));
+    // Qt's style keeps a picture of the whole button, and a window takes memory for all its pixels:
+    // neither may become as large as the grid wants to be.
+    button->setMaximumSize(largestButton, largestButton);
+    button->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    return button;
 }
 
 /// Mostly of the first rows and columns.

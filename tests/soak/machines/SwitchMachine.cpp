@@ -145,7 +145,7 @@ void SwitchMachine::checkState()
     compare("animators", animators.size(), 3);
     const QVariantList ends = m_model.ends();
     for (int i = 0; i < animators.size(); ++i) {
-        if (animators.at(i)->state() == QAbstractAnimation::Stopped)
+        if (ends.at(i).isValid() && animators.at(i)->state() == QAbstractAnimation::Stopped)
             compare("animator at rest", plain(animators.at(i)->currentValue()), plain(ends.at(i)));
     }
 }

@@ -30,8 +30,12 @@ void SwitchModel::set(Switch& toggle, const char* property, const QVariant& valu
     const bool same = animation
         ? before.value<Style::Animation>() == value.value<Style::Animation>()
         : before == value;
-    if (!same)
-        refresh(toggle);
+    if (same)
+        return;
+    refresh(toggle);
+    // Qt tells an animation's progress from the time that it ran: another duration moves the thumb.
+    if (qstrcmp(property, "thumbPosAnimation") == 0)
+        m_position = QVariant();
 }
 
 void SwitchModel::setMargin(Switch& toggle, const QMargins& margin)

@@ -20,7 +20,7 @@ public:
     /// The state has been set.
     void rest(const Switch& toggle, bool on);
 
-    /// Of the thumb's colour, the track's colour and the thumb's position.
+    /// Of the thumb's colour, the track's colour and the thumb's position, invalid if it may be any.
     QVariantList ends() const;
 
 private:
