@@ -29,6 +29,9 @@ namespace widgets {
  *
  * The handle's length stands to the groove's as the page step to range and page step together; it
  * has one pixel at least, and just one where the range is larger than 0x3FFFFFFF.
+ *
+ * It can be painted with any range. Of one that is larger than an int, say from INT_MIN to INT_MAX,
+ * QScrollBar divides by zero where the mouse presses it.
  */
 class PLATFORM_WIDGETS_EXPORT ScrollIndicatorBar : public QScrollBar
 {

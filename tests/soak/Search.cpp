@@ -10,9 +10,12 @@ namespace soak {
 namespace {
 
 constexpr int maxTrials = 500;
+constexpr int maxLines = 100; // more can be had from the seed
 
-QString report(const QString& widget, quint32 seed, const Verdict& verdict, const QStringList& lines)
+QString report(const QString& widget, quint32 seed, const Verdict& verdict, QStringList lines)
 {
+    if (lines.size() > maxLines)
+        lines = QStringList(QStringLiteral("...")) + lines.mid(lines.size() - maxLines);
     return QStringLiteral("%1, seed %2, step %3: %4\nFewest steps found that do the same:\n  %5\n")
         .arg(widget)
         .arg(seed)

@@ -40,14 +40,13 @@ int searchIn(const QString& widget, const QString& seed, const QString& count)
     timer.start();
     const QString report = soak::search(QCoreApplication::applicationFilePath(), widget,
                                         seed.toUInt(), count.toInt());
-    if (!report.isEmpty()) {
-        print(report);
-        return 1;
-    }
-    print(QStringLiteral("%1: %2 steps from seed %3 in %4 s\n")
+    const int failures = report.isEmpty() ? 0 : 1;
+    print(report);
+    print(QStringLiteral("%1: %2 steps from seed %3, %4 s, %5 failures\n")
               .arg(widget, count, seed)
-              .arg(timer.elapsed() / 1000));
-    return 0;
+              .arg(timer.elapsed() / 1000)
+              .arg(failures));
+    return failures;
 }
 
 int playFile(const QString& widget, const QString& fileName, const QString& progressFile)

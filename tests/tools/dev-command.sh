@@ -42,6 +42,9 @@ refuses "unknown option '--frob'" mutants --frob
 refuses "--file needs a value" mutants --file
 refuses "--filter needs a value" bench --filter
 refuses "--accept is for the whole table" bench --accept --filter frame
+refuses "unknown option '--frob'" soak --frob
+refuses "--seed needs a value" soak --seed
+refuses "not a number: 'many'" soak --steps many
 refuses "too many arguments" abi --accept --accept
 
 # Missing packages, with a stand-in for each system tool. The log shows what would be installed.

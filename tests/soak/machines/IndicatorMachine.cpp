@@ -2,11 +2,16 @@
 
 #include <ui/ScrollIndicatorBar.h>
 
+#include <limits>
+
 using ui::widgets::ScrollIndicatorBar;
 
 namespace soak {
 
 namespace {
+
+/// Of a wider range, Qt divides by zero where a scroll bar is pressed.
+constexpr qint64 widestRange = std::numeric_limits<int>::max();
 
 /// A scroll indicator beside a plain QScrollBar that is told the same.
 class IndicatorMachine : public WidgetMachine
@@ -43,7 +48,9 @@ IndicatorMachine::IndicatorMachine(const std::shared_ptr<Stage>& stage)
     addBoth("setValue", 5, [](QScrollBar& each, int value, int) { each.setValue(value); });
     addBoth("setSliderPosition", 2,
             [](QScrollBar& each, int value, int) { each.setSliderPosition(value); });
-    addBoth("setRange", 3, [](QScrollBar& each, int low, int high) { each.setRange(low, high); });
+    addBoth("setRange", 3, [](QScrollBar& each, int low, int high) {
+        each.setRange(low, int(qMin<qint64>(high, low + widestRange)));
+    });
     addBoth("setSteps", 2, [](QScrollBar& each, int single, int page) {
         each.setSingleStep(single);
         each.setPageStep(page);

@@ -10,6 +10,8 @@
 #include <QtTest/qtestmouse.h>
 #include <QWindow>
 
+#include <algorithm>
+
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;
@@ -43,7 +45,16 @@ private:
     QPointer<LineEditModel> m_model;
     QPointer<KeypadPopup> m_seen;
     int m_type = 0;
+    bool m_refocused = false; ///< Whether the pop-up has given back the focus that its showing took.
 };
+
+bool isOnlyPopup(const QWidget* popup)
+{
+    const auto windows = QApplication::topLevelWidgets();
+    return std::none_of(windows.begin(), windows.end(), [popup](const QWidget* window) {
+        return window != popup && window->windowType() == Qt::Popup && window->isVisible();
+    });
+}
 
 KeypadFieldMachine::KeypadFieldMachine(const std::shared_ptr<Stage>& stage)
     : WidgetMachine(stage)
@@ -65,9 +76,10 @@ QWidget* KeypadFieldMachine::create()
     m_type = (m_type + 1) % 3;
     auto* created = new KeypadLineEdit(nullptr, KeyboardType(m_type));
     m_model = new LineEditModel(created, this);
-    m_model->ignorePopupFocus();
+    m_model->setHasKeypad();
     QObject::connect(created, &KeypadLineEdit::startKeypad, created, [this, created] {
         expect(created->keypad() && created->keypad()->isVisible(), "startKeypad() follows the show");
+        m_refocused = created->hasFocus() && isOnlyPopup(created->keypad());
     });
     return created;
 }
@@ -136,8 +148,9 @@ void KeypadFieldMachine::end(const QString& key)
         if (button->accessibleName() != key || !button->isEnabled())
             continue;
         const QString text = field().text();
+        const bool acceptable = field().hasAcceptableInput(); // else Qt may let its validator mend it
         button->click();
-        if (key == QLatin1String("OK"))
+        if (key == QLatin1String("OK") && acceptable)
             compare("committed text", field().text(), text);
         turnEventLoop();
         expect(!isUp(), "the keypad is down one turn after OK or Cancel");
@@ -150,7 +163,8 @@ void KeypadFieldMachine::tapOutside()
 {
     turnEventLoop();
     QWindow* window = field().window()->windowHandle();
-    if (!isUp() || QApplication::activePopupWidget() != field().keypad() || !window)
+    const bool isEdited = field().isVisible() && m_refocused;
+    if (!isUp() || !isEdited || QApplication::activePopupWidget() != field().keypad() || !window)
         return;
     const QPoint below(0, field().window()->height() + 500); // and below the keypad too
     qt_handleMouseEvent(window, below, window->mapToGlobal(below), Qt::LeftButton, Qt::LeftButton,

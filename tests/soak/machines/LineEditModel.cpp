@@ -2,6 +2,7 @@
 
 #include "Machine.h"
 
+#include <ui/KeypadPopup.h>
 #include <ui/LineEdit.h>
 
 #include <QFocusEvent>
@@ -19,9 +20,9 @@ LineEditModel::LineEditModel(ui::LineEdit* field, Machine* machine)
     connect(field, &ui::LineEdit::signalCancelKey, this, &LineEditModel::checkRestored);
 }
 
-void LineEditModel::ignorePopupFocus()
+void LineEditModel::setHasKeypad()
 {
-    m_ignorePopupFocus = true;
+    m_hasKeypad = true;
 }
 
 void LineEditModel::check()
@@ -34,7 +35,7 @@ bool LineEditModel::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_field && event->type() == QEvent::FocusIn) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::PopupFocusReason || !m_ignorePopupFocus)
+        if (reason != Qt::PopupFocusReason || !m_hasKeypad)
             m_saved = m_field->text();
     }
     return false;
@@ -63,7 +64,13 @@ bool LineEditModel::isAcceptable(QString text) const
 void LineEditModel::checkRestored()
 {
     m_machine->compare("restored text", m_field->text(), m_saved.left(m_field->maxLength()));
-    m_machine->expect(!m_field->hasFocus(), "a Cancel gives up the focus");
+    m_machine->expect(!m_field->hasFocus() || isKeypadUp(), "a Cancel gives up the focus");
+}
+
+bool LineEditModel::isKeypadUp() const
+{
+    const auto* popup = m_field->findChild<ui::KeypadPopup*>();
+    return m_hasKeypad && popup && popup->isVisible();
 }
 
 } // namespace soak

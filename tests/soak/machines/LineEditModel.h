@@ -20,8 +20,9 @@ public:
     /// \a field owns the model; \a machine outlives it.
     LineEditModel(ui::LineEdit* field, Machine* machine);
 
-    /// Of the focus that is given up at once, a keypad's field takes no notice.
-    void ignorePopupFocus();
+    /// A field with a keypad takes no notice of the focus that it gives up at once, and its keypad
+    /// gives the focus back once.
+    void setHasKeypad();
 
     void check();
 
@@ -31,10 +32,11 @@ private:
     bool isAcceptable(QString text) const;
     void checkVerdict(bool valid);
     void checkRestored();
+    bool isKeypadUp() const;
 
     ui::LineEdit* m_field;
     Machine* m_machine;
-    bool m_ignorePopupFocus = false;
+    bool m_hasKeypad = false;
     bool m_valid = true;
     QString m_saved;
 };

@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# drive every widget by a million random steps, and look for what the steps break
+#
+# usage: ./dev soak [--steps N] [--widget NAME] [--seed N] [--sanitize]
+#
+#   --steps N      that many steps for each widget; a million by default
+#   --widget NAME  one widget only; "together" is all of them in one window
+#   --seed N       other steps; 1 by default
+#   --sanitize     build with the sanitizers in place of the optimiser
+#
+# Prints a line for each widget. Of a failure it prints the fewest steps found that do the same.
+
+steps=1000000
+widget=
+seed=1
+preset=soak
+while [ $# -gt 0 ]; do
+    case "$1" in
+        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
+        --steps) steps=$(option_value soak "$1" $# "${2:-}"); shift ;;
+        --widget) widget=$(option_value soak "$1" $# "${2:-}"); shift ;;
+        --seed) seed=$(option_value soak "$1" $# "${2:-}"); shift ;;
+        --sanitize) preset=asan ;;
+        *) unknown_option soak "$1" ;;
+    esac
+    shift
+done
+for number in "$steps" "$seed"; do
+    [[ "$number" =~ ^[0-9]+$ ]] || die "soak: not a number: '$number'"
+done
+
+need_packages build test
+build "$preset" soak
+program=build/$preset/tests/soak/soak
+export QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=C.UTF-8
+export LSAN_OPTIONS=suppressions=$DEV_ROOT/tests/support/lsan.supp:print_suppressions=0
+
+failed=0
+for name in ${widget:-$("$program" --list)}; do
+    "$program" --search "$name" "$seed" "$steps" || failed=1
+done
+exit "$failed"
