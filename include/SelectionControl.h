@@ -56,7 +56,13 @@ public:
     virtual void toggle(Qt::CheckState state) = 0;
 
 Q_SIGNALS:
-    /// The state has been set to \a state, a Qt::CheckState, by the user or by setChecked().
+    /**
+     * The state has been set to \a state, a Qt::CheckState, by the user or by setChecked().
+     *
+     * The control may be deleted in a slot if the user has set it. QAbstractButton is not finished
+     * with it if the program has, by setChecked() or click(): use deleteLater() then, and in
+     * toggled() always.
+     */
     void stateChanged(int state);
 
 protected:

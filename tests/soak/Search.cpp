@@ -5,11 +5,15 @@
 #include "StepFile.h"
 #include "Trial.h"
 
+#include <QElapsedTimer>
+
 namespace soak {
 
 namespace {
 
+// A crash may come of what threads do, and be another with every step that is left out.
 constexpr int maxTrials = 500;
+constexpr int maxTime = 5 * 60 * 1000; // milliseconds
 constexpr int maxLines = 100; // more can be had from the seed
 
 QString report(const QString& widget, quint32 seed, const Verdict& verdict, QStringList lines)
@@ -38,8 +42,11 @@ QString search(const QString& program, const QString& widget, quint32 seed, int 
 
     steps.resize(qMin(steps.size(), verdict.step + 1));
     int trials = 0;
+    QElapsedTimer time;
+    time.start();
     const auto fails = [&](const Steps& fewer) {
-        return ++trials <= maxTrials && trial.play(toLines(fewer, *machine)).isLike(verdict);
+        return ++trials <= maxTrials && time.elapsed() < maxTime
+            && trial.play(toLines(fewer, *machine)).isLike(verdict);
     };
     return report(widget, seed, verdict, toLines(minimised(steps, fails), *machine));
 }

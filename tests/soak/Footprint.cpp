@@ -1,0 +1,123 @@
+#include "Footprint.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QMutex>
+#include <QPixmapCache>
+#include <QSet>
+#include <QThread>
+
+#include <malloc.h>
+#include <unistd.h>
+
+#if defined(__SANITIZE_ADDRESS__)
+// Of the sanitizer's interface, whose header g++ comes without.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
+#endif
+
+// Where Qt tells tools of objects that come and go: entry 3 is called for each new one, entry 4 for
+// each that goes. Qt exports the table, but declares it in a private header only.
+extern Q_CORE_EXPORT quintptr qtHookData[];
+
+namespace soak {
+
+namespace {
+
+// Plain pointers, that outlive every object.
+QMutex& mutex = *new QMutex;
+QSet<QObject*>& livingObjects = *new QSet<QObject*>;
+
+void add(QObject* object)
+{
+    const QMutexLocker lock(&mutex);
+    livingObjects.insert(object);
+}
+
+void remove(QObject* object)
+{
+    const QMutexLocker lock(&mutex);
+    livingObjects.remove(object);
+}
+
+void settle()
+{
+    for (int turn = 0; turn < 3; ++turn) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    QPixmapCache::clear();
+}
+
+int runningTimers()
+{
+    int count = 0;
+    const QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
+    const QMutexLocker lock(&mutex);
+    for (QObject* object : qAsConst(livingObjects)) {
+        if (object->thread() == QThread::currentThread())
+            count += dispatcher->registeredTimers(object).size();
+    }
+    return count;
+}
+
+qint64 heapInUse()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return qint64(__sanitizer_get_current_allocated_bytes());
+#else
+    return qint64(mallinfo2().uordblks + mallinfo2().hblkhd);
+#endif
+}
+
+qint64 residentMemory()
+{
+    malloc_trim(0);
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+} // namespace
+
+void watchObjects()
+{
+    qtHookData[3] = reinterpret_cast<quintptr>(&add);
+    qtHookData[4] = reinterpret_cast<quintptr>(&remove);
+}
+
+Footprint Footprint::now()
+{
+    settle();
+    Footprint result;
+    {
+        const QMutexLocker lock(&mutex);
+        result.objects = livingObjects.size();
+    }
+    result.timers = runningTimers();
+    result.files = QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size();
+    result.heap = heapInUse();
+    result.resident = residentMemory();
+    return result;
+}
+
+bool Footprint::isResidentExact()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return false;
+#else
+    return true;
+#endif
+}
+
+QDebug operator<<(QDebug debug, const Footprint& footprint)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << footprint.objects << " objects, " << footprint.timers << " timers, "
+                           << footprint.files << " files, " << footprint.heap << " bytes in use, "
+                           << footprint.resident << " bytes resident";
+}
+
+} // namespace soak

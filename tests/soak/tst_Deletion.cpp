@@ -1,0 +1,164 @@
+#include "OffscreenMessages.h"
+#include "Provocations.h"
+#include "TestApplication.h"
+
+#include <QMetaMethod>
+#include <QPointer>
+
+#include <utility>
+
+using soak::Provocation;
+using soak::Subject;
+
+namespace {
+
+/// Deletes an object on a signal.
+class Deleter : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Deleter(QObject* victim, bool later, int* count, QWidget* parent)
+        : QWidget(parent)
+        , m_victim(victim)
+        , m_later(later)
+        , m_count(count)
+    {
+    }
+
+public Q_SLOTS:
+    void run()
+    {
+        ++*m_count;
+        // A running animation reports that it stops when it is deleted: once is enough.
+        const QPointer<QObject> victim = std::exchange(m_victim, nullptr);
+        if (m_later && victim)
+            victim->deleteLater();
+        else
+            delete victim; // and this deleter with it, if it is the window
+    }
+
+private:
+    QPointer<QObject> m_victim;
+    bool m_later;
+    int* m_count;
+};
+
+QVector<QMetaMethod> signalsOf(const QMetaObject& metaObject)
+{
+    QVector<QMetaMethod> result;
+    for (int i = 0; i < metaObject.methodCount(); ++i) {
+        const QMetaMethod method = metaObject.method(i);
+        if (method.methodType() == QMetaMethod::Signal
+            && !(method.attributes() & QMetaMethod::Cloned))
+            result.append(method);
+    }
+    return result;
+}
+
+void turnEventLoop()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Subject)
+Q_DECLARE_METATYPE(Provocation)
+
+/**
+ * Every signal of every class, with a slot that deletes the sender, or the window that holds sender
+ * and receiver.
+ *
+ * The signals are those of the meta-objects: one for which Provocations.cpp knows no way to make it
+ * be emitted fails the test.
+ */
+class tst_Deletion : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everySignalIsProvoked_data();
+    void everySignalIsProvoked();
+    void inSlot_data();
+    void inSlot();
+};
+
+void tst_Deletion::initTestCase()
+{
+    test::dropOffscreenMessages();
+    soak::registerArgumentTypes();
+}
+
+void tst_Deletion::everySignalIsProvoked_data()
+{
+    QTest::addColumn<Subject>("subject");
+    for (const Subject& subject : soak::subjects())
+        QTest::newRow(subject.metaObject->className()) << subject;
+}
+
+void tst_Deletion::everySignalIsProvoked()
+{
+    QFETCH(Subject, subject);
+    for (const QMetaMethod& signal : signalsOf(*subject.metaObject)) {
+        QVERIFY2(!soak::provocations(*subject.metaObject, signal).isEmpty(),
+                 signal.methodSignature().constData());
+    }
+}
+
+void tst_Deletion::inSlot_data()
+{
+    QTest::addColumn<Subject>("subject");
+    QTest::addColumn<int>("signalIndex");
+    QTest::addColumn<Provocation>("provocation");
+    QTest::addColumn<bool>("deleteWindow");
+    for (const Subject& subject : soak::subjects()) {
+        for (const QMetaMethod& signal : signalsOf(*subject.metaObject)) {
+            for (const Provocation& way : soak::provocations(*subject.metaObject, signal)) {
+                for (const bool deleteWindow : {false, true}) {
+                    QTest::addRow("%s::%s, %s, %s", subject.metaObject->className(),
+                                  signal.name().constData(), way.name,
+                                  deleteWindow ? "window" : "sender")
+                        << subject << signal.methodIndex() << way << deleteWindow;
+                }
+            }
+        }
+    }
+}
+
+void tst_Deletion::inSlot()
+{
+    QFETCH(Subject, subject);
+    QFETCH(int, signalIndex);
+    QFETCH(Provocation, provocation);
+    QFETCH(bool, deleteWindow);
+
+    const QPointer<QWidget> window = new QWidget;
+    window->resize(400, 300);
+    const QPointer<QObject> sender = subject.create(window);
+    const QMetaMethod signal = subject.metaObject->method(signalIndex);
+    window->show();
+    window->activateWindow();
+    turnEventLoop();
+    const QPointer<QObject> victim = deleteWindow ? window.data() : sender.data();
+    int count = 0;
+    auto* deleter = new Deleter(victim, provocation.later, &count, window);
+    const int slot = deleter->metaObject()->indexOfSlot("run()");
+    connect(sender, signal, deleter, deleter->metaObject()->method(slot));
+
+    provocation.run(sender, signal);
+    QVERIFY(count > 0);
+    turnEventLoop();
+    QVERIFY(!victim);
+    delete window;
+    QVERIFY(!sender);
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_Deletion>(argc, argv);
+}
+
+#include "tst_Deletion.moc"
