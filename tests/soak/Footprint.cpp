@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QMutex>
-#include <QPixmapCache>
 #include <QSet>
 #include <QThread>
 
@@ -47,7 +46,6 @@ void settle()
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    QPixmapCache::clear();
 }
 
 int runningTimers()
