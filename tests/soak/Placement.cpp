@@ -12,10 +12,20 @@ void resize(QWidget& widget, const QSize& size)
     widget.resize(widget.isWindow() ? size.boundedTo(limit) : size);
 }
 
+/// Qt leaves a window that is not active with a pointer to its focus widget if that is hidden, moved to
+/// another window and deleted.
+void leaveFocus(const QWidget& widget)
+{
+    QWidget* focused = widget.window()->focusWidget();
+    if (focused && (focused == &widget || widget.isAncestorOf(focused)))
+        focused->clearFocus();
+}
+
 /// Into one of the windows, or a window of its own.
 void reparent(WidgetMachine& machine, Values& values)
 {
     QWidget* widget = machine.widget();
+    leaveFocus(*widget);
     if (values.below(4) == 0) {
         resize(*widget, widget->size().boundedTo(QSize(largestWindow, largestWindow)));
         widget->setParent(nullptr);

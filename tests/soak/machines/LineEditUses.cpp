@@ -49,7 +49,7 @@ void addLineEditUses(WidgetMachine& machine)
     });
     machine.add("select", 2, [&](Values& v) {
         const int start = v.below(field(machine).text().size() + 1);
-        field(machine).setSelection(start, v.integer());
+        field(machine).setSelection(start, v.integer() / 2); // Qt adds the two up
     });
     machine.add("undo", 1, [&](Values& v) {
         v.boolean() ? field(machine).undo() : field(machine).redo();
