@@ -1,5 +1,7 @@
 #include "BrowserParts.h"
+#include "OffscreenMessages.h"
 #include "TestApplication.h"
+#include "Tree.h"
 #include "ui/FileBrowserWidget.h"
 
 #include <platform/ui/style/StyleManager.h>
@@ -20,6 +22,13 @@ QVector<platform::ui::style::Fonts>& fontRequests()
     return requests;
 }
 
+/// A font that the device's library names though it is not installed.
+QFont& missing()
+{
+    static QFont font;
+    return font;
+}
+
 } // namespace
 
 // These take the place of the style library's: a program's own definitions come first.
@@ -36,7 +45,7 @@ StyleManager* StyleManager::getInstance()
 
 QFont StyleManager::getStyleFont(Fonts font)
 {
-    QFont result;
+    QFont result = missing();
     result.setPixelSize(firstPixelSize + fontRequests().size());
     fontRequests().append(font);
     return result;
@@ -51,8 +60,24 @@ class tst_FileBrowserFonts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+    void init();
     void askedForOncePerViewInOrder();
+    void missingFont_data();
+    void missingFont();
 };
+
+void tst_FileBrowserFonts::initTestCase()
+{
+    test::dropOffscreenMessages();
+}
+
+void tst_FileBrowserFonts::init()
+{
+    instanceRequests = 0;
+    fontRequests().clear();
+    missing() = QFont();
+}
 
 void tst_FileBrowserFonts::askedForOncePerViewInOrder()
 {
@@ -68,6 +93,33 @@ void tst_FileBrowserFonts::askedForOncePerViewInOrder()
     browser.setAllowedDirs({QStringLiteral("/")});
     browser.setRootPath(QStringLiteral("/usr"));
     QCOMPARE(fontRequests().size(), 3);
+}
+
+void tst_FileBrowserFonts::missingFont_data()
+{
+    QTest::addColumn<QFont>("font");
+    QTest::newRow("unknown family") << QFont(QStringLiteral("No Such Family"));
+    QTest::newRow("no family") << QFont(QString());
+    QFont styled(QStringLiteral("No Such Family"));
+    styled.setStyleName(QStringLiteral("No Such Style"));
+    QTest::newRow("unknown style") << styled;
+}
+
+void tst_FileBrowserFonts::missingFont()
+{
+    QFETCH(QFont, font);
+    missing() = font;
+    const test::Tree tree;
+    tree.makeFile(QStringLiteral("name"));
+    ui::FileBrowserWidget browser;
+    browser.setAllowedDirs({tree.path()});
+    browser.show();
+    const test::BrowserParts parts(browser);
+    QTRY_COMPARE(test::shownNames(*parts.tileView), QStringList{"name"});
+    QCOMPARE(parts.tileView->font().family(), font.family());
+    const QRect cell = parts.tileView->visualRect(test::entry(*parts.tileView, "name"));
+    QVERIFY(cell.height() >= firstPixelSize); // another font stands in, at the size asked for
+    QVERIFY(!browser.grab().isNull());
 }
 
 int main(int argc, char** argv)

@@ -12,7 +12,9 @@
 #include <QPushButton>
 #include <QTreeView>
 
+#include <csignal>
 #include <memory>
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace test;
@@ -36,6 +38,30 @@ public:
     Q_DISABLE_COPY(Unprivileged)
 };
 
+/**
+ * Refuses every write to a file for its lifetime, as a full file system does; that another error is
+ * given makes no difference to who only reads.
+ */
+class FullFileSystem
+{
+public:
+    FullFileSystem()
+    {
+        getrlimit(RLIMIT_FSIZE, &m_former);
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit none{0, m_former.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~FullFileSystem()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_former);
+    }
+    Q_DISABLE_COPY(FullFileSystem)
+
+private:
+    rlimit m_former;
+};
+
 constexpr int manyEntries = 10000;
 
 } // namespace
@@ -55,7 +81,11 @@ private Q_SLOTS:
     void linksThatLoop();
     void linkToNowhere();
     void unreadableDirectory();
+    void permissionLostWhileShown();
+    void fullFileSystem();
+    void directoryFilledWhileShown_data();
     void directoryFilledWhileShown();
+    void allowedDirectoryVanishes();
     void directoryRemovedWhileShown();
     void directoryRenamedWhileShown();
     void selectedFileRenamed();
@@ -250,16 +280,96 @@ void tst_HostileTrees::unreadableDirectory()
         QFile::setPermissions(m_tree->path(QStringLiteral("locked")), QFile::Permissions(0x7000)));
 }
 
+void tst_HostileTrees::permissionLostWhileShown()
+{
+    const QString locked = m_tree->path(QStringLiteral("locked"));
+    m_tree->makeDir(QStringLiteral("locked"));
+    m_tree->makeFile(QStringLiteral("locked/file"));
+    QVERIFY(QFile::setPermissions(m_tree->path(), QFile::Permissions(0x7555)));
+    m_browser->setAllowedDirs({m_tree->path()});
+    QVERIFY(open(QStringLiteral("locked")));
+    QVERIFY(shows({QStringLiteral("file")}));
+    QVERIFY(QFile::setPermissions(locked, QFile::Permissions()));
+    QTest::ignoreMessage(QtSystemMsg,
+                         QRegularExpression(QStringLiteral("inotify_add_watch.*locked")));
+    {
+        const Unprivileged user;
+        QCOMPARE(QDir(locked).entryList(), QStringList());
+        selectEntries(*m_parts->tileView, {QStringLiteral("file")});
+        m_browser->selectedFiles();
+        m_window->grab();
+        Q_EMIT m_parts->bar->dirChanged(m_tree->path());
+        QVERIFY(shows({QStringLiteral("locked")}));
+        QVERIFY(open(QStringLiteral("locked")));
+        m_window->grab();
+        m_browser->setRootPath(m_tree->path());
+        QCOMPARE(m_browser->currentPath(), m_tree->path());
+    }
+    QVERIFY(QFile::setPermissions(locked, QFile::Permissions(0x7000)));
+}
+
+void tst_HostileTrees::fullFileSystem()
+{
+    m_tree->makeDir(QStringLiteral("dir"));
+    m_tree->makeFile(QStringLiteral("dir/file"));
+    QFile probe(m_tree->path(QStringLiteral("probe")));
+    QVERIFY(probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    {
+        const FullFileSystem full;
+        QCOMPARE(probe.write("x"), -1);
+        m_browser->setAllowedDirs({m_tree->path()});
+        QVERIFY(shows({QStringLiteral("dir"), QStringLiteral("probe")}));
+        QVERIFY(open(QStringLiteral("dir")));
+        QVERIFY(shows({QStringLiteral("file")}));
+        selectEntries(*m_parts->tileView, {QStringLiteral("file")});
+        QCOMPARE(m_browser->selectedFiles(), QStringList{m_tree->path(QStringLiteral("dir/file"))});
+        m_window->grab();
+    }
+    QCOMPARE(probe.write("x"), 1);
+}
+
+void tst_HostileTrees::directoryFilledWhileShown_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("some") << 50;
+    QTest::newRow("thousands") << 3000;
+}
+
 void tst_HostileTrees::directoryFilledWhileShown()
 {
+    QFETCH(int, count);
     m_browser->setAllowedDirs({m_tree->path()});
-    const QStringList names = Tree::names(QStringLiteral("f"), 50);
+    const QStringList names = Tree::names(QStringLiteral("f"), count);
     for (const QString& name : names)
         m_tree->makeFile(name);
+    QTRY_COMPARE_WITH_TIMEOUT(m_parts->model->rowCount(m_parts->tileView->rootIndex()), count,
+                              60000);
     QVERIFY(shows(names));
     m_tree->makeDir(QStringLiteral("late"));
     QVERIFY(open(QStringLiteral("late")));
     QCOMPARE(m_browser->currentPath(), m_tree->path(QStringLiteral("late")));
+}
+
+void tst_HostileTrees::allowedDirectoryVanishes()
+{
+    m_tree->makeDir(QStringLiteral("root/dir"));
+    m_tree->makeFile(QStringLiteral("root/dir/file"));
+    m_tree->makeDir(QStringLiteral("other/inside"));
+    m_browser->setAllowedDirs(
+        {m_tree->path(QStringLiteral("root")), m_tree->path(QStringLiteral("other"))});
+    QVERIFY(open(QStringLiteral("dir")));
+    QVERIFY(shows({QStringLiteral("file")}));
+    QVERIFY(QDir(m_tree->path(QStringLiteral("root"))).removeRecursively());
+    m_parts->listButton->click();
+    m_parts->tileButton->click();
+    m_window->grab();
+    m_browser->selectedFiles();
+    m_parts->combo->setCurrentIndex(1);
+    QVERIFY(shows({QStringLiteral("inside")}));
+    m_parts->combo->setCurrentIndex(0); // is gone: what was shown stays
+    m_window->grab();
+    m_parts->combo->setCurrentIndex(1);
+    QVERIFY(shows({QStringLiteral("inside")}));
 }
 
 void tst_HostileTrees::directoryRemovedWhileShown()

@@ -59,7 +59,8 @@ void tst_LoadedWhileRunning::comesAndGoes()
 {
     QWidget window;
     window.resize(600, 800);
-    window.setStyleSheet(QStringLiteral("Switch { color: red; } *[inputValid=\"true\"] { color: blue; }"));
+    window.setStyleSheet(
+        QStringLiteral("Switch { color: red; } *[inputValid=\"true\"] { color: blue; }"));
     auto* label = new QLabel(QStringLiteral("the application's own"), &window);
     window.show();
     for (int round = 0; round < rounds; ++round) {

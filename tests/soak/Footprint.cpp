@@ -95,7 +95,8 @@ Footprint Footprint::now()
         result.objects = livingObjects.size();
     }
     result.timers = runningTimers();
-    result.files = QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size();
+    result.files =
+        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size();
     result.heap = heapInUse();
     result.resident = residentMemory();
     return result;

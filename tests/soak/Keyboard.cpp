@@ -22,8 +22,8 @@ void pressKey(WidgetMachine& machine, Values& values)
                                    Qt::Key_Space, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
                                    Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
                                    Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_F2, Qt::Key_Menu});
-    const auto modifiers
-        = values.oneOf({Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier});
+    const auto modifiers =
+        values.oneOf({Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier});
     const QString text = key == Qt::Key_Space ? QStringLiteral(" ") : QString();
     sendKey(machine.widget()->window()->windowHandle(), key, modifiers, text);
 }
@@ -37,9 +37,9 @@ void typeText(WidgetMachine& machine, Values& values)
 
 void moveFocus(WidgetMachine& machine, Values& values)
 {
-    const auto reason = values.oneOf({Qt::MouseFocusReason, Qt::TabFocusReason,
-                                      Qt::OtherFocusReason, Qt::ActiveWindowFocusReason,
-                                      Qt::PopupFocusReason, Qt::ShortcutFocusReason});
+    const auto reason =
+        values.oneOf({Qt::MouseFocusReason, Qt::TabFocusReason, Qt::OtherFocusReason,
+                      Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::ShortcutFocusReason});
     if (values.below(3) == 0)
         machine.stage().neighbour(values.boolean(), values.boolean())->setFocus(reason);
     else

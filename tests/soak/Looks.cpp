@@ -56,8 +56,7 @@ void addLooks(WidgetMachine& machine)
     machine.add("setLayoutDirection", 1, [&](Values& v) {
         machine.widget()->setLayoutDirection(v.boolean() ? Qt::LeftToRight : Qt::RightToLeft);
     });
-    machine.add("setEnabled", 3,
-                [&](Values& v) { machine.widget()->setEnabled(v.below(4) > 0); });
+    machine.add("setEnabled", 3, [&](Values& v) { machine.widget()->setEnabled(v.below(4) > 0); });
     machine.add("paint", 4, [&](Values& v) { paint(machine, v); });
 }
 

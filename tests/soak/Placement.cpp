@@ -64,8 +64,7 @@ void addPlacement(WidgetMachine& machine)
     });
     machine.add("delete", 1, [&](Values&) { delete machine.widget(); });
     machine.add("deleteLater", 1, [&](Values&) { deleteLater(machine); });
-    machine.add("replaceWindow", 1,
-                [&](Values& v) { machine.stage().replaceWindow(v.boolean()); });
+    machine.add("replaceWindow", 1, [&](Values& v) { machine.stage().replaceWindow(v.boolean()); });
     machine.add("turn", 6, [](Values&) { turnEventLoop(); });
 }
 

@@ -21,11 +21,10 @@ void send(QWindow* window, const QPoint& position, QEvent::Type type, Qt::MouseB
           Values& values)
 {
     const bool pressed = type == QEvent::MouseButtonPress;
-    qt_handleMouseEvent(window, position, window->mapToGlobal(position),
-                        pressed ? button : Qt::NoButton,
-                        type == QEvent::MouseMove ? Qt::NoButton : button, type,
-                        values.below(8) == 0 ? Qt::ControlModifier : Qt::NoModifier,
-                        nextTime(values));
+    qt_handleMouseEvent(
+        window, position, window->mapToGlobal(position), pressed ? button : Qt::NoButton,
+        type == QEvent::MouseMove ? Qt::NoButton : button, type,
+        values.below(8) == 0 ? Qt::ControlModifier : Qt::NoModifier, nextTime(values));
 }
 
 struct Target
@@ -57,8 +56,8 @@ void click(const Target& target, Values& values)
 
 void sendOne(const Target& target, Values& values)
 {
-    const auto type = values.oneOf(
-        {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseMove});
+    const auto type =
+        values.oneOf({QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseMove});
     if (target.window)
         send(target.window, target.position, type, Qt::LeftButton, values);
 }

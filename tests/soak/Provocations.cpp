@@ -122,8 +122,7 @@ void select(const ui::FileBrowserWidget& browser, const QString& path)
 {
     const auto* view = browser.findChild<QListView*>(QString(), Qt::FindDirectChildrenOnly);
     const QModelIndex index = static_cast<ui::FileSystemModel*>(view->model())->index(path);
-    view->selectionModel()->select(index,
-                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    view->selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 QVector<Entry> ofQtsClasses()
@@ -133,15 +132,21 @@ QVector<Entry> ofQtsClasses()
     const QMetaObject* widget = &QWidget::staticMetaObject;
     return {
         // The object is being deleted already; its window is in the middle of it, or else whole.
-        {object, "destroyed(QObject*)", {"deleted", on<QObject>([](QObject& o) { delete &o; }), Later}},
-        {object, "objectNameChanged(QString)",
+        {object,
+         "destroyed(QObject*)",
+         {"deleted", on<QObject>([](QObject& o) { delete &o; }), Later}},
+        {object,
+         "objectNameChanged(QString)",
          {"set", on<QObject>([](QObject& o) { o.setObjectName("other"); }), AtOnce}},
-        {widget, "windowTitleChanged(QString)",
+        {widget,
+         "windowTitleChanged(QString)",
          {"set", on<QWidget>([](QWidget& w) { w.setWindowTitle("other"); }), AtOnce}},
-        {widget, "windowIconChanged(QIcon)",
+        {widget,
+         "windowIconChanged(QIcon)",
          {"set", on<QWidget>([](QWidget& w) { w.setWindowIcon(QIcon()); }), AtOnce}},
         {widget, "windowIconTextChanged(QString)", emitted},
-        {widget, "customContextMenuRequested(QPoint)",
+        {widget,
+         "customContextMenuRequested(QPoint)",
          {"asked for", on<QWidget>(requestContextMenu), AtOnce}},
         {&QLabel::staticMetaObject, "", emitted},
         {&QAbstractSlider::staticMetaObject, "", emitted},
@@ -247,7 +252,8 @@ QVector<Entry> ofAnimations()
         [](Animator& animator) { animator.setDirection(QAbstractAnimation::Backward); });
     return {
         {qt, "finished()", {"run", run, AtOnce}},
-        {qt, "stateChanged(QAbstractAnimation::State,QAbstractAnimation::State)",
+        {qt,
+         "stateChanged(QAbstractAnimation::State,QAbstractAnimation::State)",
          {"run", run, AtOnce}},
         {qt, "directionChanged(QAbstractAnimation::Direction)", {"set", turn, AtOnce}},
         {qt, "currentLoopChanged(int)", {"emitted", emitDirectly, AtOnce}},
@@ -268,9 +274,11 @@ QVector<Entry> ofBrowsers()
     });
     const QMetaObject* browser = &FileBrowserWidget::staticMetaObject;
     return {
-        {&BreadCrumbsWidget::staticMetaObject, "dirChanged(QString)",
+        {&BreadCrumbsWidget::staticMetaObject,
+         "dirChanged(QString)",
          {"crumb", pressCrumb, AtOnce}},
-        {&ClickableLabel::staticMetaObject, "clicked()",
+        {&ClickableLabel::staticMetaObject,
+         "clicked()",
          {"pressed", on<QWidget>(pressMouse), AtOnce}},
         {browser, "selectionChanged()", {"file", selectFile, AtOnce}},
         {browser, "selectionChanged()", {"directory", selectDirectory, AtOnce}},
@@ -279,8 +287,8 @@ QVector<Entry> ofBrowsers()
 
 const QVector<Entry>& allEntries()
 {
-    static const QVector<Entry> all = ofQtsClasses() + ofButtons() + ofFields() + ofKeypads()
-        + ofAnimations() + ofBrowsers();
+    static const QVector<Entry> all =
+        ofQtsClasses() + ofButtons() + ofFields() + ofKeypads() + ofAnimations() + ofBrowsers();
     return all;
 }
 
@@ -325,8 +333,7 @@ QVector<Subject> subjects()
             auto* field = new ui::LineEdit(window);
             return new ui::KeypadPopup(field, QString(), KeyboardType::Integer, -1);
         }),
-        subject<Animator>(
-            [](QWidget* window) -> QObject* { return new Animator(window, window); }),
+        subject<Animator>([](QWidget* window) -> QObject* { return new Animator(window, window); }),
         subject<SelectionControl>(create<Control>),
         subject<Switch>(),
         subject<ui::CAnimationFwdRevLoop>([](QWidget* window) -> QObject* {

@@ -15,7 +15,8 @@ constexpr int patience = 120 * 1000; // milliseconds without a step done until i
 /// The last line, without what differs from run to run.
 QString kind(const QString& report)
 {
-    QString line = report.trimmed().section(QLatin1Char('\n'), -1).section(QLatin1String(" is "), 0, 0);
+    QString line =
+        report.trimmed().section(QLatin1Char('\n'), -1).section(QLatin1String(" is "), 0, 0);
     return line.remove(QRegularExpression(QStringLiteral("[0-9]")));
 }
 

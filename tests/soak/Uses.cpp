@@ -106,7 +106,8 @@ Round edit(QWidget& window)
 Round browse(QWidget& window)
 {
     const auto tree = std::make_shared<test::Tree>();
-    const QStringList names{QStringLiteral("a/b/c/d/e"), QStringLiteral("a/f"), QStringLiteral("g")};
+    const QStringList names{QStringLiteral("a/b/c/d/e"), QStringLiteral("a/f"),
+                            QStringLiteral("g")};
     for (const QString& name : names)
         tree->makeDir(name);
     auto* browser = new ui::FileBrowserWidget(&window);
@@ -155,10 +156,9 @@ Round open(QWidget&)
 
 QVector<Use> uses()
 {
-    return {
-        {"toggles", toggle},     {"charge updates", charge},      {"scrolling", scroll},
-        {"focus cycles", edit},  {"directory changes", browse}, {"crumbs", followCrumbs},
-        {"windows opened", open}};
+    return {{"toggles", toggle},     {"charge updates", charge},    {"scrolling", scroll},
+            {"focus cycles", edit},  {"directory changes", browse}, {"crumbs", followCrumbs},
+            {"windows opened", open}};
 }
 
 } // namespace soak

@@ -38,8 +38,8 @@ int searchIn(const QString& widget, const QString& seed, const QString& count)
 {
     QElapsedTimer timer;
     timer.start();
-    const QString report = soak::search(QCoreApplication::applicationFilePath(), widget,
-                                        seed.toUInt(), count.toInt());
+    const QString report =
+        soak::search(QCoreApplication::applicationFilePath(), widget, seed.toUInt(), count.toInt());
     const int failures = report.isEmpty() ? 0 : 1;
     print(report);
     print(QStringLiteral("%1: %2 steps from seed %3, %4 s, %5 failures\n")
@@ -58,8 +58,8 @@ int playFile(const QString& widget, const QString& fileName, const QString& prog
     soak::MenuCloser menuCloser;
     soak::Progress progress(progressFile);
     const soak::Steps steps = soak::fromLines(soak::readLines(fileName), *machine);
-    const soak::Outcome outcome
-        = soak::play(*machine, steps, [&](int step) { progress.set(step); });
+    const soak::Outcome outcome =
+        soak::play(*machine, steps, [&](int step) { progress.set(step); });
     if (outcome.broken.isEmpty())
         return 0;
     print(outcome.broken + QLatin1Char('\n'));

@@ -1,7 +1,7 @@
 #include "TestApplication.h"
 
-#include <Switch.h>
 #include <BreadCrumbsWidget.h>
+#include <Switch.h>
 #include <ui/CBatteryStatusWidget.h>
 #include <ui/CGridArrangedButton.h>
 #include <ui/CRoundedFrame.h>
@@ -9,8 +9,8 @@
 #include <ui/KeypadLineEdit.h>
 #include <ui/ScrollIndicatorBar.h>
 
-#include <QProcess>
 #include <QPointer>
+#include <QProcess>
 
 #include <memory>
 #include <sys/resource.h>
@@ -33,7 +33,8 @@ QWidget* create()
 }
 
 constexpr Entry entries[] = {
-    {"frame", [] {
+    {"frame",
+     [] {
          auto* frame = new ui::CRoundedFrame;
          frame->enableFillContents(true);
          frame->enableWidgetMask(true);
@@ -44,7 +45,8 @@ constexpr Entry entries[] = {
     {"indicator", create<ui::widgets::ScrollIndicatorBar>},
     {"switch", create<Switch>},
     {"line edit", create<ui::LineEdit>},
-    {"keypad line edit", [] {
+    {"keypad line edit",
+     [] {
          return static_cast<QWidget*>(
              new ui::KeypadLineEdit(nullptr, ui::keyboard::KeyboardType::Integer));
      }},

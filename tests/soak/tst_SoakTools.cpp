@@ -112,8 +112,8 @@ void tst_SoakTools::warning()
 
 void tst_SoakTools::search()
 {
-    const QString report
-        = soak::search(QStringLiteral(SOAK_PROGRAM), QStringLiteral("faulty"), 3, 3000);
+    const QString report =
+        soak::search(QStringLiteral(SOAK_PROGRAM), QStringLiteral("faulty"), 3, 3000);
     QVERIFY(report.startsWith(QLatin1String("faulty, seed 3, step ")));
     QVERIFY(report.contains(QLatin1String("the level stays low")));
     QCOMPARE(report.count(QLatin1String("  rise ")), 3);

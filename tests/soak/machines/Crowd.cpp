@@ -7,8 +7,7 @@ namespace soak {
 void Crowd::join(const QString& name, std::unique_ptr<Machine> machine)
 {
     for (int i = 0; i < machine->actionCount(); ++i) {
-        add(name + QLatin1Char('.') + machine->nameOf(i), machine->weightOf(i),
-            machine->actOf(i));
+        add(name + QLatin1Char('.') + machine->nameOf(i), machine->weightOf(i), machine->actOf(i));
     }
     m_members.push_back({name, std::move(machine)});
 }

@@ -128,8 +128,8 @@ void CrumbsMachine::checkState()
         return;
     const int hidden = qMax(0, m_model.names().size() - maxVisible);
     compare("crumbs", shown, QStringList(m_model.names().mid(hidden)));
-    compare("last directory", test::lastCrumbPath(bar()), m_model.directories().value(
-        m_model.directories().size() - 1));
+    compare("last directory", test::lastCrumbPath(bar()),
+            m_model.directories().value(m_model.directories().size() - 1));
     compare("hidden menu", test::moreButton(bar())->isHidden(), hidden == 0);
 }
 

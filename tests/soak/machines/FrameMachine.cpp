@@ -99,7 +99,8 @@ void FrameMachine::setLineWidth(int width)
 void FrameMachine::updateMargin()
 {
     const double arc = std::floor(m_radius * (1 - std::sqrt(0.5)) + 0.5);
-    const double outline = m_shape == CRoundedFrame::Box ? double(m_lineWidth) + m_lineWidth / 2 : 0;
+    const double outline =
+        m_shape == CRoundedFrame::Box ? double(m_lineWidth) + m_lineWidth / 2 : 0;
     m_margin = int(qBound(-2147483648.0, arc + outline, 2147483647.0));
 }
 

@@ -74,12 +74,10 @@ GridButtonMachine::GridButtonMachine(const std::shared_ptr<Stage>& stage)
         const int column = index(v);
         button().setColumnMinimumWidth(column, v.below(maxLength));
     });
-    add("setRowMinimumHeight", 1, [this](Values& v) {
-        button().setRowMinimumHeight(index(v), v.below(maxLength));
-    });
+    add("setRowMinimumHeight", 1,
+        [this](Values& v) { button().setRowMinimumHeight(index(v), v.below(maxLength)); });
     add("setColumnStretch", 2, [this](Values& v) { setStretch(v); });
-    add("setRowStretch", 1,
-        [this](Values& v) { button().setRowStretch(index(v), v.integer()); });
+    add("setRowStretch", 1, [this](Values& v) { button().setRowStretch(index(v), v.integer()); });
     add("setSpacing", 2, [this](Values& v) { setSpacing(v); });
     add("setContentsMargins", 1, [this](Values& v) {
         const int margin = v.below(40);

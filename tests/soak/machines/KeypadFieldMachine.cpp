@@ -45,7 +45,8 @@ private:
     QPointer<LineEditModel> m_model;
     QPointer<KeypadPopup> m_seen;
     int m_type = 0;
-    bool m_refocused = false; ///< Whether the pop-up has given back the focus that its showing took.
+    bool m_refocused =
+        false; ///< Whether the pop-up has given back the focus that its showing took.
 };
 
 bool isOnlyPopup(const QWidget* popup)
@@ -78,7 +79,8 @@ QWidget* KeypadFieldMachine::create()
     m_model = new LineEditModel(created, this);
     m_model->setHasKeypad();
     QObject::connect(created, &KeypadLineEdit::startKeypad, created, [this, created] {
-        expect(created->keypad() && created->keypad()->isVisible(), "startKeypad() follows the show");
+        expect(created->keypad() && created->keypad()->isVisible(),
+               "startKeypad() follows the show");
         m_refocused = created->hasFocus() && isOnlyPopup(created->keypad());
     });
     return created;
@@ -148,7 +150,8 @@ void KeypadFieldMachine::end(const QString& key)
         if (button->accessibleName() != key || !button->isEnabled())
             continue;
         const QString text = field().text();
-        const bool acceptable = field().hasAcceptableInput(); // else Qt may let its validator mend it
+        const bool acceptable =
+            field().hasAcceptableInput(); // else Qt may let its validator mend it
         button->click();
         if (key == QLatin1String("OK") && acceptable)
             compare("committed text", field().text(), text);

@@ -39,21 +39,19 @@ void addLineEditUses(WidgetMachine& machine)
 {
     machine.add("setText", 4, [&](Values& v) { field(machine).setText(v.text()); });
     machine.add("insert", 2, [&](Values& v) { field(machine).insert(v.text()); });
-    machine.add("setMaxLength", 1,
-                [&](Values& v) { field(machine).setMaxLength(v.oneOf({-1, 0, 3, 32767})); });
-    machine.add("setValidator", 2, [&](Values& v) { setValidator(field(machine), v); });
-    machine.add("setReadOnly", 1,
-                [&](Values& v) { field(machine).setReadOnly(v.below(4) == 0); });
-    machine.add("setEchoMode", 1, [&](Values& v) {
-        field(machine).setEchoMode(QLineEdit::EchoMode(v.below(4)));
+    machine.add("setMaxLength", 1, [&](Values& v) {
+        field(machine).setMaxLength(v.oneOf({-1, 0, 3, 32767}));
     });
+    machine.add("setValidator", 2, [&](Values& v) { setValidator(field(machine), v); });
+    machine.add("setReadOnly", 1, [&](Values& v) { field(machine).setReadOnly(v.below(4) == 0); });
+    machine.add("setEchoMode", 1,
+                [&](Values& v) { field(machine).setEchoMode(QLineEdit::EchoMode(v.below(4))); });
     machine.add("select", 2, [&](Values& v) {
         const int start = v.below(field(machine).text().size() + 1);
         field(machine).setSelection(start, v.integer() / 2); // Qt adds the two up
     });
-    machine.add("undo", 1, [&](Values& v) {
-        v.boolean() ? field(machine).undo() : field(machine).redo();
-    });
+    machine.add("undo", 1,
+                [&](Values& v) { v.boolean() ? field(machine).undo() : field(machine).redo(); });
     machine.add("commit", 2, [&](Values&) { Q_EMIT field(machine).signalOkKey(); });
     machine.add("cancel", 2, [&](Values&) { Q_EMIT field(machine).signalCancelKey(); });
 }

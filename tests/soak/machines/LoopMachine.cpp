@@ -38,8 +38,9 @@ LoopMachine::LoopMachine()
         // Not 1: Qt takes the time 0 of such an animation for its end when it runs backwards.
         animation().setDuration(v.oneOf({-1, 0, 2, 100, 100000, qMax(v.integer(), 2)}));
     });
-    add("setLoopCount", 2,
-        [this](Values& v) { animation().setLoopCount(v.oneOf({-1, 0, 1, 1, 1, 3})); });
+    add("setLoopCount", 2, [this](Values& v) {
+        animation().setLoopCount(v.oneOf({-1, 0, 1, 1, 1, 3}));
+    });
     add("setDirection", 1, [this](Values& v) {
         animation().setDirection(v.boolean() ? QAbstractAnimation::Forward
                                              : QAbstractAnimation::Backward);
@@ -110,7 +111,8 @@ void LoopMachine::finishAndDelete()
     if (!startToEnd())
         return;
     QVariantAnimation* dying = &animation();
-    QObject::connect(dying, &QAbstractAnimation::directionChanged, dying, [dying] { delete dying; });
+    QObject::connect(dying, &QAbstractAnimation::directionChanged, dying,
+                     [dying] { delete dying; });
     goToEnd();
     expect(!m_animation, "the animation turned round and was deleted");
 }

@@ -69,9 +69,9 @@ void SwitchMachine::addSetters()
         m_model.set(toggle(), property, v.color());
     });
     add("setOpacities", 3, [this](Values& v) {
-        const auto property
-            = v.oneOf({"thumbOnOpacity", "trackOnOpacity", "thumbOffOpacity", "trackOffOpacity",
-                       "thumbDisabledOpacity", "trackDisabledOpacity", "disabledTextOpacity"});
+        const auto property =
+            v.oneOf({"thumbOnOpacity", "trackOnOpacity", "thumbOffOpacity", "trackOffOpacity",
+                     "thumbDisabledOpacity", "trackDisabledOpacity", "disabledTextOpacity"});
         m_model.set(toggle(), property, v.number());
     });
     add("setHeight", 1, [this](Values& v) { m_model.set(toggle(), "height", v.integer()); });
@@ -113,8 +113,8 @@ QWidget* SwitchMachine::create()
 
 void SwitchMachine::setAnimation(Values& values)
 {
-    const auto property
-        = values.oneOf({"thumbPosAnimation", "thumbBrushAnimation", "trackBrushAnimation"});
+    const auto property =
+        values.oneOf({"thumbPosAnimation", "thumbBrushAnimation", "trackBrushAnimation"});
     const auto easing = QEasingCurve::Type(values.below(QEasingCurve::OutInBounce));
     const int duration = values.oneOf({-7, 0, 1, longestMotion});
     m_model.set(toggle(), property, QVariant::fromValue(Style::Animation{easing, duration}));
