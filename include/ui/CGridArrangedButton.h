@@ -72,13 +72,13 @@ public:
 
     /// Share of a column in spare width, from 0; 0 by default and for columns that do not exist.
     int columnStretch(int column) const;
-    /// Sets the share of a column in spare width.
+    /// Sets the share of a column in spare width; cut off at 2,147,483, the same below 0.
     void setColumnStretch(int column, int stretch);
 
     /// Least height of a row in pixels, 0 by default.
     void setRowMinimumHeight(int row, int minSize);
 
-    /// Share of a row in spare height, from 0; 0 by default.
+    /// Share of a row in spare height, from 0; 0 by default; cut off as that of a column.
     void setRowStretch(int row, int stretch);
 
     /// Distance of rows and columns in pixels; the style's own by default and for less than 0.

@@ -2,6 +2,8 @@
 
 #include <QGridLayout>
 
+#include <limits>
+
 namespace ui {
 
 namespace {
@@ -9,6 +11,14 @@ namespace {
 /// QGridLayout checks no index and keeps something for every row and column up to the last one, so
 /// that thousands of them take seconds to lay out.
 constexpr int indexLimit = 1000;
+
+/// QGridLayout adds up the stretches of all rows or columns, and may hang if an int cannot hold the sum.
+constexpr int stretchLimit = std::numeric_limits<int>::max() / indexLimit;
+
+int boundedStretch(int stretch)
+{
+    return qBound(-stretchLimit, stretch, stretchLimit);
+}
 
 bool isIndex(int index)
 {
@@ -171,7 +181,7 @@ int CGridArrangedButton::columnStretch(int column) const
 void CGridArrangedButton::setColumnStretch(int column, int stretch)
 {
     if (acceptsCalls(m_gridLayout, *this, __func__) && acceptsIndex(column, __func__))
-        m_gridLayout->setColumnStretch(column, stretch);
+        m_gridLayout->setColumnStretch(column, boundedStretch(stretch));
 }
 
 void CGridArrangedButton::setRowMinimumHeight(int row, int minSize)
@@ -183,7 +193,7 @@ void CGridArrangedButton::setRowMinimumHeight(int row, int minSize)
 void CGridArrangedButton::setRowStretch(int row, int stretch)
 {
     if (acceptsCalls(m_gridLayout, *this, __func__) && acceptsIndex(row, __func__))
-        m_gridLayout->setRowStretch(row, stretch);
+        m_gridLayout->setRowStretch(row, boundedStretch(stretch));
 }
 
 void CGridArrangedButton::setSpacing(int spacing)

@@ -5,12 +5,15 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <array>
 #include <functional>
 #include <limits>
 
 using ui::CGridArrangedButton;
 
 namespace {
+
+constexpr int largestStretch = std::numeric_limits<int>::max() / 1000; // rows or columns
 
 using Call = std::function<void(CGridArrangedButton&)>;
 /// Finds an item in a button or in a widget.
@@ -40,6 +43,7 @@ private Q_SLOTS:
     void survivesLossOfItsGrid_data();
     void survivesLossOfItsGrid();
     void survivesAbsurdMeasures();
+    void survivesAbsurdStretches();
 };
 
 void tst_CGridArrangedButtonMisuse::refusesBadInput_data()
@@ -260,7 +264,32 @@ void tst_CGridArrangedButtonMisuse::survivesAbsurdMeasures()
         QCoreApplication::processEvents();
         button.sizeHint();
         button.minimumSizeHint();
-        QCOMPARE(button.columnStretch(0), value);
+        QCOMPARE(button.columnStretch(0), qBound(-largestStretch, value, largestStretch));
+    }
+}
+
+/// In QGridLayout three such rows are more than an int can add up, and it looks for room for ever.
+void tst_CGridArrangedButtonMisuse::survivesAbsurdStretches()
+{
+    using Limits = std::numeric_limits<int>;
+    QWidget window;
+    CGridArrangedButton button(&window);
+    for (int i = 0; i < 3; ++i)
+        button.addWidget(new QLabel(QStringLiteral("Text")), i, i);
+    window.show();
+    for (const auto& stretches : {std::array<int, 3>{Limits::max(), Limits::max(), 5},
+                                  {Limits::max(), Limits::max(), Limits::max()},
+                                  {Limits::min(), Limits::min(), -5},
+                                  {Limits::min(), Limits::max(), 1}}) {
+        for (int i = 0; i < 3; ++i) {
+            button.setRowStretch(i, stretches[i]);
+            button.setColumnStretch(i, stretches[i]);
+        }
+        for (const QSize& size : {QSize(1000, 1000), QSize(20, 20), QSize(0, 0)}) {
+            button.resize(size);
+            button.layout()->activate();
+        }
+        QCOMPARE(button.columnStretch(0), qBound(-largestStretch, stretches[0], largestStretch));
     }
 }
 

@@ -2,7 +2,10 @@
 #include "Search.h"
 #include "TestApplication.h"
 
-/// A few thousand random steps for each widget; "./dev soak" plays as many as wanted.
+/**
+ * A few thousand random steps for each widget, and for all of them where a pixel of theirs is no
+ * whole number of the screen's. "./dev soak" plays as many as wanted.
+ */
 class tst_RandomUse : public QObject
 {
     Q_OBJECT
@@ -10,22 +13,47 @@ class tst_RandomUse : public QObject
 private Q_SLOTS:
     void machine_data();
     void machine();
+    void scaled_data();
+    void scaled();
+
+private:
+    void play(const QString& machine, int steps);
 };
+
+/// Searches in processes of its own.
+void tst_RandomUse::play(const QString& machine, int steps)
+{
+    constexpr quint32 seed = 20; // any will do, as long as a failure can be repeated
+    const QString report = soak::search(QStringLiteral(SOAK_PROGRAM), machine, seed, steps);
+    QVERIFY2(report.isEmpty(), qPrintable(report));
+}
 
 void tst_RandomUse::machine_data()
 {
-    QTest::addColumn<int>("steps");
+    QTest::addColumn<QString>("name");
     for (const QString& name : soak::machineNames())
-        QTest::newRow(qPrintable(name)) << 3000;
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 void tst_RandomUse::machine()
 {
-    QFETCH(int, steps);
-    constexpr quint32 seed = 20; // any will do, as long as a failure can be repeated
-    const QString report = soak::search(QStringLiteral(SOAK_PROGRAM),
-                                        QLatin1String(QTest::currentDataTag()), seed, steps);
-    QVERIFY2(report.isEmpty(), qPrintable(report));
+    QFETCH(QString, name);
+    play(name, 3000);
+}
+
+void tst_RandomUse::scaled_data()
+{
+    QTest::addColumn<QByteArray>("factor");
+    for (const char* factor : {"0.75", "1.25", "1.5", "2"})
+        QTest::newRow(factor) << QByteArray(factor);
+}
+
+void tst_RandomUse::scaled()
+{
+    QFETCH(QByteArray, factor);
+    qputenv("QT_SCALE_FACTOR", factor);
+    play(QStringLiteral("together"), 2000);
+    qunsetenv("QT_SCALE_FACTOR");
 }
 
 int main(int argc, char** argv)
