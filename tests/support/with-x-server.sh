@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs a command on an X server of its own (Xvfb) with a window manager (openbox), and stops both after.
-# XSERVER_SCREEN sets the screen, 1280x800x24 by default.
+# XSERVER_SCREEN sets the screen, 1280x800x24 by default; with XSERVER_OTHER_SCREEN there is a second.
 set -u
 
 [ $# -gt 0 ] || { echo "usage: $0 COMMAND [ARGUMENT...]" >&2; exit 2; }
@@ -9,7 +9,8 @@ for tool in Xvfb openbox; do
 done
 
 scratch=$(mktemp -d)
-Xvfb -displayfd 3 -screen 0 "${XSERVER_SCREEN:-1280x800x24}" -nolisten tcp -noreset \
+Xvfb -displayfd 3 -screen 0 "${XSERVER_SCREEN:-1280x800x24}" \
+    ${XSERVER_OTHER_SCREEN:+-screen 1 "$XSERVER_OTHER_SCREEN"} -nolisten tcp -noreset \
     3>"$scratch/display" >"$scratch/xvfb.log" 2>&1 &
 server=$!
 manager=

@@ -41,6 +41,8 @@ failed=0
 for name in ${widget:-$("$programs/soak" --list)}; do
     "$programs/soak" --search "$name" "$seed" "$steps" || failed=1
 done
+# Qt ends a test function after five minutes else.
+export QTEST_FUNCTION_TIMEOUT=2000000000
 if [ -z "$widget" ]; then
     PLATFORM_LONG_LIFE=$((steps < 10 ? 1 : steps / 10)) "$programs/tst_LongLife" || failed=1
 fi

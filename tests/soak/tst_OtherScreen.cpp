@@ -1,0 +1,62 @@
+#include "TestApplication.h"
+#include "Uses.h"
+
+#include <QScreen>
+#include <QWindow>
+
+using soak::Use;
+
+/// Each use goes on when its window is moved to another screen, of another size, and back.
+class tst_OtherScreen : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void goesOn_data();
+    void goesOn();
+};
+
+void tst_OtherScreen::initTestCase()
+{
+    QCOMPARE(QGuiApplication::screens().size(), 2);
+    QVERIFY(QGuiApplication::screens().first()->size()
+            != QGuiApplication::screens().last()->size());
+}
+
+void tst_OtherScreen::goesOn_data()
+{
+    QTest::addColumn<Use>("use");
+    for (const Use& use : soak::uses())
+        QTest::newRow(use.name) << use;
+}
+
+void tst_OtherScreen::goesOn()
+{
+    QFETCH(Use, use);
+    constexpr int rounds = 12;
+    QWidget window;
+    window.resize(500, 400);
+    const std::function<bool(int)> repeat = use.begin(window);
+    window.winId(); // makes the window
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (QScreen* screen : {screens.first(), screens.last(), screens.first()}) {
+        window.hide();
+        window.windowHandle()->setScreen(screen);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(window.screen(), screen);
+        for (int round = 0; round < rounds; ++round)
+            QVERIFY(repeat(round));
+        QVERIFY(!window.grab().isNull());
+    }
+}
+
+int main(int argc, char** argv)
+{
+    return test::run<tst_OtherScreen>(argc, argv);
+}
+
+#include "tst_OtherScreen.moc"
