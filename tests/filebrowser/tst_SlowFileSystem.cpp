@@ -19,10 +19,21 @@ using namespace test;
 
 namespace {
 
-/// What threads other than the first have to pass before they read a directory's entry.
+/// What threads other than the first have to pass before they read a directory's entry. The first,
+/// which paints and takes the user's taps, is let through, but seen.
 class Gate
 {
 public:
+    void passFirstThread()
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_waitedInFirstThread = m_waitedInFirstThread || !m_open;
+    }
+    bool hasFirstThreadWaited()
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_waitedInFirstThread;
+    }
     void setOpen(bool open)
     {
         const QMutexLocker lock(&m_mutex);
@@ -47,6 +58,7 @@ private:
     QMutex m_mutex;
     QWaitCondition m_changed;
     bool m_open = true;
+    bool m_waitedInFirstThread = false;
     int m_waiting = 0;
 };
 
@@ -78,8 +90,7 @@ public:
 extern "C" Q_DECL_EXPORT dirent64* readdir64(DIR* directory)
 {
     const bool firstThread = !qApp || QThread::currentThread() == qApp->thread();
-    if (!firstThread)
-        gate().pass();
+    firstThread ? gate().passFirstThread() : gate().pass();
     const auto original = reinterpret_cast<decltype(&readdir64)>(dlsym(RTLD_NEXT, "readdir64"));
     return original(directory);
 }
@@ -124,6 +135,7 @@ void tst_SlowFileSystem::init()
 
 void tst_SlowFileSystem::cleanup()
 {
+    QVERIFY(!gate().hasFirstThreadWaited());
     m_browser.reset();
     m_tree.reset();
 }

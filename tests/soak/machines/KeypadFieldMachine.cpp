@@ -169,9 +169,12 @@ void KeypadFieldMachine::tapOutside()
     const bool isEdited = field().isVisible() && m_refocused;
     if (!isUp() || !isEdited || QApplication::activePopupWidget() != field().keypad() || !window)
         return;
-    const QPoint below(0, field().window()->height() + 500); // and below the keypad too
-    qt_handleMouseEvent(window, below, window->mapToGlobal(below), Qt::LeftButton, Qt::LeftButton,
-                        QEvent::MouseButtonPress, Qt::NoModifier, 0);
+    // Below the keypad too, which may be large.
+    const int bottom =
+        qMax(field().window()->geometry().bottom(), field().keypad()->geometry().bottom());
+    const QPoint outside(field().window()->geometry().left(), bottom + 100);
+    qt_handleMouseEvent(window, window->mapFromGlobal(outside), outside, Qt::LeftButton,
+                        Qt::LeftButton, QEvent::MouseButtonPress, Qt::NoModifier, 0);
     turnEventLoop();
     turnEventLoop();
     expect(!isUp(), "a tap outside closes the keypad");
