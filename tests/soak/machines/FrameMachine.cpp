@@ -10,6 +10,8 @@ namespace soak {
 
 namespace {
 
+constexpr int largestFrame = 40000;
+
 /// What a rounded frame keeps, and the margins that follow.
 class FrameMachine : public WidgetMachine
 {
@@ -43,7 +45,7 @@ FrameMachine::FrameMachine(const std::shared_ptr<Stage>& stage)
     add("setRadius", 4, [this](Values& v) { setRadius(v.integer()); });
     add("setLineWidth", 4, [this](Values& v) { setLineWidth(v.integer()); });
     add("setFrameShadow", 2, [this](Values& v) {
-        m_shadow = v.oneOf<int>({QFrame::Plain, QFrame::Raised, QFrame::Sunken, 0, -5});
+        m_shadow = v.oneOf<int>({QFrame::Plain, QFrame::Raised, QFrame::Sunken, 0, 0x3f});
         frame().setFrameShadow(QFrame::Shadow(m_shadow));
     });
     add("setFrameShape", 2, [this](Values& v) {
@@ -75,7 +77,10 @@ QWidget* FrameMachine::create()
     m_shape = CRoundedFrame::Box;
     m_masked = false;
     updateMargin();
-    return new CRoundedFrame;
+    auto* frame = new CRoundedFrame;
+    // Of a rounded clip of more than some 65,000 lines, Qt makes none, and loses memory.
+    frame->setMaximumSize(largestFrame, largestFrame);
+    return frame;
 }
 
 void FrameMachine::setRadius(int radius)

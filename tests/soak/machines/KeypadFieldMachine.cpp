@@ -166,7 +166,7 @@ void KeypadFieldMachine::tapOutside()
 {
     turnEventLoop();
     QWindow* window = field().window()->windowHandle();
-    const bool isEdited = field().isVisible() && m_refocused;
+    const bool isEdited = field().isVisible() && field().isActiveWindow() && m_refocused;
     if (!isUp() || !isEdited || QApplication::activePopupWidget() != field().keypad() || !window)
         return;
     // Below the keypad too, which may be large.
