@@ -5,9 +5,9 @@ sources() {
     git ls-files -- "$@"
 }
 
-# Compiled sources that are ours; the tests need not satisfy what makes a library robust.
-library_sources() {
-    sources 'src/*.cpp' 'platform/*.cpp' 'gallery/*.cpp' 'designer/*.cpp' 'docs/*.cpp'
+# What clazy and clang-tidy read; the tests need not satisfy what makes a library robust.
+clang_sources() {
+    sources "${CLANG_READS[@]/%//*.cpp}"
 }
 
 # Runs a command once for each file on standard input, on all processors.
@@ -65,7 +65,7 @@ readonly OWN_HEADERS="$DEV_ROOT/(src|include|platform|gallery|designer|docs)/"
 lint_clazy() {
     clang_compile_commands
     # Properties have no change signals: that is the library's interface.
-    library_sources \
+    clang_sources \
         | for_each_file clazy-standalone -p build/lint -header-filter="$OWN_HEADERS" \
             -checks=level1,no-qproperty-without-notify 2>&1 \
         | no_lines_but '^[0-9]+ warnings? generated\.$'
@@ -73,7 +73,7 @@ lint_clazy() {
 
 lint_tidy() {
     clang_compile_commands
-    library_sources \
+    clang_sources \
         | for_each_file clang-tidy -p build/lint --quiet --header-filter="$OWN_HEADERS" 2>&1 \
         | no_lines_but '^[0-9]+ warnings? generated\.$|^$'
 }
