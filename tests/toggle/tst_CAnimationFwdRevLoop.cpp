@@ -42,6 +42,7 @@ private Q_SLOTS:
 
     void runsBackAndForth();
     void runsBackAndForthInTime();
+    void turnsShortestAnimationRound();
     void startsBackwards();
     void runsAllLoopsEachWay();
     void drivesGroups();
@@ -135,6 +136,17 @@ void tst_CAnimationFwdRevLoop::runsBackAndForthInTime()
     QCOMPARE(directions.at(0), QAbstractAnimation::Backward);
     QCOMPARE(directions.at(1), QAbstractAnimation::Forward);
     QCOMPARE(directions.at(2), QAbstractAnimation::Backward);
+}
+
+void tst_CAnimationFwdRevLoop::turnsShortestAnimationRound()
+{
+    QVariantAnimation animation;
+    configure(animation, 1);
+    new CAnimationFwdRevLoop(&animation);
+    animation.start();
+    finish(animation);
+    QCOMPARE(animation.direction(), QAbstractAnimation::Backward);
+    QCOMPARE(animation.state(), QAbstractAnimation::Running);
 }
 
 void tst_CAnimationFwdRevLoop::startsBackwards()
