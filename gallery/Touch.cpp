@@ -83,10 +83,10 @@ protected:
         QStylePainter painter(this);
 
         const QRect text = option.rect.adjusted(fingerSize, 0, 0, 0);
-        painter.drawItemText(QStyle::visualRect(option.direction, rect(), text),
-                             Qt::AlignVCenter
-                                 | QStyle::visualAlignment(option.direction, Qt::AlignLeft),
-                             option.palette, isEnabled(), option.text, QPalette::WindowText);
+        painter.drawItemText(
+            QStyle::visualRect(option.direction, rect(), text),
+            int(Qt::AlignVCenter | QStyle::visualAlignment(option.direction, Qt::AlignLeft)),
+            option.palette, isEnabled(), option.text, QPalette::WindowText);
 
         QRect indicator(0, 0, indicatorSize, indicatorSize);
         indicator.moveCenter(QRect(0, 0, fingerSize, height()).center());

@@ -19,6 +19,6 @@ public:
 private:
     QLayout* makePulse();
     QLayout* makeSweep();
-    QPushButton* makeSwitch(QVariantAnimation* animation);
-    QLabel* makeDirection(QVariantAnimation* animation);
+    static QPushButton* makeSwitch(QVariantAnimation* animation);
+    static QLabel* makeDirection(QVariantAnimation* animation);
 };

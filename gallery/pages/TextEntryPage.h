@@ -32,8 +32,8 @@ private:
     /// A field whose keypad is titled \a title; takes \a validator.
     ui::KeypadLineEdit* makeField(const QString& title, ui::keyboard::KeyboardType type,
                                   QValidator* validator);
-    void addRow(QGridLayout* form, ui::KeypadLineEdit* field);
-    void addPair(QBoxLayout* row, ui::KeypadLineEdit* field);
+    static void addRow(QGridLayout* form, ui::KeypadLineEdit* field);
+    static void addPair(QBoxLayout* row, ui::KeypadLineEdit* field);
 
     QLabel* m_report;
 };

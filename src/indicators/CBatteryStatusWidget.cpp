@@ -107,7 +107,8 @@ QPainterPath boltPath(const QRect& box)
     const double boxWidth = box.right() - box.left() + 1;
     const double notch = boxWidth / sixGoldenRatios;
     const double barHeight = boxWidth / CBatteryStatusWidget::GOLDEN_RATIO;
-    const double centre = box.left() + (box.right() - box.left() + 1) / 2;
+    const int halfWidth = (box.right() - box.left() + 1) / 2; // whole pixels
+    const double centre = box.left() + halfWidth;
     const double left = box.left();
     const double top = box.top();
     const double right = box.right();
@@ -165,11 +166,13 @@ int CBatteryStatusWidget::getBatteryRectWidth(int width) const
     return saturated(qint64(width) - m_frameWidth);
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): part of the interface
 int CBatteryStatusWidget::getBatteryRectHeight(int width) const
 {
     return rounded(width * GOLDEN_RATIO);
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): part of the interface
 int CBatteryStatusWidget::getTopRectWidth(int width) const
 {
     return rounded(width / twoGoldenRatios);

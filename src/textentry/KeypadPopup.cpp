@@ -33,6 +33,7 @@ QColor baseColor()
 }
 
 /// From the innermost layout out, since a layout tells the next outer one only when it is activated.
+// NOLINTNEXTLINE(misc-no-recursion): no deeper than the keypad's widgets are nested
 void activateLayouts(QWidget* widget)
 {
     const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);

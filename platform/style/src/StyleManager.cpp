@@ -17,6 +17,7 @@ StyleManager* StyleManager::getInstance()
     return &instance;
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the device's own is
 QFont StyleManager::getStyleFont(Fonts font)
 {
     QFont result;

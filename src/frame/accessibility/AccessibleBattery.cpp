@@ -29,7 +29,7 @@ QAccessible::State AccessibleBattery::state() const
 /// What the application says of the battery comes first.
 QString AccessibleBattery::text(QAccessible::Text kind) const
 {
-    const QString given = QAccessibleWidget::text(kind);
+    QString given = QAccessibleWidget::text(kind);
     if (!given.isEmpty())
         return given;
     switch (kind) {

@@ -23,7 +23,6 @@ public:
     static StyleManager* getInstance();
 
     /// The font for \a font; the application's default font for a name that is not known here.
-    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the device's own is
     QFont getStyleFont(Fonts font);
 
 private:
