@@ -1,6 +1,6 @@
 #include "ui/LineEdit.h"
 
-#include "../frame/accessibility/InvalidInputNote.h"
+#include "../frame/accessibility/InvalidInput.h"
 
 #include <QKeyEvent>
 #include <QPointer>
@@ -35,7 +35,6 @@ LineEdit::LineEdit(QWidget* parent)
     connect(this, &LineEdit::signalOkKey, this, &LineEdit::onOkKey);
     connect(this, &QLineEdit::returnPressed, this, &LineEdit::onOkKey);
     connect(this, &LineEdit::signalCancelKey, this, &LineEdit::onCancelKey);
-    new InvalidInputNote(this);
 }
 
 LineEdit::~LineEdit() = default;
@@ -45,6 +44,7 @@ void LineEdit::textEditedSlot(const QString& text)
     const bool valid = isAcceptable(validator(), text);
     setProperty(inputValidProperty, QVariant(valid));
     style()->polish(this);
+    describeValidity(*this, valid);
     Q_EMIT resultValidated(valid);
 }
 
