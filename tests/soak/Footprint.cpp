@@ -104,7 +104,7 @@ Footprint Footprint::now()
 
 bool Footprint::isResidentExact()
 {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__SANITIZE_ADDRESS__) || defined(RUNS_IN_EMULATOR)
     return false;
 #else
     return true;

@@ -9,7 +9,8 @@ struct Footprint
 {
     /// Of this moment, once nothing is left to be delivered or deleted.
     static Footprint now();
-    /// False with the address sanitizer, which keeps what is freed for a while.
+    /// False with the address sanitizer, which keeps what is freed for a while, and in an emulator,
+    /// which keeps the code that it has translated.
     static bool isResidentExact();
 
     int objects = 0; ///< QObjects.
