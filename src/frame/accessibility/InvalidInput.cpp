@@ -13,9 +13,9 @@ namespace {
 constexpr char noteProperty[] = "_invalidInputNote";
 
 /// What a screen reader is told: the application's words, else what Qt finds in their place.
-QString descriptionOf(QLineEdit& field)
+QString descriptionOf(QLineEdit* field)
 {
-    return QAccessible::queryAccessibleInterface(&field)->text(QAccessible::Description);
+    return QAccessible::queryAccessibleInterface(field)->text(QAccessible::Description);
 }
 
 QString withNote(const QString& description)
@@ -27,7 +27,7 @@ QString withNote(const QString& description)
 void addNote(QLineEdit& field)
 {
     const QString given = field.accessibleDescription();
-    const QString noted = withNote(descriptionOf(field));
+    const QString noted = withNote(descriptionOf(&field));
     field.setProperty(noteProperty, QStringList{given, noted});
     field.setAccessibleDescription(noted);
 }
