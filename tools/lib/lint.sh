@@ -20,10 +20,11 @@ no_lines_but() {
     ! grep -vE -- "$1"
 }
 
-# The rules of CONTRIBUTING.md that a search can check.
+# The rules of CONTRIBUTING.md that a search can check. The brackets keep the patterns from finding themselves, so
+# that no file is left out.
 lint_rules() {
-    ! git grep -nE '\b(TODO|FIXME|XXX)\b' -- ':!tools/lib/lint.sh' \
-        && ! git grep -nE '\b(QSKIP|QEXPECT_FAIL|QTest::qSleep|QTest::qWait|QThread::[mu]?sleep)\b' -- '*.cpp' '*.h' \
+    ! git grep -nE '\b(T[O]DO|F[I]XME|X[X]X)\b' \
+        && ! git grep -nE '\b(Q[S]KIP|Q[E]XPECT_FAIL|QTest::qSleep|QTest::qWait|QThread::[mu]?sleep)\b' -- '*.cpp' '*.h' \
         && ! git grep -nE '^ *(public|protected|private)? *(signals|slots):|\bemit \w+\(|\bforeach \(|\bforever \{' -- '*.cpp' '*.h'
 }
 
