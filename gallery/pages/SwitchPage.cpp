@@ -1,5 +1,7 @@
 #include "SwitchPage.h"
 
+#include "ColouredSwitch.h"
+
 #include <Switch.h>
 
 #include <QBoxLayout>
@@ -13,27 +15,6 @@ namespace {
 const QColor blue(33, 150, 243);
 const QColor green(76, 175, 80);
 const QColor orange(255, 152, 0);
-
-/// Colours that suit a light and a dark background, with \a accent for the on state.
-void dress(Switch* control, const QColor& accent)
-{
-    control->setThumbOnBrush(accent);
-    control->setTrackOnBrush(accent);
-    control->setThumbOffBrush(QColor(250, 250, 250));
-    control->setTrackOffBrush(Qt::gray);
-    control->setTrackOffOpacity(0.6);
-    control->setThumbDisabled(QColor(190, 190, 190));
-    control->setTrackDisabled(Qt::gray);
-    control->setTrackDisabledOpacity(0.3);
-}
-
-Switch* makeSwitch(const QString& text, const QColor& accent, bool on)
-{
-    auto* control = new Switch(text);
-    dress(control, accent);
-    control->setChecked(on); // after the colours, which show those of the off state at first
-    return control;
-}
 
 QLabel* makeCaption(const QString& text)
 {
@@ -89,12 +70,12 @@ QLayout* SwitchPage::makePlain()
 
 QLayout* SwitchPage::makeLabelled()
 {
-    auto* off = addSwitch(makeSwitch(tr("Bluetooth"), blue, false), tr("Labelled, off"));
-    auto* on = addSwitch(makeSwitch(tr("Wi-Fi"), blue, true), tr("Labelled, on"));
+    auto* off = addSwitch(makeColouredSwitch(tr("Bluetooth"), blue, false), tr("Labelled, off"));
+    auto* on = addSwitch(makeColouredSwitch(tr("Wi-Fi"), blue, true), tr("Labelled, on"));
     auto* disabledOff =
-        addSwitch(makeSwitch(tr("Hotspot"), blue, false), tr("Labelled, disabled and off"));
+        addSwitch(makeColouredSwitch(tr("Hotspot"), blue, false), tr("Labelled, disabled and off"));
     auto* disabledOn =
-        addSwitch(makeSwitch(tr("Firewall"), blue, true), tr("Labelled, disabled and on"));
+        addSwitch(makeColouredSwitch(tr("Firewall"), blue, true), tr("Labelled, disabled and on"));
     disabledOff->setEnabled(false);
     disabledOn->setEnabled(false);
 
@@ -108,20 +89,21 @@ QLayout* SwitchPage::makeLabelled()
 
 QLayout* SwitchPage::makeCustom()
 {
-    auto* colored = addSwitch(makeSwitch(tr("Heating"), orange, true), tr("Coloured"));
-    auto* slow = makeSwitch(tr("Slow and springy"), green, false);
+    auto* colored = addSwitch(makeColouredSwitch(tr("Heating"), orange, true), tr("Coloured"));
+    auto* slow = makeColouredSwitch(tr("Slow and springy"), green, false);
     slow->setThumbPosAnimation({QEasingCurve::OutBounce, 1200});
     slow->setThumbBrushAnimation({QEasingCurve::InOutQuad, 600});
     slow->setTrackBrushAnimation({QEasingCurve::InOutQuad, 600});
     addSwitch(slow, tr("Slow"));
 
-    auto* instant = makeSwitch(tr("At once"), green, false);
+    auto* instant = makeColouredSwitch(tr("At once"), green, false);
     for (const auto set : {&Switch::setThumbPosAnimation, &Switch::setThumbBrushAnimation,
                            &Switch::setTrackBrushAnimation})
         (instant->*set)({QEasingCurve::Linear, 0});
     addSwitch(instant, tr("At once"));
 
-    auto* mirrored = addSwitch(makeSwitch(tr("Right to left"), orange, true), tr("Right to left"));
+    auto* mirrored =
+        addSwitch(makeColouredSwitch(tr("Right to left"), orange, true), tr("Right to left"));
     mirrored->setLayoutDirection(Qt::RightToLeft);
 
     auto* grid = new QGridLayout;
@@ -137,7 +119,8 @@ QLayout* SwitchPage::makeGroup()
     auto* row = new QHBoxLayout;
     auto* group = new QButtonGroup(this);
     for (const QString& text : {tr("Low"), tr("Medium"), tr("High")}) {
-        Switch* control = addSwitch(makeSwitch(text, green, false), tr("Group: %1").arg(text));
+        Switch* control =
+            addSwitch(makeColouredSwitch(text, green, false), tr("Group: %1").arg(text));
         group->addButton(control);
         row->addWidget(control);
     }

@@ -1,5 +1,6 @@
 #include "ToggleSheets.h"
 
+#include "ColouredSwitch.h"
 #include "Lamp.h"
 
 #include <Animator.h>
@@ -9,7 +10,6 @@
 
 namespace {
 
-const QColor blue(33, 150, 243);
 constexpr int halfWay = 75; // of the 150 ms that a switch takes by default
 
 Switch* makePlain(bool on, bool enabled)
@@ -27,15 +27,7 @@ auto plain(bool on, bool enabled)
 
 Switch* makeColoured(bool on)
 {
-    auto* control = new Switch(ToggleSheets::tr("Wi-Fi"), blue);
-    control->setThumbOffBrush(QColor(250, 250, 250));
-    control->setTrackOffBrush(Qt::gray);
-    control->setTrackOffOpacity(0.6);
-    control->setThumbDisabled(QColor(190, 190, 190));
-    control->setTrackDisabled(Qt::gray);
-    control->setTrackDisabledOpacity(0.3);
-    control->setChecked(on); // after the colours
-    return control;
+    return makeColouredSwitch(ToggleSheets::tr("Wi-Fi"), QColor(33, 150, 243), on);
 }
 
 auto coloured(bool on)
