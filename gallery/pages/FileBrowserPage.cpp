@@ -17,10 +17,18 @@ namespace {
 /// As many names as a line has room for.
 constexpr int shownNames = 3;
 
+/// First the one in which there is something to be seen.
+QStringList rootsByDefault()
+{
+    if (QDir::home().isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot))
+        return {QDir::rootPath(), QDir::homePath()};
+    return {QDir::homePath(), QDir::rootPath()};
+}
+
 QStringList roots()
 {
     const QStringList named = galleryDirectories();
-    return named.isEmpty() ? QStringList{QDir::homePath(), QDir::rootPath()} : named;
+    return named.isEmpty() ? rootsByDefault() : named;
 }
 
 QStringList fileNames(const QStringList& paths)

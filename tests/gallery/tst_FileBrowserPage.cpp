@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QListView>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
+    void homeAndTopByDefault_data();
     void homeAndTopByDefault();
     void namedDirectories();
     void showsTheSelectionAsItChanges();
@@ -112,12 +114,31 @@ void tst_FileBrowserPage::click(const QString& name, Qt::KeyboardModifiers modif
                       m_view->visualRect(index).center());
 }
 
+void tst_FileBrowserPage::homeAndTopByDefault_data()
+{
+    QTest::addColumn<QString>("fileAtHome");
+    QTest::addColumn<bool>("homeFirst");
+    QTest::newRow("a file at home") << "file" << true;
+    QTest::newRow("a hidden file at home") << ".file" << false;
+}
+
 void tst_FileBrowserPage::homeAndTopByDefault()
 {
+    QFETCH(QString, fileAtHome);
+    QFETCH(bool, homeFirst);
+    const QTemporaryDir home;
+    QFile file(home.filePath(fileAtHome));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QByteArray before = qgetenv("HOME");
+    const auto restore = qScopeGuard([before] { qputenv("HOME", before); });
+    qputenv("HOME", QFile::encodeName(home.path()));
+
     setGalleryDirectories({});
     delete m_page;
     m_page = new FileBrowserPage(m_window.get());
-    QCOMPARE(roots(), (QStringList{QDir::homePath(), QDir::rootPath()}));
+    const QStringList homeThenTop{home.path(), QDir::rootPath()};
+    const QStringList topThenHome{QDir::rootPath(), home.path()};
+    QCOMPARE(roots(), homeFirst ? homeThenTop : topThenHome);
 }
 
 void tst_FileBrowserPage::namedDirectories()
