@@ -1,3 +1,4 @@
+#include "EventCounter.h"
 #include "Painting.h"
 #include "PaintRecorder.h"
 #include "TestApplication.h"
@@ -7,6 +8,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainterPath>
+#include <QVBoxLayout>
 #include <QWindow>
 
 using ui::CRoundedFrame;
@@ -88,6 +90,8 @@ private Q_SLOTS:
     void masksHiddenFrameAtFirstPaint();
     void masksAtDoubleResolution();
     void clearsMaskAtOnce();
+    void onlyMaskingAsksForALayout();
+    void masksAgainAtOnce();
     void followsSize();
     void followsRadius_data();
     void followsRadius();
@@ -141,6 +145,33 @@ void tst_CRoundedFrameMask::clearsMaskAtOnce()
     stage.frame.setRadius(30);
     stage.frame.repaint();
     QVERIFY(stage.frame.mask().isEmpty());
+}
+
+void tst_CRoundedFrameMask::onlyMaskingAsksForALayout()
+{
+    Stage stage;
+    auto* layout = new QVBoxLayout(&stage.pad);
+    layout->addWidget(&stage.frame);
+    stage.frame.enableWidgetMask(true);
+    QVERIFY(stage.show());
+    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    test::EventCounter layoutRequests(&stage.pad, QEvent::LayoutRequest);
+    layoutRequests.take();
+    stage.frame.enableWidgetMask(false);
+    QCOMPARE(layoutRequests.take(), 0);
+    stage.frame.enableWidgetMask(true);
+    QCOMPARE(layoutRequests.take(), 1);
+}
+
+void tst_CRoundedFrameMask::masksAgainAtOnce()
+{
+    Stage stage;
+    stage.frame.enableWidgetMask(true);
+    QVERIFY(stage.show());
+    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    stage.frame.enableWidgetMask(false);
+    stage.frame.enableWidgetMask(true);
+    QCOMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
 }
 
 void tst_CRoundedFrameMask::followsSize()

@@ -1,4 +1,5 @@
 #include "Animator.h"
+#include "EventCounter.h"
 #include "PaintRecorder.h"
 #include "Palettes.h"
 #include "Switch.h"
@@ -19,24 +20,6 @@ QFont largeFont()
     font.setPixelSize(31);
     return font;
 }
-
-/// Counts the requests for a new layout that reach \a parent.
-class LayoutRequests : public QObject
-{
-public:
-    explicit LayoutRequests(QWidget* parent)
-    {
-        parent->installEventFilter(this);
-    }
-
-    int count = 0;
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::LayoutRequest ? 1 : 0;
-        return false;
-    }
-};
 
 } // namespace
 
@@ -175,7 +158,8 @@ void tst_Switch::propertyIsSetOnce()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     test::PaintRecorder recorder(&control);
-    const LayoutRequests layouts(&window);
+    test::EventCounter layouts(&window, QEvent::LayoutRequest);
+    layouts.take();
     recorder.takeRegions();
 
     control.setProperty(name, initial);
@@ -184,7 +168,7 @@ void tst_Switch::propertyIsSetOnce()
     QCOMPARE(recorder.takeRegions(), QVector<QRegion>{control.rect()});
     control.setProperty(name, other);
     QVERIFY2(recorder.takeRegions().isEmpty(), "the same value must not repaint");
-    QCOMPARE(layouts.count, 0);
+    QCOMPARE(layouts.take(), 0);
 }
 
 void tst_Switch::doublesCompareExactly()
