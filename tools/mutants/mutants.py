@@ -63,9 +63,14 @@ def read_accepted():
     return accepted
 
 
+def folder_of(name):
+    """The folder of a source right under src/: its tests are in the one of the same name under tests/."""
+    return Path(name).parts[1]
+
+
 def tests_for(name, tests):
     """The tests of the class that a source is named after, and the other tests of its folder."""
-    folder, stem = Path(name).parent.name, Path(name).stem
+    folder, stem = folder_of(name), Path(name).stem
     in_folder = sorted(test for test, place in tests.items() if place == folder)
     near = [test for test in in_folder if test.split(".", 1)[1].startswith(stem) and test.startswith("offscreen.")]
     return (near or in_folder), ([test for test in in_folder if test not in near] if near else [])
@@ -82,7 +87,7 @@ def read_tasks(pattern, sample, tests):
         if not near:
             print(f"mutants: no test for {name}", file=sys.stderr)
             continue
-        folder = PROJECT / "tests" / path.parent.name
+        folder = PROJECT / "tests" / folder_of(name)
         tests_digest = digest(*(file.read_text() for file in sorted(folder.glob("*.cpp"))))
         tasks += [Task(name, text, mutant, near, far, tests_digest) for mutant in mutants(text)[::sample]]
     return tasks
