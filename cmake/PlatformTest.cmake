@@ -59,11 +59,13 @@ set(PLATFORM_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
 
-set(PLATFORM_TEST_TIMEOUT 300)
+set(default_timeout 300)
 
 if(CMAKE_CROSSCOMPILING)
-    set(PLATFORM_TEST_TIMEOUT 1200) # an emulated program is some ten times slower
+    set(default_timeout 1200) # an emulated program is some ten times slower
     # The emulator redirects only some of the calls by which Qt looks for its plugins into the sysroot.
     list(APPEND PLATFORM_TEST_ENVIRONMENT
         "QT_PLUGIN_PATH=$<TARGET_FILE_DIR:Qt5::QOffscreenIntegrationPlugin>/..")
 endif()
+
+set(PLATFORM_TEST_TIMEOUT ${default_timeout} CACHE STRING "Seconds after which a test program counts as hanging")
