@@ -37,6 +37,8 @@ class Mutation(unittest.TestCase):
         self.assertEqual(broken("call(a);"), [";"])
         self.assertEqual(broken("m = a;\n    call(b);"), [";\n    call(b);", "call(b);\n    m = a;", "m = a;\n    ;"])
         self.assertEqual(broken("const int c = call(a);"), [])
+        self.assertEqual(broken("w->setA(a);\n    connect(b);"), [";\n    connect(b);", "w->setA(a);\n    ;"])
+        self.assertIn("l.addWidget(b);\n    l.addStretch();", broken("l.addStretch();\n    l.addWidget(b);"))
         self.assertEqual(broken("QPainter painter(this);"), [])
         self.assertEqual(broken("m = a;\n    update();"), [";\n    update();", "m = a;\n    ;"])
 

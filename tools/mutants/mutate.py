@@ -41,8 +41,9 @@ _EXCHANGES = {
 _NUMBER = re.compile(r"(?<![\w.])(0x[0-9a-fA-F]+|\d+\.\d*|\d+)(?=[uUlLfF]*(?![\w.]))")
 # What only asks for something later does the same a statement sooner.
 _LATER = re.compile(r"(update|updateGeometry)\(")
-# Two properties can be set, and two signals connected, in either order.
-_INDEPENDENT = [re.compile(r"(\w+(\.|->))?set[A-Z]\w*\("), re.compile(r"connect\(")]
+# Where an object is set up, only what is added to a layout has to be in order.
+_SET_UP = re.compile(r"(\w+(\(\))?(\.|->))*(set[A-Z]\w*|add(Widget|Layout|Stretch))\(|connect\(")
+_ADDED = re.compile(r"(\w+(\.|->))?add(Widget|Layout|Stretch)\(")
 
 
 def _exchanges(code):
@@ -80,8 +81,11 @@ def _negations(code, text):
 
 
 def _is_order_observable(first, second):
-    return not (_LATER.match(first) or _LATER.match(second)
-                or any(pattern.match(first) and pattern.match(second) for pattern in _INDEPENDENT))
+    if _LATER.match(first) or _LATER.match(second):
+        return False
+    if _ADDED.match(first) and _ADDED.match(second):
+        return True
+    return not (_SET_UP.match(first) and _SET_UP.match(second))
 
 
 def _statements(code, text):
