@@ -256,15 +256,19 @@ void tst_FileBrowserDirectories::selectionModes_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<int>("viewMode");
-    QTest::newRow("none") << 0 << int(QAbstractItemView::NoSelection);
-    QTest::newRow("single") << 1 << int(QAbstractItemView::SingleSelection);
-    QTest::newRow("multi") << 2 << int(QAbstractItemView::ExtendedSelection);
+    QTest::addColumn<int>("modeBefore");
+    QTest::newRow("none") << 0 << int(QAbstractItemView::NoSelection) << 1;
+    QTest::newRow("single after multi") << 1 << int(QAbstractItemView::SingleSelection) << 2;
+    QTest::newRow("single after none") << 1 << int(QAbstractItemView::SingleSelection) << 0;
+    QTest::newRow("multi") << 2 << int(QAbstractItemView::ExtendedSelection) << 1;
 }
 
 void tst_FileBrowserDirectories::selectionModes()
 {
     QFETCH(int, mode);
     QFETCH(int, viewMode);
+    QFETCH(int, modeBefore);
+    m_browser->setSelectionMode(ui::FileBrowserWidget::SelectionMode(modeBefore));
     m_browser->setSelectionMode(ui::FileBrowserWidget::SelectionMode(mode));
     QCOMPARE(int(m_parts->tileView->selectionMode()), viewMode);
     QCOMPARE(int(m_parts->listView->selectionMode()), viewMode);

@@ -18,6 +18,27 @@
 
 using namespace test;
 
+namespace {
+
+/// The order in which widgets are shown and hidden.
+class Appearances : public QObject
+{
+public:
+    QStringList log;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const QString name = QString::fromLatin1(watched->metaObject()->className());
+        if (event->type() == QEvent::ShowToParent)
+            log.append(name + QStringLiteral(" shows"));
+        if (event->type() == QEvent::HideToParent)
+            log.append(name + QStringLiteral(" hides"));
+        return false;
+    }
+};
+
+} // namespace
+
 /// How the browser is built, and how navigation keeps its parts in step.
 class tst_FileBrowserWidget : public QObject
 {
@@ -40,6 +61,7 @@ private Q_SLOTS:
     void listView();
     void listViewHeader();
     void switchingViews();
+    void switchingViewsInOrder();
     void viewsShareTheModelButNoSelection();
     void destructorDeletesTheModel();
     void destroyedWithoutAModel();
@@ -261,6 +283,18 @@ void tst_FileBrowserWidget::switchingViews()
     m_parts->tileButton->click();
     QVERIFY(!m_parts->tileView->isHidden());
     QVERIFY(m_parts->listView->isHidden());
+}
+
+void tst_FileBrowserWidget::switchingViewsInOrder()
+{
+    Appearances appearances;
+    m_parts->tileView->installEventFilter(&appearances);
+    m_parts->listView->installEventFilter(&appearances);
+    m_parts->listButton->click();
+    QCOMPARE(appearances.log, (QStringList{"QListView hides", "QTreeView shows"}));
+    appearances.log.clear();
+    m_parts->tileButton->click();
+    QCOMPARE(appearances.log, (QStringList{"QListView shows", "QTreeView hides"}));
 }
 
 void tst_FileBrowserWidget::viewsShareTheModelButNoSelection()
