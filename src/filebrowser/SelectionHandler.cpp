@@ -45,7 +45,7 @@ void SelectionHandler::run()
 SelectionHandler::Run SelectionHandler::startRun() const
 {
     Run run;
-    if (!m_browser || !m_model || !m_tileView)
+    if (!m_tileView)
         return run;
     const QModelIndexList rows = SelectionSnapshot(m_tileView->selectionModel(), m_model).rows();
     if (rows.size() == 1 && m_model->isDir(rows.first())) {
@@ -64,7 +64,7 @@ SelectionHandler::Run SelectionHandler::startRun() const
 /// Deselects the next directory of \a run that is still selected; false if there is none left.
 bool SelectionHandler::deselectNext(Run& run)
 {
-    if (run.next == run.directories.size() || !m_model || !m_tileView)
+    if (run.next == run.directories.size() || !m_tileView)
         return false;
     // A run that has only just begun found all of its directories selected.
     const bool justBegun = run.next == 0;

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void browserDeletedWhileDirectoriesAreDeselected();
     void browserDeletedLaterByAClick();
     void modelDeletedInTheSlot();
+    void tileViewDeletedInTheSlot();
     void barDeletedInTheSlot();
     void viewWithAModelOfTheProgram();
     void selectedDirectoryRemoved();
@@ -364,6 +365,18 @@ void tst_FileBrowserSelection::modelDeletedInTheSlot()
     select({"alpha", "one", "beta", "two"});
     QVERIFY(model.isNull());
     QCOMPARE(m_browser->selectedFiles(), QStringList());
+}
+
+void tst_FileBrowserSelection::tileViewDeletedInTheSlot()
+{
+    const QPointer<QListView> view(m_parts->tileView);
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
+            [view] { delete view.data(); });
+    select({"alpha", "one", "beta", "two"});
+    QVERIFY(view.isNull());
+    m_changes = 0;
+    selectEntries(*m_parts->listView, {"one"}); // has the handler read the tile view
+    QCOMPARE(m_changes, 1);
 }
 
 void tst_FileBrowserSelection::barDeletedInTheSlot()

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void batteryTellsItsCondition();
     void batteryTakesTheApplicationsWords();
     void crumbIsALink();
+    void crumbTakesTheApplicationsWords();
     void crumbIsPressed();
     void crumbDeletedByItsPress();
     void disabledCrumbIsNotPressed();
@@ -118,6 +119,15 @@ void tst_Accessibility::crumbIsALink()
         QAccessibleActionInterface::pressAction()));
 }
 
+void tst_Accessibility::crumbTakesTheApplicationsWords()
+{
+    ClickableLabel label;
+    label.setText(QStringLiteral("music"));
+    QCOMPARE(descriptionOf(label), QString());
+    label.setAccessibleName(QStringLiteral("Folder music"));
+    QCOMPARE(interfaceOf(&label)->text(QAccessible::Name), QStringLiteral("Folder music"));
+}
+
 void tst_Accessibility::crumbIsPressed()
 {
     ClickableLabel label(nullptr);
@@ -125,8 +135,10 @@ void tst_Accessibility::crumbIsPressed()
     QAccessibleActionInterface* actions = interfaceOf(&label)->actionInterface();
     actions->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(spy.size(), 1);
+    QVERIFY(!label.focusWidget());
     actions->doAction(QAccessibleActionInterface::setFocusAction());
     QCOMPARE(spy.size(), 1);
+    QCOMPARE(label.focusWidget(), &label);
 }
 
 void tst_Accessibility::crumbDeletedByItsPress()
@@ -190,6 +202,10 @@ void tst_Accessibility::invalidFieldTakesTheApplicationsWords()
     QCOMPARE(descriptionOf(field), QStringLiteral("Try a digit"));
     field.textEditedSlot(QStringLiteral("1"));
     QCOMPARE(descriptionOf(field), QStringLiteral("Try a digit"));
+
+    field.setAccessibleDescription(QStringLiteral("Invalid input"));
+    field.textEditedSlot(QStringLiteral("2"));
+    QCOMPARE(descriptionOf(field), QStringLiteral("Invalid input"));
 }
 
 /// What a screen reader finds in Qt's own line edits it finds in these, even if they are invalid.

@@ -82,7 +82,8 @@ void tst_LoadedWhileRunning::comesAndGoes()
         label->setText(QString::number(round));
         QCoreApplication::processEvents();
         QVERIFY(!window.grab().isNull());
-        QVERIFY(QAccessible::queryAccessibleInterface(label));
+        QLabel unknown; // for which Qt asks every factory
+        QVERIFY(QAccessible::queryAccessibleInterface(&unknown));
     }
 }
 
