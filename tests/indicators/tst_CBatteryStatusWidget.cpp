@@ -2,7 +2,6 @@
 #include "PaintRecorder.h"
 #include "TestApplication.h"
 
-#include <QAccessible>
 #include <QMetaMethod>
 #include <QVBoxLayout>
 
@@ -61,7 +60,6 @@ class tst_CBatteryStatusWidget : public QObject
 private Q_SLOTS:
     void goldenRatio();
     void metaObject();
-    void valueForAssistiveTechnology();
     void construction();
     void constructionWithParent();
     void chargeIsStored_data();
@@ -117,15 +115,6 @@ void tst_CBatteryStatusWidget::metaObject()
     QCOMPARE(slotNames,
              (QList<QByteArray>{"setChargePercentage(int)", "setBatteryPresent(bool)",
                                 "setBatteryCharging(bool)"}));
-}
-
-/// Of batteries alone: no other class of the library has been used in this process.
-void tst_CBatteryStatusWidget::valueForAssistiveTechnology()
-{
-    CBatteryStatusWidget battery;
-    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&battery);
-    QVERIFY(interface);
-    QVERIFY(interface->valueInterface());
 }
 
 void tst_CBatteryStatusWidget::construction()

@@ -168,6 +168,7 @@ class tst_CBatteryStatusWidgetPainting : public QObject
 private Q_SLOTS:
     void everyLook_data();
     void everyLook();
+    void filledInBlueUnlessToldOtherwise();
     void rightToLeftIsTheSame();
     void foregroundRole();
     void colorGroup_data();
@@ -224,6 +225,18 @@ void tst_CBatteryStatusWidgetPainting::everyLook()
             }
         }
     }
+}
+
+void tst_CBatteryStatusWidgetPainting::filledInBlueUnlessToldOtherwise()
+{
+    Look look;
+    look.color = Qt::blue;
+    look.percent = 50;
+    CBatteryStatusWidget widget;
+    widget.setChargePercentage(50);
+    widget.resize(look.size);
+    const QBrush foreground = widget.palette().brush(QPalette::Current, widget.foregroundRole());
+    QVERIFY(test::sameImage(test::paintedBy(widget), look.image(foreground)));
 }
 
 void tst_CBatteryStatusWidgetPainting::rightToLeftIsTheSame()
