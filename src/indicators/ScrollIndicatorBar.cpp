@@ -144,7 +144,7 @@ void ScrollIndicatorBar::paintEvent(QPaintEvent* event)
     painter.setPen(Qt::NoPen);
     painter.setBrush(grooveColor(palette()));
     const QRect damaged = event->rect();
-    painter.drawRects(&damaged, 1);
+    painter.drawRect(damaged);
 
     const QRect handle = handleRect(option);
     if (!handle.intersects(damaged))

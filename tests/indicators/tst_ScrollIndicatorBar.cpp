@@ -1,3 +1,4 @@
+#include "Painting.h"
 #include "PaintRecorder.h"
 #include "TestApplication.h"
 
@@ -15,6 +16,7 @@ class tst_ScrollIndicatorBar : public QObject
 
 private Q_SLOTS:
     void constructors();
+    void isNotHighlightedAtFirst();
     void declaresOneSlot();
     void hasThicknessConstant();
 
@@ -40,6 +42,20 @@ void tst_ScrollIndicatorBar::constructors()
     }
     QVERIFY(!ScrollIndicatorBar().parent());
     QVERIFY(!ScrollIndicatorBar(Qt::Horizontal).parent());
+}
+
+void tst_ScrollIndicatorBar::isNotHighlightedAtFirst()
+{
+    ScrollIndicatorBar byParent;
+    ScrollIndicatorBar byOrientation(Qt::Vertical);
+    for (ScrollIndicatorBar* bar : {&byParent, &byOrientation}) {
+        bar->resize(5, 100);
+        const QImage image = test::paintedBy(*bar);
+        bar->setHighlightBar(false);
+        QVERIFY(test::sameImage(test::paintedBy(*bar), image));
+        bar->setHighlightBar(true);
+        QVERIFY(test::paintedBy(*bar) != image);
+    }
 }
 
 void tst_ScrollIndicatorBar::declaresOneSlot()
