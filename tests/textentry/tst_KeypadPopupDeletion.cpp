@@ -56,6 +56,12 @@ void tst_KeypadPopupDeletion::outlivesTheEditedWidget()
     popup->setKeypadSectionVisible(0, false);
     QTest::keyClicks(popup, QStringLiteral("ab"));
     QTest::mouseClick(popup, Qt::LeftButton);
+
+    popup->show();
+    QMouseEvent outside(QEvent::MouseButtonPress, QPointF(-9, -9), Qt::LeftButton, Qt::LeftButton,
+                        {});
+    QCoreApplication::sendEvent(popup, &outside);
+    QVERIFY(!popup->isVisible()); // as any pop-up
 }
 
 void tst_KeypadPopupDeletion::deletedInItsOwnSignals_data()

@@ -291,7 +291,7 @@ void tst_KeypadPopupFocus::passedOnEvent()
 
     QMouseEvent event(type, inPopup, QPointF(5000, 5000), button, buttons,
                       Qt::ShiftModifier | Qt::AltModifier);
-    QCoreApplication::sendEvent(form.popup, &event);
+    QVERIFY(QCoreApplication::sendEvent(form.popup, &event));
     QCOMPARE(recorder.seen.size(), 1);
     const QMouseEvent seen = recorder.seen.first();
     QCOMPARE(seen.type(), type);
