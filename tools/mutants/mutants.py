@@ -165,7 +165,7 @@ def report(tasks, results, accepted):
     fates = collections.Counter()
     for task in tasks:
         fate = results.of(task) or "not tried"
-        if fate == "survived" and task.difference in accepted:
+        if fate != "killed" and task.difference in accepted:
             fate = "accepted"
         fates[fate] += 1
         if fate == "survived":
