@@ -79,6 +79,7 @@ private Q_SLOTS:
     void okAndCancelKeysGoNoFurther();
 
     void savedTextIsThatOfTheLastFocusIn();
+    void savedTextIsThatAfterTheBaseClass();
     void stateAtEachSignal_data();
     void stateAtEachSignal();
     void keepsThePreviousBlocking_data();
@@ -336,6 +337,11 @@ void tst_LineEdit::okAndCancelKeysGoNoFurther()
     QCOMPARE(returnPressed.count(), 0);
     QTest::keyPress(edit, Qt::Key_F5);
     QCOMPARE(parent.keys, 1);
+
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(edit, &event);
+    QVERIFY(event.isAccepted());
 }
 
 void tst_LineEdit::savedTextIsThatOfTheLastFocusIn()
@@ -353,6 +359,21 @@ void tst_LineEdit::savedTextIsThatOfTheLastFocusIn()
     QCOMPARE(form.field->text(), QStringLiteral("third"));
     QTest::keyClick(form.field, Qt::Key_Escape);
     QCOMPARE(form.field->text(), QStringLiteral("third"));
+}
+
+void tst_LineEdit::savedTextIsThatAfterTheBaseClass()
+{
+    EditForm<ui::LineEdit> form;
+    QVERIFY(form.showActive());
+    form.field->setText(QStringLiteral("first"));
+    connect(form.field, &QLineEdit::selectionChanged, form.field, [&form] {
+        if (form.field->text() == QLatin1String("first"))
+            form.field->setText(QStringLiteral("second"));
+    });
+    form.field->setFocus(Qt::TabFocusReason); // for which QLineEdit selects the text at once
+    form.field->setText(QStringLiteral("third"));
+    QTest::keyClick(form.field, Qt::Key_Escape);
+    QCOMPARE(form.field->text(), QStringLiteral("second"));
 }
 
 void tst_LineEdit::stateAtEachSignal_data()
