@@ -1,10 +1,14 @@
 #!/usr/bin/env python3
 """The ways to break a source: each sample's mutants, and nothing where there is no code."""
+import os
 import sys
 import unittest
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools" / "mutants"))
+PROJECT = Path(__file__).resolve().parents[2]
+os.environ["DEV_ROOT"] = str(PROJECT)
+sys.path.insert(0, str(PROJECT / "tools" / "mutants"))
+from mutants import read_accepted  # noqa: E402
 from mutate import mutants  # noqa: E402
 
 
@@ -53,6 +57,14 @@ class Mutation(unittest.TestCase):
         self.assertEqual(broken('return "1 + 1";'), [])
         self.assertEqual(mutants("#define A 1\n#include <b>\nX::~X() = default;\n"), [])
         self.assertEqual(broken("QVector<int*> a;"), [])
+
+    def test_accepted_mutants_exist(self):
+        existing = set()
+        for path in (PROJECT / "src").rglob("*.cpp"):
+            text = path.read_text()
+            name = str(path.relative_to(PROJECT))
+            existing |= {(name, *mutant.difference(text)) for mutant in mutants(text)}
+        self.assertEqual(read_accepted() - existing, set())
 
 
 if __name__ == "__main__":
