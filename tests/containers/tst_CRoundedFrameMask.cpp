@@ -68,6 +68,13 @@ struct Stage
         return QTest::qWaitForWindowExposed(&window);
     }
 
+    /// Shows the frame with its mask.
+    bool showMasked()
+    {
+        frame.enableWidgetMask(true);
+        return show() && QTest::qWaitFor([this] { return !frame.mask().isEmpty(); });
+    }
+
     /// Presses at a point of the frame the way the window system does, through the window.
     void press(const QPoint& point)
     {
@@ -137,9 +144,7 @@ void tst_CRoundedFrameMask::masksAtDoubleResolution()
 void tst_CRoundedFrameMask::clearsMaskAtOnce()
 {
     Stage stage;
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    QVERIFY(stage.showMasked());
     stage.frame.enableWidgetMask(false);
     QVERIFY(stage.frame.mask().isEmpty());
     stage.frame.setRadius(30);
@@ -152,9 +157,7 @@ void tst_CRoundedFrameMask::onlyMaskingAsksForALayout()
     Stage stage;
     auto* layout = new QVBoxLayout(&stage.pad);
     layout->addWidget(&stage.frame);
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    QVERIFY(stage.showMasked());
     test::EventCounter layoutRequests(&stage.pad, QEvent::LayoutRequest);
     layoutRequests.take();
     stage.frame.enableWidgetMask(false);
@@ -166,9 +169,7 @@ void tst_CRoundedFrameMask::onlyMaskingAsksForALayout()
 void tst_CRoundedFrameMask::masksAgainAtOnce()
 {
     Stage stage;
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    QVERIFY(stage.showMasked());
     stage.frame.enableWidgetMask(false);
     stage.frame.enableWidgetMask(true);
     QCOMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
@@ -221,9 +222,7 @@ void tst_CRoundedFrameMask::ignoresLineWidthAndShape()
 void tst_CRoundedFrameMask::keepsMaskOnShapeChange()
 {
     Stage stage;
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    QVERIFY(stage.showMasked());
     const QRegion foreignMask(QRect(QPoint(), frameSize).adjusted(0, 0, -1, -1));
     stage.frame.setMask(foreignMask);
     stage.frame.setFrameShape(CRoundedFrame::NoFrame);
@@ -250,9 +249,7 @@ void tst_CRoundedFrameMask::interiorPaintLeavesMask()
 void tst_CRoundedFrameMask::letsPressesThroughCorners()
 {
     Stage stage;
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    QVERIFY(stage.showMasked());
     const QRect area(QPoint(), frameSize);
     for (const QPoint& corner :
          {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()})
@@ -268,9 +265,7 @@ void tst_CRoundedFrameMask::letsPressesThroughCorners()
 void tst_CRoundedFrameMask::takesPressesEverywhereWithoutMask()
 {
     Stage stage;
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_VERIFY(!stage.frame.mask().isEmpty());
+    QVERIFY(stage.showMasked());
     stage.frame.enableWidgetMask(false);
     stage.press(QPoint(0, 0));
     QCOMPARE(stage.frame.presses, 1);

@@ -63,6 +63,7 @@ private:
     void click(QAbstractItemView& view, const QString& name,
                Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     QStringList paths(const QStringList& names) const;
+    void deleteInTheSlot(QObject* part);
 
     std::unique_ptr<Tree> m_tree;
     std::unique_ptr<QWidget> m_window;
@@ -113,6 +114,16 @@ QStringList tst_FileBrowserSelection::paths(const QStringList& names) const
     for (const QString& name : names)
         result.append(m_tree->path(name));
     return result;
+}
+
+/// A slot of selectionChanged() deletes \a part while directories are still to be deselected.
+void tst_FileBrowserSelection::deleteInTheSlot(QObject* part)
+{
+    const QPointer<QObject> guard(part);
+    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
+            [guard] { delete guard.data(); });
+    select({"alpha", "one", "beta", "two"});
+    QVERIFY(guard.isNull());
 }
 
 void tst_FileBrowserSelection::fileIsOnlyReported()
@@ -359,21 +370,13 @@ void tst_FileBrowserSelection::browserDeletedLaterByAClick()
 
 void tst_FileBrowserSelection::modelDeletedInTheSlot()
 {
-    const QPointer<QFileSystemModel> model(m_parts->model);
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
-            [model] { delete model.data(); });
-    select({"alpha", "one", "beta", "two"});
-    QVERIFY(model.isNull());
+    deleteInTheSlot(m_parts->model);
     QCOMPARE(m_browser->selectedFiles(), QStringList());
 }
 
 void tst_FileBrowserSelection::tileViewDeletedInTheSlot()
 {
-    const QPointer<QListView> view(m_parts->tileView);
-    connect(m_browser, &ui::FileBrowserWidget::selectionChanged, this,
-            [view] { delete view.data(); });
-    select({"alpha", "one", "beta", "two"});
-    QVERIFY(view.isNull());
+    deleteInTheSlot(m_parts->tileView);
     m_changes = 0;
     selectEntries(*m_parts->listView, {"one"}); // has the handler read the tile view
     QCOMPARE(m_changes, 1);
