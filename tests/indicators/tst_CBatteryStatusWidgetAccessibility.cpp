@@ -20,9 +20,17 @@ QVector<Announcement>& announcements()
     return instance;
 }
 
+bool isListening = true;
+
 } // namespace
 
-// Takes the place of Qt's, which asks the desktop: a program's own definitions come first.
+// These take the place of Qt's, which ask the desktop: a program's own definitions come first.
+
+bool QAccessible::isActive()
+{
+    return isListening;
+}
+
 void QAccessible::updateAccessibility(QAccessibleEvent* event)
 {
     if (event->type() == QAccessible::ValueChanged)
@@ -38,6 +46,7 @@ class tst_CBatteryStatusWidgetAccessibility : public QObject
 private Q_SLOTS:
     void hasAValue();
     void announcesTheCharge();
+    void announcesNothingWhileNobodyListens();
 };
 
 void tst_CBatteryStatusWidgetAccessibility::hasAValue()
@@ -59,6 +68,15 @@ void tst_CBatteryStatusWidgetAccessibility::announcesTheCharge()
         charges.append(announcement.value);
     }
     QCOMPARE(charges, (QVector<QVariant>{57, 100, 0, 1, 100, 0}));
+}
+
+void tst_CBatteryStatusWidgetAccessibility::announcesNothingWhileNobodyListens()
+{
+    isListening = false;
+    announcements().clear();
+    CBatteryStatusWidget battery;
+    battery.setChargePercentage(40);
+    QVERIFY(announcements().isEmpty());
 }
 
 int main(int argc, char** argv)
