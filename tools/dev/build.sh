@@ -15,5 +15,7 @@ case "${1:-}" in
 esac
 [ $# -le 1 ] || die "build: too many arguments"
 
-need_packages build
+lists=(build)
+[ "$preset" = release ] || lists+=(test)
+need_packages "${lists[@]}"
 build "$preset"

@@ -12,7 +12,6 @@ case "${1:-}" in
 esac
 
 need_packages build docs
-cmake --preset dev --log-level=WARNING -DPLATFORM_BUILD_REFERENCE=ON >&2
-cmake --build --preset dev --target reference >&2
-echo "build/dev/docs/html/index.html"
-echo "build/dev/docs/platform_widgets.qch"
+build docs reference
+echo "build/gallery/docs/html/index.html"
+echo "build/gallery/docs/platform_widgets.qch"

@@ -16,5 +16,5 @@ case "${1:-}" in
 esac
 
 need_packages build gallery
-build dev platform-widgets-gallery
-exec build/dev/gallery/platform-widgets-gallery "$@"
+build gallery platform-widgets-gallery
+exec build/gallery/gallery/platform-widgets-gallery "$@"
