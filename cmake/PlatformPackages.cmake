@@ -110,4 +110,14 @@ endforeach()
 get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
 list(REMOVE_ITEM CPACK_COMPONENTS_ALL Unspecified)
 
+# The license goes into every package, under the name that Debian has for it. After the list of the
+# components, so that none is made for the license alone.
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} upper)
+    install(FILES "${PROJECT_SOURCE_DIR}/LICENSE"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME}"
+        RENAME copyright
+        COMPONENT ${component})
+endforeach()
+
 include(CPack)

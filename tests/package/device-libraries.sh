@@ -36,6 +36,12 @@ if dpkg-deb -f "$scratch"/build/libplatform-widgets1.2_*.deb Depends | grep plat
     exit 1
 fi
 
+for package in "$scratch"/build/*.deb; do
+    name=$(dpkg-deb -f "$package" Package)
+    dpkg-deb --fsys-tarfile "$package" | tar -x --to-stdout "./usr/share/doc/$name/copyright" \
+        | cmp - "$source_dir/LICENSE" || { echo "$name does not hold the license" >&2; exit 1; }
+done
+
 cmake --install "$scratch/build" --prefix "$scratch/prefix" >/dev/null
 mkdir "$scratch/consumer"
 cat >"$scratch/consumer/CMakeLists.txt" <<'END'

@@ -22,7 +22,7 @@ esac
 # What Debian asks of packages in its own archive only, and:
 # - library-not-linked-against-libc: the style library needs nothing of it;
 # - package-name-doesnt-match-sonames: the stand-ins are two libraries in one package.
-not_asked=no-changelog,no-copyright-file,no-manual-page,maintscript-calls-ldconfig
+not_asked=no-changelog,no-manual-page,maintscript-calls-ldconfig
 not_asked+=,library-not-linked-against-libc,package-name-doesnt-match-sonames
 
 need_packages build docs package
