@@ -33,17 +33,17 @@ done
 
 need_packages build test
 build "$preset" soak tst_LongLife
-programs=build/$preset/tests/soak
+programs=build/$preset/tests
 export QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=C.UTF-8
 export LSAN_OPTIONS=suppressions=$DEV_ROOT/tests/support/lsan.supp:print_suppressions=0
 
 failed=0
-for name in ${widget:-$("$programs/soak" --list)}; do
-    "$programs/soak" --search "$name" "$seed" "$steps" || failed=1
+for name in ${widget:-$("$programs/randomuse/soak" --list)}; do
+    "$programs/randomuse/soak" --search "$name" "$seed" "$steps" || failed=1
 done
 # Qt ends a test function after five minutes else.
 export QTEST_FUNCTION_TIMEOUT=2000000000
 if [ -z "$widget" ]; then
-    PLATFORM_LONG_LIFE=$((steps < 10 ? 1 : steps / 10)) "$programs/tst_LongLife" || failed=1
+    PLATFORM_LONG_LIFE=$((steps < 10 ? 1 : steps / 10)) "$programs/themes/tst_LongLife" || failed=1
 fi
 exit "$failed"

@@ -1,7 +1,7 @@
 #include "Machines.h"
 
-#include "machines/Crowd.h"
-#include "machines/NewMachines.h"
+#include "models/Crowd.h"
+#include "models/NewMachines.h"
 
 namespace soak {
 
