@@ -37,10 +37,9 @@ class IKeypad;
  * \par Palette roles and style-sheet hooks
  * | Role, property or selector | Effect |
  * |---|---|
- * | QPalette::WindowText | the subtitle |
- * | none | the background, a light grey of its own whatever the palette |
+ * | none | the background, light greys, and the subtitle on it, black, whatever the palette |
  * | `ui--KeypadPopup QFrame` | the background and the subtitle, by \c background-color |
- * | `ui--KeypadPopup QLabel` | the subtitle |
+ * | `ui--KeypadPopup QLabel` | the subtitle, its text by \c color |
  * | `ui--KeypadPopup QPushButton` | the keys of the desktop stand-in; those of a device are its own |
  *
  * A keyboard library that offers no keypad for the type asked for leaves

@@ -131,6 +131,9 @@ void KeypadPopup::createSubtitle(QWidget* frame, const QString& title)
 
     QPalette palette = subtitleLabel->palette();
     palette.setColor(subtitleLabel->backgroundRole(), baseColor().darker(subtitleFactor));
+    // Light whatever the palette is, so the light text of a dark one could not be read on it.
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        palette.setColor(group, subtitleLabel->foregroundRole(), Qt::black);
     subtitleLabel->setPalette(palette);
     subtitleLabel->setAutoFillBackground(true);
 }

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void frame_data();
     void frame();
     void subtitle();
+    void subtitleCanBeRead_data();
+    void subtitleCanBeRead();
     void order();
     void picture();
     void title_data();
@@ -164,6 +166,36 @@ void tst_KeypadPopup::subtitle()
     QVERIFY(label->autoFillBackground());
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         QCOMPARE(label->palette().color(group, label->backgroundRole()), base.darker(115));
+}
+
+void tst_KeypadPopup::subtitleCanBeRead_data()
+{
+    QTest::addColumn<QPalette>("before");
+    QTest::addColumn<QPalette>("after");
+    QTest::newRow("light") << test::lightPalette() << test::lightPalette();
+    QTest::newRow("dark") << test::darkPalette() << test::darkPalette();
+    QTest::newRow("turned dark") << test::lightPalette() << test::darkPalette();
+}
+
+void tst_KeypadPopup::subtitleCanBeRead()
+{
+    QFETCH(QPalette, before);
+    QFETCH(QPalette, after);
+    const QPalette own = QApplication::palette();
+    const auto restore = qScopeGuard([&own] { QApplication::setPalette(own); });
+    QApplication::setPalette(before);
+    ui::LineEdit edit;
+    KeypadPopup popup(&edit, QStringLiteral("MMM"), KeyboardType::Integer, -1);
+    QApplication::setPalette(after);
+
+    const QImage image = labelOf(popup)->grab().toImage();
+    int darkest = 255;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            darkest = qMin(darkest, qGray(image.pixel(x, y)));
+    }
+    // On the ground of 204 a contrast of 4.5:1 takes a grey of 86 or less.
+    QVERIFY2(darkest <= 86, qPrintable(QString::number(darkest)));
 }
 
 void tst_KeypadPopup::order()
