@@ -1,10 +1,10 @@
 #include "ui/CRoundedFrame.h"
 
+#include "../frame/Saturated.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QPaintEvent>
-
-#include <limits>
 
 namespace ui {
 
@@ -15,12 +15,6 @@ constexpr int defaultLineWidth = 2;
 
 /// 1 - sqrt(2)/2: how far, in radii, the middle of a corner's arc lies from each of its sides.
 constexpr double arcMiddle = 0.29289321881345254;
-
-int saturated(qint64 value)
-{
-    using Limits = std::numeric_limits<int>;
-    return int(qBound<qint64>(Limits::min(), value, Limits::max()));
-}
 
 QPainterPath roundedRect(const QRectF& rect, int radius)
 {

@@ -1,6 +1,7 @@
 #include "ui/CBatteryStatusWidget.h"
 
 #include "../frame/accessibility/Accessibility.h"
+#include "../frame/Saturated.h"
 #include "BatteryFlags.h"
 
 #include <QAccessible>
@@ -29,13 +30,6 @@ constexpr qint64 largestCoordinate = std::numeric_limits<int>::max() / 2;
 constexpr double widestPen = 32767;
 
 constexpr QColor boltColor(239, 184, 0);
-
-/// \a value, or the nearest int if it is out of range.
-int saturated(qint64 value)
-{
-    return int(
-        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
-}
 
 /// qRound() that is defined for every finite \a value; qRound() itself looks one below its result.
 int rounded(double value)

@@ -3,12 +3,16 @@
 #include <ui/keyboard/IKeypad.h>
 
 #include <QApplication>
-#include <QDesktopWidget>
 #include <QFrame>
 #include <QLabel>
 #include <QLayout>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QVBoxLayout>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QDesktopWidget>
+#endif
 
 namespace ui {
 
@@ -43,6 +47,20 @@ void activateLayouts(QWidget* widget)
     }
     if (QLayout* layout = widget->layout())
         layout->activate();
+}
+
+/// Qt 6 has no desktop widget any more, whose geometry was the rectangle around all screens.
+QSize desktopSize()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QApplication::desktop()->geometry().size();
+#else
+    QRect desktop;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens)
+        desktop |= screen->geometry();
+    return desktop.size();
+#endif
 }
 
 bool isPassedToTarget(QEvent::Type type)
@@ -148,7 +166,7 @@ void KeypadPopup::locatePopup()
 {
     if (!target)
         return;
-    const QSize screen = QApplication::desktop()->geometry().size();
+    const QSize screen = desktopSize();
     QPoint position = target->mapToGlobal(QPoint(0, target->height()));
     if (position.y() + sizeHint().height() > screen.height())
         position.ry() -= sizeHint().height() + target->height();

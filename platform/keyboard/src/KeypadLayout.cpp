@@ -66,7 +66,8 @@ QVector<KeyDescription> KeypadLayout::integerKeys()
 
 QVector<KeyDescription> KeypadLayout::decimalKeys(const QLocale& locale)
 {
-    KeyDescription separator = characterKey(locale.decimalPoint(), QRect(2, 3, 1, 1), 0);
+    const QString decimalPoint = locale.decimalPoint(); // a character with Qt 5, a text with Qt 6
+    KeyDescription separator = characterKey(decimalPoint.at(0), QRect(2, 3, 1, 1), 0);
     separator.accessibleName = tr("Decimal separator");
     return numberPad() << characterKey(QLatin1Char('0'), QRect(1, 3, 1, 1), 0) << separator;
 }
