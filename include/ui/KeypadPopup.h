@@ -60,7 +60,7 @@ public:
     KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::KeyboardType type, int);
     ~KeypadPopup() override;
 
-    /// Sets the line above the keypad to \a text, which is shown as it stands, without any markup.
+    /// Sets the line above the keypad to \a text, plain or rich as any QLabel tells.
     void setSubtitleLabel(const QString& text);
 
     /**

@@ -142,7 +142,6 @@ void KeypadPopup::createSubtitle(QWidget* frame, const QString& title)
 {
     subtitleLabel = new QLabel(title, frame);
     connect(subtitleLabel, &QObject::destroyed, this, [this] { subtitleLabel = nullptr; });
-    subtitleLabel->setTextFormat(Qt::PlainText);
     subtitleLabel->setFixedHeight(subtitleHeight);
     subtitleLabel->setAlignment(Qt::AlignCenter);
     subtitleLabel->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);

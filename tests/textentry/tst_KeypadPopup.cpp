@@ -259,7 +259,7 @@ void tst_KeypadPopup::title()
     QCOMPARE(label->text(), QStringLiteral("other"));
     popup.setSubtitleLabel(text);
     QCOMPARE(label->text(), text);
-    QCOMPARE(label->textFormat(), Qt::PlainText);
+    QCOMPARE(label->textFormat(), QLabel().textFormat());
     const KeypadPopup reference(&edit, QString(), KeyboardType::Integer, -1);
     QCOMPARE(popup.sizeHint().height(), reference.sizeHint().height());
     popup.locatePopup();
