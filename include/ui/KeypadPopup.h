@@ -75,8 +75,8 @@ public:
 
     /**
      * Shows or hides a section of the keypad; the numbers are those of the keyboard library. The
-     * pop-up is placed again at once, and if it is visible takes its new size. Does nothing without a
-     * keypad.
+     * pop-up is placed again at once by its new size hint. If it is visible it takes that size too,
+     * unless the application has given it a size of its own. Does nothing without a keypad.
      */
     void setKeypadSectionVisible(int section, bool visible);
 

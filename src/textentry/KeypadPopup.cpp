@@ -180,7 +180,7 @@ void KeypadPopup::setKeypadSectionVisible(int section, bool visible)
         return;
     keypadWidget->setSectionVisible(section, visible);
     activateLayouts(this); // the size hint is the old one until then
-    if (isVisible()) {
+    if (isVisible() && !testAttribute(Qt::WA_Resized)) {
         resize(sizeHint());
         setAttribute(Qt::WA_Resized, false); // so that the next showing measures afresh
     }

@@ -69,6 +69,8 @@ private Q_SLOTS:
     void measuresAfresh();
     void sectionChangePlacesAtOnce();
     void sectionChangeResizesAVisiblePopup();
+    void sectionChangeLeavesAGivenSize_data();
+    void sectionChangeLeavesAGivenSize();
     void sectionChangeBeforeTheFirstShowing();
     void sizeFollowsTheHintAtTheNextShowing();
 };
@@ -203,6 +205,37 @@ void tst_KeypadPopupPlacement::sectionChangeResizesAVisiblePopup()
     QCOMPARE(popup.size(), letters);
     const auto* keypad = popup.findChild<ui::keyboard::IKeypad*>();
     QCOMPARE(keypad->size(), keypad->sizeHint());
+}
+
+void tst_KeypadPopupPlacement::sectionChangeLeavesAGivenSize_data()
+{
+    QTest::addColumn<bool>("givenBefore");
+    QTest::newRow("before it is shown") << true;
+    QTest::newRow("while it is visible") << false;
+}
+
+/// The place follows the new size hint all the same.
+void tst_KeypadPopupPlacement::sectionChangeLeavesAGivenSize()
+{
+    QFETCH(bool, givenBefore);
+    const DesktopGeometry geometry(QRect(0, 0, 800, 480));
+    ui::LineEdit edit;
+    edit.setGeometry(10, 400, fieldWidth, fieldHeight);
+    KeypadPopup popup(&edit, QString(), KeyboardType::Text, -1);
+    const QSize given = popup.sizeHint() + QSize(150, 250);
+    if (givenBefore)
+        popup.resize(given);
+    popup.show();
+    popup.resize(given);
+
+    for (const bool visible : {true, false}) {
+        popup.setKeypadSectionVisible(1, visible);
+        QCOMPARE(popup.size(), given);
+        QCOMPARE(popup.y() + popup.sizeHint().height(), 400);
+    }
+    popup.hide();
+    popup.show();
+    QCOMPARE(popup.size(), given);
 }
 
 void tst_KeypadPopupPlacement::sectionChangeBeforeTheFirstShowing()
