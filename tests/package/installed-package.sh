@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs a build into a temporary prefix and builds and runs a small application against it,
-# with CMake, with pkg-config and with qmake: what users do is what is tested.
+# with CMake, with pkg-config and with qmake, and lets Designer load the plugin: what users do is what
+# is tested.
 #
 # usage: installed-package.sh SOURCE_DIR BUILD_DIR
 # CXXFLAGS goes to the application's compiler, as a library built with sanitizers needs it.
@@ -53,3 +54,16 @@ mkdir "$scratch/qmake"
     make -s
 )
 runs_until_stopped "$scratch/qmake/example"
+
+plugin=$(find "$prefix" -name libplatform_widgets_designer.so)
+if [ -n "$plugin" ]; then # which not every build makes
+    echo "== Qt Designer"
+    QT_DEBUG_PLUGINS=1 QT_PLUGIN_PATH=$(dirname "$(dirname "$plugin")") \
+        runs_until_stopped "$(qmake -qt=5 -query QT_INSTALL_BINS)/designer" "$source_dir/tests/designer/AllWidgets.ui" \
+        2>"$scratch/designer.log"
+    grep -q "loaded library.*$plugin" "$scratch/designer.log" || {
+        grep libplatform_widgets_designer "$scratch/designer.log" >&2
+        echo "Designer does not load the installed plugin" >&2
+        exit 1
+    }
+fi
