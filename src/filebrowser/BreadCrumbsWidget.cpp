@@ -17,7 +17,39 @@ constexpr int minMoreButtonWidth = 50; // pixels; wide enough for a finger
 constexpr int sideMargin = 5; // pixels
 
 constexpr char directoryProperty[] = "directory";
-constexpr char reportingProperty[] = "_reporting"; // set while a crumb's press is being reported
+
+/// A crumb whose press is being reported. Reports nest, as a slot may run an event loop.
+class Report
+{
+public:
+    explicit Report(const QWidget* crumb)
+        : m_crumb(crumb)
+        , m_outer(innermost)
+    {
+        innermost = this;
+    }
+
+    ~Report()
+    {
+        innermost = m_outer;
+    }
+
+    Q_DISABLE_COPY(Report)
+
+    static bool isUnderWay(const QWidget& crumb)
+    {
+        const Report* report = innermost;
+        while (report && report->m_crumb != &crumb)
+            report = report->m_outer;
+        return report;
+    }
+
+private:
+    inline static const Report* innermost = nullptr;
+
+    const QPointer<const QWidget> m_crumb;
+    const Report* const m_outer;
+};
 
 /**
  * Qt sends the widget on which the right button goes down a context menu event after the press. If
@@ -25,8 +57,7 @@ constexpr char reportingProperty[] = "_reporting"; // set while a crumb's press 
  */
 bool awaitsContextMenuEvent(const QWidget& widget)
 {
-    return (QGuiApplication::mouseButtons() & Qt::RightButton)
-        && widget.property(reportingProperty).toBool();
+    return (QGuiApplication::mouseButtons() & Qt::RightButton) && Report::isUnderWay(widget);
 }
 
 /// Hides \a widget from user and program at once; Qt deletes it as soon as it has done with it.
@@ -135,11 +166,8 @@ void BreadCrumbsWidget::addCrumb(const QString& crumb, const QString& path)
 
 void BreadCrumbsWidget::report(ClickableLabel* label)
 {
-    const QPointer<ClickableLabel> guard(label);
-    label->setProperty(reportingProperty, true);
+    const Report report(label);
     Q_EMIT dirChanged(label->property(directoryProperty).toString()); // may delete bar and label
-    if (guard)
-        guard->setProperty(reportingProperty, QVariant());
 }
 
 void BreadCrumbsWidget::showHiddenCrumbs()

@@ -2,6 +2,7 @@
 
 #include "BrowserParts.h"
 #include "ClickableLabel.h"
+#include "EventCounter.h"
 #include "OffscreenMessages.h"
 #include "TestApplication.h"
 
@@ -99,6 +100,9 @@ private Q_SLOTS:
     void changeDirKeepsTheRoot();
     void refreshDeletesTheOldRowAtOnce();
     void pressReportsAtOnce();
+    void pressLeavesTheProperties_data();
+    void pressLeavesTheProperties();
+    void followingInAPressWithinAPress();
     void followingARightPress();
     void followingARightPressDeletesTheOthersAtOnce();
     void followingALeftPressDeletesAllAtOnce();
@@ -363,6 +367,58 @@ void tst_BreadCrumbsWidget::pressReportsAtOnce()
     QCOMPARE(changed.first().first().toString(), QStringLiteral("/data/a"));
     QTest::mouseRelease(label, Qt::LeftButton);
     QCOMPARE(changed.count(), 1);
+}
+
+void tst_BreadCrumbsWidget::pressLeavesTheProperties_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("follows");
+    QTest::newRow("left") << int(Qt::LeftButton) << false;
+    QTest::newRow("right") << int(Qt::RightButton) << false;
+    QTest::newRow("right, the bar follows") << int(Qt::RightButton) << true;
+}
+
+void tst_BreadCrumbsWidget::pressLeavesTheProperties()
+{
+    QFETCH(int, button);
+    QFETCH(bool, follows);
+    const QList<QByteArray> expected{"directory"};
+    const auto bar = barAt(QStringLiteral("/data/a/b"));
+    const QPointer<ClickableLabel> label(crumb(*bar, QStringLiteral("a")));
+    QList<QByteArray> names;
+    connect(bar.get(), &BreadCrumbsWidget::dirChanged, this, [&](const QString& path) {
+        names = label->dynamicPropertyNames();
+        if (follows)
+            bar->changeDir(path);
+    });
+    EventCounter changes(label, QEvent::DynamicPropertyChange);
+    QTest::mousePress(label.data(), Qt::MouseButton(button));
+    QCOMPARE(names, expected);
+    QCOMPARE(label->dynamicPropertyNames(), expected);
+    QCOMPARE(changes.take(), 0);
+    QTest::mouseRelease(bar.get(), Qt::MouseButton(button));
+}
+
+void tst_BreadCrumbsWidget::followingInAPressWithinAPress()
+{
+    const auto bar = barAt(QStringLiteral("/data/a/b"));
+    const QPointer<ClickableLabel> outer(crumb(*bar, QStringLiteral("a")));
+    const QPointer<ClickableLabel> inner(crumb(*bar, QStringLiteral("b")));
+    const QPointer<QWidget> other(bar->layout()->itemAt(1)->widget());
+    connect(bar.get(), &BreadCrumbsWidget::dirChanged, this, [&](const QString& path) {
+        if (path == QLatin1String("/data/a"))
+            QTest::mousePress(inner.data(), Qt::RightButton); // as in an event loop of the slot
+        else
+            bar->changeDir(QStringLiteral("/data"));
+    });
+    QTest::mousePress(outer.data(), Qt::RightButton);
+    QVERIFY(other.isNull());
+    for (const auto& label : {outer, inner}) { // Qt has a context menu event for both
+        QVERIFY(label);
+        QVERIFY(label->isHidden());
+    }
+    QTest::mouseRelease(bar.get(), Qt::RightButton);
+    QTRY_VERIFY(outer.isNull() && inner.isNull());
 }
 
 void tst_BreadCrumbsWidget::directoryIsReadAtTheClick()
