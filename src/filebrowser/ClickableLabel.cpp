@@ -1,13 +1,14 @@
 #include "ClickableLabel.h"
 
-#include "../frame/accessibility/Accessibility.h"
+#include "../frame/AccessibleFactory.h"
+#include "AccessibleLink.h"
 
 #include <QPainter>
 
 ClickableLabel::ClickableLabel(QWidget* parent)
     : QLabel(parent)
 {
-    ui::offerAccessibility();
+    ui::registerAccessible<ClickableLabel, ui::AccessibleLink>();
 }
 
 ClickableLabel::~ClickableLabel() = default;

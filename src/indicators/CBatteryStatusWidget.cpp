@@ -1,7 +1,8 @@
 #include "ui/CBatteryStatusWidget.h"
 
-#include "../frame/accessibility/Accessibility.h"
+#include "../frame/AccessibleFactory.h"
 #include "../frame/Saturated.h"
+#include "AccessibleBattery.h"
 #include "BatteryFlags.h"
 
 #include <QAccessible>
@@ -87,12 +88,22 @@ QBrush diagonalGradient(const QColor& bottomLeft, const QColor& topRight)
     return gradient;
 }
 
-/// While no assistive technology listens Qt passes nothing on either, but looks for the interface first.
+// While no assistive technology listens Qt passes nothing on either, but looks for the interface first.
+
 void announceCharge(QWidget* battery, int percent)
 {
     if (!QAccessible::isActive())
         return;
     QAccessibleValueChangeEvent event(battery, qBound(0, percent, 100));
+    QAccessible::updateAccessibility(&event);
+}
+
+/// The battery is described as absent or charging.
+void announceCondition(QWidget* battery)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(battery, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -134,7 +145,7 @@ CBatteryStatusWidget::CBatteryStatusWidget(QWidget* parent)
     setSizePolicy(policy);
     setFrameWidth(defaultFrameWidth);
     setFillColor(QColor(Qt::blue));
-    offerAccessibility();
+    registerAccessible<CBatteryStatusWidget, AccessibleBattery>();
 }
 
 CBatteryStatusWidget::~CBatteryStatusWidget() = default;
@@ -218,6 +229,7 @@ void CBatteryStatusWidget::setBatteryPresent(bool present)
 
     m_flags = flags;
     update();
+    announceCondition(this);
 }
 
 void CBatteryStatusWidget::setBatteryCharging(bool charging)
@@ -228,6 +240,7 @@ void CBatteryStatusWidget::setBatteryCharging(bool charging)
 
     m_flags = flags;
     update();
+    announceCondition(this);
 }
 
 void CBatteryStatusWidget::resizeEvent(QResizeEvent* event)

@@ -4,7 +4,6 @@
 #include "Palettes.h"
 #include "TestApplication.h"
 
-#include <QAccessible>
 #include <QPainter>
 
 #include <memory>
@@ -51,7 +50,6 @@ class tst_ClickableLabel : public QObject
 
 private Q_SLOTS:
     void signalsOnly();
-    void linkForAssistiveTechnology();
     void clicksOnPress_data();
     void clicksOnPress();
     void releaseAndMoveDoNothing();
@@ -75,15 +73,6 @@ void tst_ClickableLabel::signalsOnly()
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Signal);
     QCOMPARE(meta.propertyCount(), meta.propertyOffset());
     QCOMPARE(ClickableLabel().windowFlags(), QLabel().windowFlags());
-}
-
-/// Of labels alone: no other class of the library has been used in this process.
-void tst_ClickableLabel::linkForAssistiveTechnology()
-{
-    ClickableLabel label;
-    const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&label);
-    QVERIFY(interface);
-    QCOMPARE(interface->role(), QAccessible::Link);
 }
 
 void tst_ClickableLabel::clicksOnPress_data()

@@ -4,6 +4,8 @@
 
 #include <QAccessible>
 
+#include <utility>
+
 using ui::CBatteryStatusWidget;
 
 namespace {
@@ -11,8 +13,15 @@ namespace {
 struct Announcement
 {
     const QObject* sender;
-    QVariant value;
+    QAccessible::Event type;
+    QVariant value; ///< Of a change of the value.
+    QString condition; ///< The battery's description at that time.
 };
+
+QAccessibleInterface* interfaceOf(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget);
+}
 
 QVector<Announcement>& announcements()
 {
@@ -33,9 +42,12 @@ bool QAccessible::isActive()
 
 void QAccessible::updateAccessibility(QAccessibleEvent* event)
 {
+    QVariant value;
     if (event->type() == QAccessible::ValueChanged)
-        announcements().append(
-            {event->object(), static_cast<QAccessibleValueChangeEvent*>(event)->value()});
+        value = static_cast<QAccessibleValueChangeEvent*>(event)->value();
+    const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(event->object());
+    const QString condition = interface ? interface->text(QAccessible::Description) : QString();
+    announcements().append({event->object(), event->type(), value, condition});
 }
 
 /// What assistive technology learns of a battery, in a process that has used no other class.
@@ -44,30 +56,98 @@ class tst_CBatteryStatusWidgetAccessibility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void hasAValue();
+    void isAReadOnlyValue();
+    void tellsItsCondition();
+    void takesTheApplicationsWords();
     void announcesTheCharge();
+    void announcesItsCondition();
     void announcesNothingWhileNobodyListens();
 };
 
-void tst_CBatteryStatusWidgetAccessibility::hasAValue()
+void tst_CBatteryStatusWidgetAccessibility::isAReadOnlyValue()
 {
     CBatteryStatusWidget battery;
-    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&battery);
+    QAccessibleInterface* interface = interfaceOf(&battery);
     QVERIFY(interface);
-    QVERIFY(interface->valueInterface());
+    QCOMPARE(interface->role(), QAccessible::ProgressBar);
+    QVERIFY(interface->state().readOnly);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Battery"));
+
+    QAccessibleValueInterface* value = interface->valueInterface();
+    QVERIFY(value);
+    QCOMPARE(value->minimumValue().toInt(), 0);
+    QCOMPARE(value->maximumValue().toInt(), 100);
+    QCOMPARE(value->minimumStepSize().toInt(), 1);
+    for (int percent : {57, 150, -5}) {
+        battery.setChargePercentage(percent);
+        QCOMPARE(value->currentValue().toInt(), qBound(0, percent, 100));
+    }
+    value->setCurrentValue(33);
+    QCOMPARE(value->currentValue().toInt(), 0);
+    QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("0%"));
+}
+
+void tst_CBatteryStatusWidgetAccessibility::tellsItsCondition()
+{
+    CBatteryStatusWidget battery;
+    const QAccessibleInterface* interface = interfaceOf(&battery);
+    QCOMPARE(interface->text(QAccessible::Description), QString());
+    battery.setBatteryCharging(true);
+    QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("charging"));
+    battery.setBatteryPresent(false);
+    QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("absent"));
+}
+
+void tst_CBatteryStatusWidgetAccessibility::takesTheApplicationsWords()
+{
+    CBatteryStatusWidget battery;
+    battery.setBatteryCharging(true);
+    battery.setAccessibleName(QStringLiteral("Reserve battery"));
+    battery.setAccessibleDescription(QStringLiteral("of the base station"));
+    const QAccessibleInterface* interface = interfaceOf(&battery);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Reserve battery"));
+    QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("of the base station"));
 }
 
 void tst_CBatteryStatusWidgetAccessibility::announcesTheCharge()
 {
     CBatteryStatusWidget battery;
+    announcements().clear();
     for (const int percent : {57, 57, 150, -5, 1, 100, 0})
         battery.setChargePercentage(percent);
     QVector<QVariant> charges;
     for (const Announcement& announcement : qAsConst(announcements())) {
         QCOMPARE(announcement.sender, &battery);
+        QCOMPARE(announcement.type, QAccessible::ValueChanged);
         charges.append(announcement.value);
     }
     QCOMPARE(charges, (QVector<QVariant>{57, 100, 0, 1, 100, 0}));
+}
+
+/// One announcement for each change, when the new description can be read.
+void tst_CBatteryStatusWidgetAccessibility::announcesItsCondition()
+{
+    CBatteryStatusWidget battery;
+    announcements().clear();
+    const auto announced = [&battery](const QString& condition) {
+        const QVector<Announcement> all = std::exchange(announcements(), {});
+        return all.size() == 1 && all.first().sender == &battery
+            && all.first().type == QAccessible::DescriptionChanged
+            && all.first().condition == condition;
+    };
+    battery.setBatteryPresent(true);
+    battery.setBatteryCharging(false);
+    QVERIFY(announcements().isEmpty());
+    battery.setBatteryCharging(true);
+    QVERIFY(announced(QStringLiteral("charging")));
+    battery.setBatteryPresent(false);
+    QVERIFY(announced(QStringLiteral("absent")));
+    battery.setBatteryPresent(true);
+    QVERIFY(announced(QStringLiteral("charging")));
+    battery.setBatteryCharging(false);
+    QVERIFY(announced(QString()));
+    battery.setBatteryCharging(false);
+    QVERIFY(announcements().isEmpty());
 }
 
 void tst_CBatteryStatusWidgetAccessibility::announcesNothingWhileNobodyListens()
@@ -76,6 +156,8 @@ void tst_CBatteryStatusWidgetAccessibility::announcesNothingWhileNobodyListens()
     announcements().clear();
     CBatteryStatusWidget battery;
     battery.setChargePercentage(40);
+    battery.setBatteryPresent(false);
+    battery.setBatteryCharging(true);
     QVERIFY(announcements().isEmpty());
 }
 

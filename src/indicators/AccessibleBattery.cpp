@@ -1,6 +1,6 @@
 #include "AccessibleBattery.h"
 
-#include "../../indicators/BatteryFlags.h"
+#include "BatteryFlags.h"
 #include "ui/CBatteryStatusWidget.h"
 
 #include <QCoreApplication>

@@ -9,11 +9,28 @@ AccessibleLink::AccessibleLink(ClickableLabel* label)
 {
 }
 
+QAccessible::State AccessibleLink::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = true;
+    return state;
+}
+
 /// The label's text as it is painted, unless the application gave it another name.
 QString AccessibleLink::text(QAccessible::Text kind) const
 {
     const QString given = QAccessibleWidget::text(kind);
     return kind == QAccessible::Name && given.isEmpty() ? label()->text() : given;
+}
+
+QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
+AccessibleLink::relations(QAccessible::Relation match) const
+{
+    auto relations = QAccessibleWidget::relations(match);
+    QAccessibleInterface* buddy = QAccessible::queryAccessibleInterface(label()->buddy());
+    if (buddy && match.testFlag(QAccessible::Labelled))
+        relations.append({buddy, QAccessible::Labelled});
+    return relations;
 }
 
 QStringList AccessibleLink::actionNames() const
