@@ -1,40 +1,110 @@
 #include "Player.h"
 
-#include "Warnings.h"
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
 
-namespace soak {
+#include <cstring>
+
+namespace test {
 
 namespace {
 
-QString unexpectedWarning(const Machine& machine)
+QStringList& warnings()
+{
+    static QStringList list;
+    return list;
+}
+
+void keep(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    // Qt's offscreen plugin says of several requests that it does not know them.
+    const bool ofPlugin = message.startsWith(QLatin1String("This plugin does not support "));
+    if (type != QtDebugMsg && type != QtInfoMsg && !ofPlugin)
+        warnings().append(message);
+    if (type == QtFatalMsg)
+        fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+void end(const QPointer<QMenu>& menu, bool choose)
+{
+    if (choose && !menu->actions().isEmpty())
+        menu->actions().first()->trigger();
+    if (menu)
+        menu->close();
+}
+
+QString unexpectedWarning(const Model& model)
 {
     for (const QString& warning : takeWarnings()) {
-        if (!machine.expectsWarning(warning))
+        if (!model.expectsWarning(warning))
             return QStringLiteral("unexpected warning: ") + warning;
     }
     return QString();
 }
 
-QString brokenBy(Machine& machine, const Step& step)
+QString brokenBy(Model& model, const Command& command)
 {
-    machine.perform(step);
-    machine.check();
-    const QString failure = machine.takeFailure();
-    const QString warning = unexpectedWarning(machine);
+    model.perform(command);
+    model.check();
+    const QString failure = model.takeFailure();
+    const QString warning = unexpectedWarning(model);
     return failure.isEmpty() ? warning : failure;
 }
 
 } // namespace
 
-Outcome play(Machine& machine, const Steps& steps, const std::function<void(int)>& progress)
+void collectWarnings()
 {
-    for (int i = 0; i < steps.size(); ++i) {
+    qInstallMessageHandler(keep);
+}
+
+QStringList takeWarnings()
+{
+    const QStringList taken = warnings();
+    warnings().clear();
+    return taken;
+}
+
+MenuCloser::MenuCloser()
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool MenuCloser::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* menu = event->type() == QEvent::Show ? qobject_cast<QMenu*>(watched) : nullptr;
+    if (menu) {
+        m_choose = !m_choose;
+        QTimer::singleShot(0, menu, [menu, choose = m_choose] { end(menu, choose); });
+    }
+    return false;
+}
+
+Progress::Progress(const QString& fileName)
+    : m_file(fileName)
+{
+    if (m_file.open(QIODevice::ReadWrite) && m_file.resize(sizeof(int)))
+        m_memory = m_file.map(0, sizeof(int));
+}
+
+void Progress::set(int command)
+{
+    if (m_memory)
+        std::memcpy(m_memory, &command, sizeof command);
+}
+
+Outcome play(Model& model, const Commands& commands, const std::function<void(int)>& progress)
+{
+    for (int i = 0; i < commands.size(); ++i) {
         progress(i);
-        const QString broken = brokenBy(machine, steps.at(i));
+        const QString broken = brokenBy(model, commands.at(i));
         if (!broken.isEmpty())
             return {i, broken};
     }
-    return {steps.size(), QString()};
+    return {commands.size(), QString()};
 }
 
-} // namespace soak
+} // namespace test

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace soak {
+namespace test {
 
 namespace {
 
@@ -89,4 +89,4 @@ QPoint Values::pointIn(const QSize& area)
     return {x, below(qMax(area.height(), 1))};
 }
 
-} // namespace soak
+} // namespace test

@@ -8,7 +8,7 @@
 
 #include <initializer_list>
 
-namespace soak {
+namespace test {
 
 /// Draws what an action needs, ordinary values and absurd ones, always the same from the same seed.
 class Values
@@ -43,4 +43,4 @@ private:
     QRandomGenerator m_generator;
 };
 
-} // namespace soak
+} // namespace test

@@ -1,11 +1,7 @@
-#include "Machines.h"
-#include "MenuCloser.h"
+#include "models/Models.h"
 #include "Player.h"
-#include "Progress.h"
 #include "Search.h"
-#include "StepFile.h"
 #include "TestApplication.h"
-#include "Warnings.h"
 
 #include <QElapsedTimer>
 
@@ -21,16 +17,17 @@ void print(const QString& text)
 
 int usage()
 {
-    std::fputs("usage: soak --list\n"
-               "       soak --search WIDGET SEED STEPS   random steps, the fewest that break it\n"
-               "       soak --play WIDGET FILE PROGRESS  the steps of a file, in this process\n",
-               stderr);
+    std::fputs(
+        "usage: soak --list\n"
+        "       soak --search WIDGET SEED STEPS   random commands, the fewest that break it\n"
+        "       soak --play WIDGET FILE PROGRESS  the commands of a file, in this process\n",
+        stderr);
     return 2;
 }
 
 int list()
 {
-    print(soak::machineNames().join(QLatin1Char('\n')) + QLatin1Char('\n'));
+    print(test::modelNames().join(QLatin1Char('\n')) + QLatin1Char('\n'));
     return 0;
 }
 
@@ -39,10 +36,10 @@ int searchIn(const QString& widget, const QString& seed, const QString& count)
     QElapsedTimer timer;
     timer.start();
     const QString report =
-        soak::search(QCoreApplication::applicationFilePath(), widget, seed.toUInt(), count.toInt());
+        test::search(QCoreApplication::applicationFilePath(), widget, seed.toUInt(), count.toInt());
     const int failures = report.isEmpty() ? 0 : 1;
     print(report);
-    print(QStringLiteral("%1: %2 steps from seed %3, %4 s, %5 failures\n")
+    print(QStringLiteral("%1: %2 commands from seed %3, %4 s, %5 failures\n")
               .arg(widget, count, seed)
               .arg(timer.elapsed() / 1000)
               .arg(failures));
@@ -51,15 +48,15 @@ int searchIn(const QString& widget, const QString& seed, const QString& count)
 
 int playFile(const QString& widget, const QString& fileName, const QString& progressFile)
 {
-    const std::unique_ptr<soak::Machine> machine = soak::newMachine(widget);
-    if (!machine)
+    const std::unique_ptr<test::Model> model = test::newModel(widget);
+    if (!model)
         return usage();
-    soak::takeWarnings(); // those of the start
-    soak::MenuCloser menuCloser;
-    soak::Progress progress(progressFile);
-    const soak::Steps steps = soak::fromLines(soak::readLines(fileName), *machine);
-    const soak::Outcome outcome =
-        soak::play(*machine, steps, [&](int step) { progress.set(step); });
+    test::takeWarnings(); // those of the start
+    test::MenuCloser menuCloser;
+    test::Progress progress(progressFile);
+    const test::Commands commands = test::fromLines(test::readLines(fileName), *model);
+    const test::Outcome outcome =
+        test::play(*model, commands, [&](int command) { progress.set(command); });
     if (outcome.broken.isEmpty())
         return 0;
     print(outcome.broken + QLatin1Char('\n'));
@@ -70,7 +67,7 @@ int playFile(const QString& widget, const QString& fileName, const QString& prog
 
 int main(int argc, char** argv)
 {
-    soak::collectWarnings();
+    test::collectWarnings();
     test::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -1,9 +1,9 @@
-#include "Machines.h"
+#include "models/Models.h"
 #include "Search.h"
 #include "TestApplication.h"
 
 /**
- * A few thousand random steps for each widget, and for all of them where a pixel of theirs is no
+ * A few thousand random commands for each widget, and for all of them where a pixel of theirs is no
  * whole number of the screen's. "./dev soak" plays as many as wanted.
  */
 class tst_RandomUse : public QObject
@@ -11,31 +11,31 @@ class tst_RandomUse : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void machine_data();
-    void machine();
+    void model_data();
+    void model();
     void scaled_data();
     void scaled();
 
 private:
-    void play(const QString& machine, int steps);
+    void play(const QString& model, int commands);
 };
 
 /// Searches in processes of its own.
-void tst_RandomUse::play(const QString& machine, int steps)
+void tst_RandomUse::play(const QString& model, int commands)
 {
     constexpr quint32 seed = 20; // any will do, as long as a failure can be repeated
-    const QString report = soak::search(QStringLiteral(SOAK_PROGRAM), machine, seed, steps);
+    const QString report = test::search(QStringLiteral(SOAK_PROGRAM), model, seed, commands);
     QVERIFY2(report.isEmpty(), qPrintable(report));
 }
 
-void tst_RandomUse::machine_data()
+void tst_RandomUse::model_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString& name : soak::machineNames())
+    for (const QString& name : test::modelNames())
         QTest::newRow(qPrintable(name)) << name;
 }
 
-void tst_RandomUse::machine()
+void tst_RandomUse::model()
 {
     QFETCH(QString, name);
     play(name, 3000);

@@ -28,7 +28,7 @@
 
 using ui::keyboard::KeyboardType;
 
-namespace soak {
+namespace test {
 
 namespace {
 
@@ -311,7 +311,7 @@ QObject* create(QWidget* window)
 }
 
 template <typename Class>
-Subject subject(QObject* (*create)(QWidget*) = soak::create<Class>)
+Subject subject(QObject* (*create)(QWidget*) = test::create<Class>)
 {
     return {&Class::staticMetaObject, create};
 }
@@ -372,4 +372,4 @@ void registerArgumentTypes()
     qRegisterMetaType<QVector<int>>();
 }
 
-} // namespace soak
+} // namespace test

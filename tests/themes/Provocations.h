@@ -9,7 +9,7 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
-namespace soak {
+namespace test {
 
 /// A class of the library whose objects are to be deleted in slots of their signals.
 struct Subject
@@ -38,4 +38,4 @@ QVector<Provocation> provocations(const QMetaObject& metaObject, const QMetaMeth
 /// Of the arguments that Qt's own signals carry.
 void registerArgumentTypes();
 
-} // namespace soak
+} // namespace test

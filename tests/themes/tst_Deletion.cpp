@@ -1,3 +1,4 @@
+#include "EventLoop.h"
 #include "OffscreenMessages.h"
 #include "Provocations.h"
 #include "TestApplication.h"
@@ -7,8 +8,8 @@
 
 #include <utility>
 
-using soak::Provocation;
-using soak::Subject;
+using test::Provocation;
+using test::Subject;
 
 namespace {
 
@@ -56,12 +57,6 @@ QVector<QMetaMethod> signalsOf(const QMetaObject& metaObject)
     return result;
 }
 
-void turnEventLoop()
-{
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Subject)
@@ -89,13 +84,13 @@ private Q_SLOTS:
 void tst_Deletion::initTestCase()
 {
     test::dropOffscreenMessages();
-    soak::registerArgumentTypes();
+    test::registerArgumentTypes();
 }
 
 void tst_Deletion::everySignalIsProvoked_data()
 {
     QTest::addColumn<Subject>("subject");
-    for (const Subject& subject : soak::subjects())
+    for (const Subject& subject : test::subjects())
         QTest::newRow(subject.metaObject->className()) << subject;
 }
 
@@ -103,7 +98,7 @@ void tst_Deletion::everySignalIsProvoked()
 {
     QFETCH(Subject, subject);
     for (const QMetaMethod& signal : signalsOf(*subject.metaObject)) {
-        QVERIFY2(!soak::provocations(*subject.metaObject, signal).isEmpty(),
+        QVERIFY2(!test::provocations(*subject.metaObject, signal).isEmpty(),
                  signal.methodSignature().constData());
     }
 }
@@ -114,9 +109,9 @@ void tst_Deletion::inSlot_data()
     QTest::addColumn<int>("signalIndex");
     QTest::addColumn<Provocation>("provocation");
     QTest::addColumn<bool>("deleteWindow");
-    for (const Subject& subject : soak::subjects()) {
+    for (const Subject& subject : test::subjects()) {
         for (const QMetaMethod& signal : signalsOf(*subject.metaObject)) {
-            for (const Provocation& way : soak::provocations(*subject.metaObject, signal)) {
+            for (const Provocation& way : test::provocations(*subject.metaObject, signal)) {
                 for (const bool deleteWindow : {false, true}) {
                     QTest::addRow("%s::%s, %s, %s", subject.metaObject->className(),
                                   signal.name().constData(), way.name,
@@ -141,7 +136,7 @@ void tst_Deletion::inSlot()
     const QMetaMethod signal = subject.metaObject->method(signalIndex);
     window->show();
     window->activateWindow();
-    turnEventLoop();
+    test::processEvents();
     const QPointer<QObject> victim = deleteWindow ? window.data() : sender.data();
     int count = 0;
     auto* deleter = new Deleter(victim, provocation.later, &count, window);
@@ -150,7 +145,7 @@ void tst_Deletion::inSlot()
 
     provocation.run(sender, signal);
     QVERIFY(count > 0);
-    turnEventLoop();
+    test::processEvents();
     QVERIFY(!victim);
     delete window;
     QVERIFY(!sender);

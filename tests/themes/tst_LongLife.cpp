@@ -1,33 +1,34 @@
-#include "Footprint.h"
 #include "OffscreenMessages.h"
+#include "ResourceUsage.h"
 #include "TestApplication.h"
-#include "Uses.h"
+#include "Workloads.h"
 
 #include <QPixmapCache>
 
-using soak::Footprint;
-using soak::Use;
+using test::ResourceUsage;
+using test::Workload;
 
 namespace {
 
-constexpr int warmUpRounds = 200;
+constexpr int warmUpIterations = 200;
 
 // Caches of Qt, the font library and the allocator go on filling for a while.
 constexpr qint64 heapTolerance = 64 * 1024;
 constexpr qint64 residentTolerance = 2 * 1024 * 1024;
 
 /// "./dev soak" asks for more.
-int rounds()
+int iterations()
 {
     const int asked = qEnvironmentVariableIntValue("PLATFORM_LONG_LIFE");
     return asked > 0 ? asked : 400;
 }
 
-bool isNoLarger(const Footprint& now, const Footprint& before)
+bool isNoLarger(const ResourceUsage& now, const ResourceUsage& before)
 {
     return now.objects <= before.objects && now.timers <= before.timers && now.files <= before.files
         && now.heap <= before.heap + heapTolerance
-        && (!Footprint::isResidentExact() || now.resident <= before.resident + residentTolerance);
+        && (!ResourceUsage::isResidentExact()
+            || now.resident <= before.resident + residentTolerance);
 }
 
 } // namespace
@@ -51,40 +52,40 @@ void tst_LongLife::initTestCase()
 
 void tst_LongLife::nothingPilesUp_data()
 {
-    QTest::addColumn<Use>("use");
-    for (const Use& use : soak::uses())
-        QTest::newRow(use.name) << use;
+    QTest::addColumn<Workload>("workload");
+    for (const Workload& workload : test::workloads())
+        QTest::newRow(workload.name) << workload;
 }
 
 void tst_LongLife::nothingPilesUp()
 {
-    QFETCH(Use, use);
+    QFETCH(Workload, workload);
     QWidget window;
     window.resize(640, 400);
-    const std::function<bool(int)> repeat = use.begin(window);
+    const std::function<bool(int)> repeat = workload.begin(window);
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    // Both from the last round down to the first, so that they leave the same behind.
-    for (int round = warmUpRounds; round >= 0; --round)
-        QVERIFY(repeat(round));
-    const Footprint before = Footprint::now();
-    for (int round = rounds(); round >= 0; --round)
-        QVERIFY(repeat(round));
+    // Both from the last iteration down to the first, so that they leave the same behind.
+    for (int iteration = warmUpIterations; iteration >= 0; --iteration)
+        QVERIFY(repeat(iteration));
+    const ResourceUsage before = ResourceUsage::now();
+    for (int iteration = iterations(); iteration >= 0; --iteration)
+        QVERIFY(repeat(iteration));
 
-    Footprint after;
+    ResourceUsage after;
     const bool kept = QTest::qWaitFor([&] {
-        after = Footprint::now();
+        after = ResourceUsage::now();
         return isNoLarger(after, before);
     });
-    qInfo() << rounds() << "rounds, before:" << before;
-    qInfo() << rounds() << "rounds, after: " << after;
+    qInfo() << iterations() << "iterations, before:" << before;
+    qInfo() << iterations() << "iterations, after: " << after;
     QVERIFY(kept);
 }
 
 int main(int argc, char** argv)
 {
-    soak::watchObjects();
+    test::watchObjects();
     return test::run<tst_LongLife>(argc, argv);
 }
 

@@ -1,12 +1,12 @@
 #include "TestApplication.h"
-#include "Uses.h"
+#include "Workloads.h"
 
 #include <QScreen>
 #include <QWindow>
 
-using soak::Use;
+using test::Workload;
 
-/// Each use goes on when its window is moved to another screen, of another size, and back.
+/// Each workload goes on when its window is moved to another screen, of another size, and back.
 class tst_OtherScreen : public QObject
 {
     Q_OBJECT
@@ -26,18 +26,18 @@ void tst_OtherScreen::initTestCase()
 
 void tst_OtherScreen::goesOn_data()
 {
-    QTest::addColumn<Use>("use");
-    for (const Use& use : soak::uses())
-        QTest::newRow(use.name) << use;
+    QTest::addColumn<Workload>("workload");
+    for (const Workload& workload : test::workloads())
+        QTest::newRow(workload.name) << workload;
 }
 
 void tst_OtherScreen::goesOn()
 {
-    QFETCH(Use, use);
-    constexpr int rounds = 12;
+    QFETCH(Workload, workload);
+    constexpr int iterations = 12;
     QWidget window;
     window.resize(500, 400);
-    const std::function<bool(int)> repeat = use.begin(window);
+    const std::function<bool(int)> repeat = workload.begin(window);
     window.winId(); // makes the window
     const QList<QScreen*> screens = QGuiApplication::screens();
     for (QScreen* screen : {screens.first(), screens.last(), screens.first()}) {
@@ -48,8 +48,8 @@ void tst_OtherScreen::goesOn()
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QCOMPARE(window.screen(), screen);
-        for (int round = 0; round < rounds; ++round)
-            QVERIFY(repeat(round));
+        for (int iteration = 0; iteration < iterations; ++iteration)
+            QVERIFY(repeat(iteration));
         QVERIFY(!window.grab().isNull());
     }
 }

@@ -1,37 +1,98 @@
 #include "LineEditModel.h"
 
-#include "Machine.h"
+#include "Models.h"
 
 #include <ui/KeypadPopup.h>
 #include <ui/LineEdit.h>
 
+#include <QDoubleValidator>
 #include <QFocusEvent>
-#include <QValidator>
+#include <QRegularExpressionValidator>
 
-namespace soak {
+namespace test {
 
-LineEditModel::LineEditModel(ui::LineEdit* field, Machine* machine)
-    : QObject(field)
-    , m_field(field)
-    , m_machine(machine)
+namespace {
+
+ui::LineEdit& field(WidgetModel& model)
 {
-    field->installEventFilter(this);
-    connect(field, &ui::LineEdit::resultValidated, this, &LineEditModel::checkVerdict);
-    connect(field, &ui::LineEdit::signalCancelKey, this, &LineEditModel::checkRestored);
+    return static_cast<ui::LineEdit&>(*model.widget());
 }
 
-void LineEditModel::setHasKeypad()
+void setValidator(ui::LineEdit& edit, Values& values)
+{
+    delete edit.validator();
+    switch (values.below(4)) {
+    case 0:
+        edit.setValidator(new QIntValidator(values.integer(), values.integer(), &edit));
+        break;
+    case 1:
+        edit.setValidator(new QDoubleValidator(-10, values.below(1000), 2, &edit));
+        break;
+    case 2:
+        edit.setValidator(new QRegularExpressionValidator(
+            QRegularExpression(QStringLiteral("[a-z]{3,8}")), &edit));
+        break;
+    default:
+        edit.setValidator(nullptr);
+    }
+}
+
+class LineEditModel : public WidgetModel
+{
+public:
+    explicit LineEditModel(const std::shared_ptr<TestWindows>& windows);
+
+protected:
+    QWidget* create() override;
+    void checkState() override;
+
+private:
+    QPointer<LineEditWatcher> m_watcher;
+};
+
+LineEditModel::LineEditModel(const std::shared_ptr<TestWindows>& windows)
+    : WidgetModel(windows)
+{
+    addLineEditCommands(*this);
+    addAllCommands(*this);
+}
+
+QWidget* LineEditModel::create()
+{
+    auto* field = new ui::LineEdit;
+    m_watcher = new LineEditWatcher(field, this);
+    return field;
+}
+
+void LineEditModel::checkState()
+{
+    m_watcher->check();
+}
+
+} // namespace
+
+LineEditWatcher::LineEditWatcher(ui::LineEdit* field, Model* model)
+    : QObject(field)
+    , m_field(field)
+    , m_model(model)
+{
+    field->installEventFilter(this);
+    connect(field, &ui::LineEdit::resultValidated, this, &LineEditWatcher::checkVerdict);
+    connect(field, &ui::LineEdit::signalCancelKey, this, &LineEditWatcher::checkRestored);
+}
+
+void LineEditWatcher::setHasKeypad()
 {
     m_hasKeypad = true;
 }
 
-void LineEditModel::check()
+void LineEditWatcher::check()
 {
-    m_machine->compare("inputValid", m_field->property("inputValid"), QVariant(m_valid));
-    m_machine->compare("focus policy", m_field->focusPolicy(), Qt::ClickFocus);
+    m_model->compare("inputValid", m_field->property("inputValid"), QVariant(m_valid));
+    m_model->compare("focus policy", m_field->focusPolicy(), Qt::ClickFocus);
 }
 
-bool LineEditModel::eventFilter(QObject* watched, QEvent* event)
+bool LineEditWatcher::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_field && event->type() == QEvent::FocusIn) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
@@ -41,19 +102,18 @@ bool LineEditModel::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void LineEditModel::checkVerdict(bool valid)
+void LineEditWatcher::checkVerdict(bool valid)
 {
     m_valid = valid;
     // A Cancel asks about the text that was saved, even if the field can no longer hold all of it.
     const bool cut = m_saved.size() > m_field->maxLength();
-    m_machine->expect(valid == isAcceptable(m_field->text())
-                          || (cut && valid == isAcceptable(m_saved)),
-                      "the verdict is the validator's");
-    m_machine->compare("inputValid in the signal", m_field->property("inputValid"),
-                       QVariant(valid));
+    m_model->expect(valid == isAcceptable(m_field->text())
+                        || (cut && valid == isAcceptable(m_saved)),
+                    "the verdict is the validator's");
+    m_model->compare("inputValid in the signal", m_field->property("inputValid"), QVariant(valid));
 }
 
-bool LineEditModel::isAcceptable(QString text) const
+bool LineEditWatcher::isAcceptable(QString text) const
 {
     int position = 0;
     const QValidator* validator = m_field->validator();
@@ -61,16 +121,42 @@ bool LineEditModel::isAcceptable(QString text) const
 }
 
 /// The field's own reaction has run already.
-void LineEditModel::checkRestored()
+void LineEditWatcher::checkRestored()
 {
-    m_machine->compare("restored text", m_field->text(), m_saved.left(m_field->maxLength()));
-    m_machine->expect(!m_field->hasFocus() || isKeypadUp(), "a Cancel gives up the focus");
+    m_model->compare("restored text", m_field->text(), m_saved.left(m_field->maxLength()));
+    m_model->expect(!m_field->hasFocus() || isKeypadUp(), "a Cancel gives up the focus");
 }
 
-bool LineEditModel::isKeypadUp() const
+bool LineEditWatcher::isKeypadUp() const
 {
     const auto* popup = m_field->findChild<ui::KeypadPopup*>();
     return m_hasKeypad && popup && popup->isVisible();
 }
 
-} // namespace soak
+void addLineEditCommands(WidgetModel& model)
+{
+    model.add("setText", 4, [&](Values& v) { field(model).setText(v.text()); });
+    model.add("insert", 2, [&](Values& v) { field(model).insert(v.text()); });
+    model.add("setMaxLength", 1, [&](Values& v) {
+        field(model).setMaxLength(v.oneOf({-1, 0, 3, 32767}));
+    });
+    model.add("setValidator", 2, [&](Values& v) { setValidator(field(model), v); });
+    model.add("setReadOnly", 1, [&](Values& v) { field(model).setReadOnly(v.below(4) == 0); });
+    model.add("setEchoMode", 1,
+              [&](Values& v) { field(model).setEchoMode(QLineEdit::EchoMode(v.below(4))); });
+    model.add("select", 2, [&](Values& v) {
+        const int start = v.below(field(model).text().size() + 1);
+        field(model).setSelection(start, v.integer() / 2); // Qt adds the two up
+    });
+    model.add("undo", 1,
+              [&](Values& v) { v.boolean() ? field(model).undo() : field(model).redo(); });
+    model.add("commit", 2, [&](Values&) { Q_EMIT field(model).signalOkKey(); });
+    model.add("cancel", 2, [&](Values&) { Q_EMIT field(model).signalCancelKey(); });
+}
+
+std::unique_ptr<WidgetModel> newLineEditModel(const std::shared_ptr<TestWindows>& windows)
+{
+    return std::make_unique<LineEditModel>(windows);
+}
+
+} // namespace test

@@ -1,24 +1,21 @@
 #pragma once
 
-#include <QObject>
-#include <QPointer>
+#include "WidgetModel.h"
 
 namespace ui {
 class LineEdit;
 }
 
-namespace soak {
+namespace test {
 
-class Machine;
-
-/// What a line edit must remember: watches it from outside, and reports to a machine.
-class LineEditModel : public QObject
+/// What a line edit must remember: watches it from outside, and reports to a model.
+class LineEditWatcher : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \a field owns the model; \a machine outlives it.
-    LineEditModel(ui::LineEdit* field, Machine* machine);
+    /// \a field owns the model; \a model outlives it.
+    LineEditWatcher(ui::LineEdit* field, Model* model);
 
     /// A field with a keypad takes no notice of the focus that it gives up at once, and its keypad
     /// gives the focus back once.
@@ -35,10 +32,13 @@ private:
     bool isKeypadUp() const;
 
     ui::LineEdit* m_field;
-    Machine* m_machine;
+    Model* m_model;
     bool m_hasKeypad = false;
     bool m_valid = true;
     QString m_saved;
 };
 
-} // namespace soak
+/// Adds what can be done to any ui::LineEdit, which is the model's widget.
+void addLineEditCommands(WidgetModel& model);
+
+} // namespace test

@@ -1,0 +1,13 @@
+#include "EventLoop.h"
+
+#include <QCoreApplication>
+
+namespace test {
+
+void processEvents()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace test

@@ -1,0 +1,164 @@
+#include "Workloads.h"
+
+#include "EventLoop.h"
+#include "Tree.h"
+
+#include <BreadCrumbsWidget.h>
+#include <Switch.h>
+#include <ui/CBatteryStatusWidget.h>
+#include <ui/CGridArrangedButton.h>
+#include <ui/CRoundedFrame.h>
+#include <ui/FileBrowserWidget.h>
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+#include <ui/ScrollIndicatorBar.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+
+using ui::KeypadLineEdit;
+using ui::keyboard::KeyboardType;
+
+namespace test {
+
+namespace {
+
+using Iteration = std::function<bool(int)>;
+
+constexpr Style::Animation shortest{QEasingCurve::Linear, 1};
+
+Switch* newSwitch(QWidget& window)
+{
+    auto* toggle = new Switch(QStringLiteral("label"), &window);
+    toggle->setThumbPosAnimation(shortest);
+    toggle->setThumbBrushAnimation(shortest);
+    toggle->setTrackBrushAnimation(shortest);
+    return toggle;
+}
+
+Iteration toggle(QWidget& window)
+{
+    Switch* toggle = newSwitch(window);
+    return [toggle](int) {
+        const bool before = toggle->isChecked();
+        toggle->click();
+        processEvents();
+        return toggle->isChecked() != before;
+    };
+}
+
+Iteration charge(QWidget& window)
+{
+    auto* battery = new ui::CBatteryStatusWidget(&window);
+    battery->resize(50, 100);
+    return [battery](int iteration) {
+        battery->setChargePercentage(iteration % 101);
+        battery->setBatteryCharging(iteration % 7 == 0);
+        battery->setBatteryPresent(iteration % 11 != 0);
+        processEvents();
+        return true;
+    };
+}
+
+Iteration scroll(QWidget& window)
+{
+    auto* bar = new ui::widgets::ScrollIndicatorBar(Qt::Horizontal, &window);
+    bar->resize(200, 5);
+    return [bar](int iteration) {
+        bar->setValue(iteration % 100);
+        bar->setHighlightBar(iteration % 2 == 0);
+        processEvents();
+        return true;
+    };
+}
+
+void press(const KeypadLineEdit& field, const char* name)
+{
+    const auto keys = field.keypad()->findChildren<QAbstractButton*>();
+    for (QAbstractButton* key : keys) {
+        if (key->accessibleName() == QLatin1String(name))
+            key->click();
+    }
+}
+
+/// The focus from field to field, with an edit that is committed, cancelled or left.
+Iteration edit(QWidget& window)
+{
+    auto* first = new KeypadLineEdit(&window, KeyboardType::Integer);
+    auto* second = new KeypadLineEdit(&window, KeyboardType::Text);
+    second->move(0, 50);
+    return [=](int iteration) {
+        KeypadLineEdit* field = iteration % 2 == 0 ? first : second;
+        field->setFocus();
+        processEvents();
+        const bool shown = field->keypad() && field->keypad()->isVisible();
+        field->insert(QStringLiteral("1"));
+        if (shown && iteration % 3 < 2)
+            press(*field, iteration % 3 == 0 ? "OK" : "Cancel");
+        else
+            field->clearFocus();
+        processEvents();
+        field->setText(QString());
+        return shown && !field->keypad()->isVisible();
+    };
+}
+
+Iteration browse(QWidget& window)
+{
+    const auto tree = std::make_shared<test::Tree>();
+    const QStringList names{QStringLiteral("a/b/c/d/e"), QStringLiteral("a/f"),
+                            QStringLiteral("g")};
+    for (const QString& name : names)
+        tree->makeDir(name);
+    auto* browser = new ui::FileBrowserWidget(&window);
+    browser->resize(window.size());
+    browser->setAllowedDirs({tree->path()});
+    return [=](int iteration) {
+        const QString path = tree->path(names.at(iteration % names.size()));
+        Q_EMIT browser->findChild<BreadCrumbsWidget*>()->dirChanged(path);
+        processEvents();
+        return browser->currentPath() == path;
+    };
+}
+
+Iteration followCrumbs(QWidget& window)
+{
+    auto* bar = new BreadCrumbsWidget(&window);
+    return [bar](int iteration) {
+        bar->changeDir(QStringLiteral("/a/b/c/d/e").left(2 + 2 * (iteration % 5)));
+        processEvents();
+        return true;
+    };
+}
+
+/// Windows that are opened, filled and closed.
+Iteration open(QWidget&)
+{
+    return [](int iteration) {
+        QWidget window;
+        newSwitch(window)->setChecked(true);
+        auto* frame = new ui::CRoundedFrame(&window);
+        frame->enableWidgetMask(true);
+        auto* button = new ui::CGridArrangedButton(frame);
+        button->addWidget(new QLabel(QStringLiteral("label")), 0, 0);
+        new ui::CBatteryStatusWidget(&window);
+        auto* field = new KeypadLineEdit(&window, KeyboardType::Integer);
+        if (iteration % 10 == 0)
+            new ui::FileBrowserWidget(&window);
+        window.show();
+        field->showKeypad();
+        processEvents();
+        return field->keypad()->isVisible();
+    };
+}
+
+} // namespace
+
+QVector<Workload> workloads()
+{
+    return {{"toggles", toggle},     {"charge updates", charge},    {"scrolling", scroll},
+            {"focus cycles", edit},  {"directory changes", browse}, {"crumbs", followCrumbs},
+            {"windows opened", open}};
+}
+
+} // namespace test
