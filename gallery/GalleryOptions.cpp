@@ -1,6 +1,6 @@
 #include "GalleryOptions.h"
 
-#include "pages/AllPages.h"
+#include "pages/Pages.h"
 #include "StyleSheetFile.h"
 
 #include <QCommandLineParser>

@@ -24,8 +24,9 @@ public:
     /**
      * Reads the arguments of the running application.
      *
-     * Like QCommandLineParser::process(), prints what --help and --version ask for, and ends the program.
-     * So does an unknown option. Returns false, with a message in \a error, if a value is no good.
+     * Like QCommandLineParser::process(), prints what --help and --version ask for, and ends the
+     * program. So does an unknown option. Returns false, with a message in \a error, if a value is
+     * no good.
      */
     bool read(QString* error);
 

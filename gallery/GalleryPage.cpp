@@ -5,12 +5,17 @@ GalleryPage::GalleryPage(QWidget* parent)
 {
 }
 
-const QList<GalleryPage::Exhibit>& GalleryPage::exhibits() const
+const QList<GalleryPage::DemoWidget>& GalleryPage::demoWidgets() const
 {
-    return m_exhibits;
+    return m_demoWidgets;
 }
 
-void GalleryPage::addExhibit(QWidget* widget, const QString& name)
+bool GalleryPage::isReady() const
 {
-    m_exhibits.append({widget, name});
+    return true;
+}
+
+void GalleryPage::addDemoWidget(QWidget* widget, const QString& name)
+{
+    m_demoWidgets.append({widget, name});
 }

@@ -1,6 +1,6 @@
 #include "GalleryWindow.h"
 
-#include "ExhibitPicker.h"
+#include "DemoWidgetPicker.h"
 #include "GalleryPage.h"
 #include "properties/PropertyEditor.h"
 #include "StyleSheetFile.h"
@@ -30,7 +30,7 @@ GalleryWindow::GalleryWindow(const QVector<PageEntry>& pages, const QString& sty
     , m_pageArea(new QScrollArea)
     , m_properties(new PropertyEditor)
     , m_propertiesSwitch(nullptr)
-    , m_picker(new ExhibitPicker(this))
+    , m_picker(new DemoWidgetPicker(this))
 {
     setWindowTitle(tr("Widget Gallery"));
     m_appearance.styleSheet = styleSheet;
@@ -138,7 +138,7 @@ void GalleryWindow::setUpPageArea()
 void GalleryWindow::setUpProperties()
 {
     m_properties->setFixedWidth(propertiesWidth);
-    connect(m_picker, &ExhibitPicker::picked, m_properties, &PropertyEditor::setTarget);
+    connect(m_picker, &DemoWidgetPicker::picked, m_properties, &PropertyEditor::setTarget);
 }
 
 void GalleryWindow::makePage(int index)
@@ -148,7 +148,7 @@ void GalleryWindow::makePage(int index)
     touch::stopScrolling(m_pageArea);
     m_pageArea->setWidget(page); // deletes the one before
     m_picker->setPage(page);
-    m_properties->setExhibits(page->exhibits());
+    m_properties->setDemoWidgets(page->demoWidgets());
     updateProperties();
 }
 
@@ -161,7 +161,7 @@ void GalleryWindow::applyAppearance()
 
 void GalleryWindow::updateProperties()
 {
-    const bool hasExhibits = page() && !page()->exhibits().isEmpty();
-    m_propertiesSwitch->setEnabled(hasExhibits);
-    m_properties->setVisible(hasExhibits && m_propertiesSwitch->isChecked());
+    const bool hasDemoWidgets = page() && !page()->demoWidgets().isEmpty();
+    m_propertiesSwitch->setEnabled(hasDemoWidgets);
+    m_properties->setVisible(hasDemoWidgets && m_propertiesSwitch->isChecked());
 }

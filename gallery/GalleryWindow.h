@@ -1,11 +1,11 @@
 #pragma once
 
 #include "Appearance.h"
-#include "pages/AllPages.h"
+#include "pages/Pages.h"
 
 #include <QWidget>
 
-class ExhibitPicker;
+class DemoWidgetPicker;
 class GalleryPage;
 class PropertyEditor;
 QT_BEGIN_NAMESPACE
@@ -24,8 +24,8 @@ class GalleryWindow : public QWidget
     Q_OBJECT
 
 public:
-    /// Shows the first of \a pages. With a \a styleSheet its switch is on at the start; without one the
-    /// switch stands for the example style sheet, and is off.
+    /// Shows the first of \a pages. With a \a styleSheet its switch is on at the start; without one
+    /// the switch stands for the example style sheet, and is off.
     explicit GalleryWindow(const QVector<PageEntry>& pages, const QString& styleSheet = QString(),
                            QWidget* parent = nullptr);
 
@@ -55,5 +55,5 @@ private:
     QScrollArea* m_pageArea;
     PropertyEditor* m_properties;
     QCheckBox* m_propertiesSwitch;
-    ExhibitPicker* m_picker;
+    DemoWidgetPicker* m_picker;
 };

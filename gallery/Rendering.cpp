@@ -1,30 +1,35 @@
 #include "Rendering.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QPalette>
+#include <QTimer>
 #include <QWidget>
 
 namespace {
 
-/// Time for what a widget does by itself at its start: listing a folder, the first steps of an animation.
-constexpr int settlingTime = 200;
+/// Milliseconds; reading a directory of a slow medium takes some of them.
+constexpr int longestWait = 5000;
 
 } // namespace
 
-void rendering::settle()
+bool rendering::waitUntil(const std::function<bool()>& condition)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (!timer.hasExpired(settlingTime))
-        QCoreApplication::processEvents(QEventLoop::AllEvents, settlingTime);
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    deadline.start(longestWait);
+    while (!condition()) {
+        if (!deadline.isActive())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
 }
 
 void rendering::showUnseen(QWidget* window)
 {
     window->setAttribute(Qt::WA_DontShowOnScreen);
     window->show();
-    settle();
+    QCoreApplication::processEvents();
 }
 
 QImage rendering::pictureOf(QWidget* widget, qreal devicePixelRatio)

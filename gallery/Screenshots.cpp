@@ -18,8 +18,8 @@ struct Variant
     qreal devicePixelRatio;
 };
 
-/// What the page gets in a gallery window of 800 x 480 without the property editor, and about as much
-/// height as it wants.
+/// What the page gets in a gallery window of 800 x 480 without the property editor, and about as
+/// much height as it wants.
 constexpr QSize leastSize(600, 400);
 
 QVector<Variant> variants(const QString& styleSheet)
@@ -50,6 +50,7 @@ QImage picture(const PageEntry& entry, const Variant& variant)
     page->resize(sizeOf(*page));
     stage.resize(page->size());
     rendering::showUnseen(&stage);
+    rendering::waitUntil([page] { return page->isReady(); });
     return rendering::pictureOf(&stage, variant.devicePixelRatio);
 }
 

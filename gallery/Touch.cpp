@@ -28,7 +28,7 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const QSize hint = QStyledItemDelegate::sizeHint(option, index) + QSize(2 * margin, 0);
-        return hint.expandedTo(QSize(0, fingerSize));
+        return hint.expandedTo(QSize(0, touchSize));
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -67,7 +67,7 @@ public:
     {
         const int textWidth =
             text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text()) + margin;
-        return QSize(fingerSize + textWidth, fingerSize);
+        return QSize(touchSize + textWidth, touchSize);
     }
 
 protected:
@@ -82,14 +82,14 @@ protected:
         initStyleOption(&option);
         QStylePainter painter(this);
 
-        const QRect text = option.rect.adjusted(fingerSize, 0, 0, 0);
+        const QRect text = option.rect.adjusted(touchSize, 0, 0, 0);
         painter.drawItemText(
             QStyle::visualRect(option.direction, rect(), text),
             int(Qt::AlignVCenter | QStyle::visualAlignment(option.direction, Qt::AlignLeft)),
             option.palette, isEnabled(), option.text, QPalette::WindowText);
 
         QRect indicator(0, 0, indicatorSize, indicatorSize);
-        indicator.moveCenter(QRect(0, 0, fingerSize, height()).center());
+        indicator.moveCenter(QRect(0, 0, touchSize, height()).center());
         option.rect = QStyle::visualRect(option.direction, rect(), indicator);
         painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, option);
     }
@@ -150,7 +150,7 @@ void leaveWheelToScrollArea(QWidget* control)
 
 void adapt(QComboBox* box)
 {
-    box->setMinimumHeight(fingerSize);
+    box->setMinimumHeight(touchSize);
     box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     box->setItemDelegate(new TallItemDelegate(box));
     leaveWheelToScrollArea(box);
@@ -166,14 +166,14 @@ QComboBox* makeComboBox()
 QCheckBox* makeCheckBox(const QString& text)
 {
     auto* box = new TallCheckBox(text);
-    box->setMinimumSize(fingerSize, fingerSize);
+    box->setMinimumSize(touchSize, touchSize);
     return box;
 }
 
 QSlider* makeSlider()
 {
     auto* slider = new TouchSlider(Qt::Horizontal);
-    slider->setMinimumHeight(fingerSize);
+    slider->setMinimumHeight(touchSize);
     leaveWheelToScrollArea(slider);
     return slider;
 }
@@ -186,7 +186,7 @@ QToolButton* makeFoldButton(const QString& text)
     button->setAutoRaise(true);
     button->setArrowType(Qt::DownArrow);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setMinimumHeight(fingerSize);
+    button->setMinimumHeight(touchSize);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     QObject::connect(button, &QToolButton::toggled, button, [button](bool unfolded) {
         button->setArrowType(unfolded ? Qt::UpArrow : Qt::DownArrow);

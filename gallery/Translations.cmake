@@ -1,8 +1,10 @@
 # Compiles the translations of the gallery into it, as :/translations/gallery_LANGUAGE.qm.
 set(languages de)
 
-# A program of this machine: find_package(Qt5LinguistTools) would look in the sysroot when cross-building.
-find_program(PLATFORM_LRELEASE NAMES lrelease HINTS /usr/lib/qt5/bin "${Qt5_DIR}/../../../bin" REQUIRED)
+# A program of the build host: find_package(Qt5LinguistTools) would look in the sysroot when
+# cross-building.
+find_program(PLATFORM_LRELEASE NAMES lrelease
+    HINTS /usr/lib/qt5/bin "${Qt5_DIR}/../../../bin" REQUIRED)
 
 set(entries)
 foreach(language IN LISTS languages)

@@ -1,10 +1,9 @@
 #include "Appearance.h"
-#include "Directories.h"
 #include "GalleryOptions.h"
 #include "GalleryWindow.h"
-#include "pages/AllPages.h"
-#include "reference/AllClassSheets.h"
+#include "pages/Pages.h"
 #include "reference/ClassPictures.h"
+#include "reference/StateGalleries.h"
 #include "Screenshots.h"
 #include "Translations.h"
 
@@ -66,13 +65,13 @@ int renderClasses(const QDir& directory)
     QTextStream out(stdout);
     QString error;
     const bool rendered = makeDirectory(directory, &error)
-        && takeClassPictures(allClassSheets(), directory, out, &error);
+        && takeClassPictures(stategalleries::all(), directory, out, &error);
     return rendered ? EXIT_SUCCESS : fail(error);
 }
 
 int renderPages(const GalleryOptions& options, const QDir& directory)
 {
-    QVector<PageEntry> pages = allPages();
+    QVector<PageEntry> pages = allPages(options.directories);
     pages.erase(std::remove_if(pages.begin(), pages.end(),
                                [&options](const PageEntry& entry) {
                                    return !options.page.isEmpty() && entry.id != options.page;
@@ -88,7 +87,7 @@ int renderPages(const GalleryOptions& options, const QDir& directory)
 
 int openWindow(const GalleryOptions& options)
 {
-    GalleryWindow window(allPages(), options.styleSheet);
+    GalleryWindow window(allPages(options.directories), options.styleSheet);
     if (!options.page.isEmpty())
         window.showPage(options.page);
     window.show();
@@ -115,7 +114,6 @@ int main(int argc, char* argv[])
     QString error;
     if (!options.read(&error))
         return fail(error);
-    setGalleryDirectories(options.directories);
 
     if (options.listPages)
         return listPages();

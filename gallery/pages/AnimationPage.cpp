@@ -1,11 +1,12 @@
-#include "AnimationPage.h"
-
 #include "Beacon.h"
+#include "GalleryPage.h"
+#include "Pages.h"
 #include "Touch.h"
 
 #include <ui/CAnimationFwdRevLoop.h>
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPropertyAnimation>
@@ -27,7 +28,20 @@ QPropertyAnimation* makeAnimation(QWidget* target, const QByteArray& property, i
     return animation;
 }
 
-} // namespace
+/// Animations that ui::CAnimationFwdRevLoop drives back and forth.
+class AnimationPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(AnimationPage)
+
+public:
+    explicit AnimationPage(QWidget* parent = nullptr);
+
+private:
+    QLayout* makePulse();
+    QLayout* makeSweep();
+    static QPushButton* makeSwitch(QVariantAnimation* animation);
+    static QLabel* makeDirection(QVariantAnimation* animation);
+};
 
 AnimationPage::AnimationPage(QWidget* parent)
     : GalleryPage(parent)
@@ -46,7 +60,7 @@ AnimationPage::AnimationPage(QWidget* parent)
 QLayout* AnimationPage::makePulse()
 {
     auto* beacon = new Beacon;
-    addExhibit(beacon, tr("Pulsing light"));
+    addDemoWidget(beacon, tr("Pulsing light"));
     QPropertyAnimation* pulse = makeAnimation(beacon, "brightness", pulseDuration);
     pulse->setStartValue(1.0);
     pulse->setEndValue(0.0);
@@ -71,7 +85,7 @@ QLayout* AnimationPage::makeSweep()
     auto* bar = new QProgressBar;
     bar->setRange(0, 1000);
     bar->setTextVisible(false);
-    addExhibit(bar, tr("Sweeping bar"));
+    addDemoWidget(bar, tr("Sweeping bar"));
     QPropertyAnimation* sweep = makeAnimation(bar, "value", sweepDuration);
     sweep->setStartValue(bar->minimum());
     sweep->setEndValue(bar->maximum());
@@ -88,7 +102,7 @@ QLayout* AnimationPage::makeSweep()
 QPushButton* AnimationPage::makeSwitch(QVariantAnimation* animation)
 {
     auto* button = new QPushButton(tr("Stop"));
-    button->setMinimumHeight(touch::fingerSize);
+    button->setMinimumHeight(touch::touchSize);
     connect(button, &QPushButton::clicked, animation, [animation] {
         if (animation->state() == QAbstractAnimation::Running)
             animation->stop();
@@ -111,4 +125,11 @@ QLabel* AnimationPage::makeDirection(QVariantAnimation* animation)
                                                                         : tr("Running backwards"));
             });
     return label;
+}
+
+} // namespace
+
+GalleryPage* makeAnimationPage(QWidget* parent)
+{
+    return new AnimationPage(parent);
 }

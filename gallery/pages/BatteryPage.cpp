@@ -1,8 +1,12 @@
-#include "BatteryPage.h"
+#include "GalleryPage.h"
+#include "Pages.h"
+#include "SystemBattery.h"
 
-#include "ui/CBatteryStatusWidget.h"
+#include <ui/CBatteryStatusWidget.h>
 
+#include <QBasicTimer>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QSlider>
 #include <QTimerEvent>
@@ -31,11 +35,37 @@ QLabel* makeCaption(const QString& text)
     return caption;
 }
 
-} // namespace
+/// Batteries in their states, frames and sizes, one to play with, and the device's own.
+class BatteryPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(BatteryPage)
 
-BatteryPage::BatteryPage(QWidget* parent, const MachineBattery& machineBattery)
+public:
+    /// Shows \a systemBattery among the others, and follows it while the page is visible.
+    BatteryPage(QWidget* parent, const SystemBattery& systemBattery);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    ui::CBatteryStatusWidget* addBattery(QBoxLayout* row, const QString& name, int percent);
+    void fillCharges(QBoxLayout* row);
+    void fillLooks(QBoxLayout* row);
+    void fillSizes(QBoxLayout* row);
+    QWidget* makeColumn();
+    QWidget* makeControls(ui::CBatteryStatusWidget* battery);
+    void readSystemBattery();
+
+    SystemBattery m_systemBattery;
+    ui::CBatteryStatusWidget* m_systemWidget = nullptr;
+    QBasicTimer m_timer;
+};
+
+BatteryPage::BatteryPage(QWidget* parent, const SystemBattery& systemBattery)
     : GalleryPage(parent)
-    , m_machineBattery(machineBattery)
+    , m_systemBattery(systemBattery)
 {
     auto* rows = new QVBoxLayout(this);
     for (const auto fill :
@@ -52,7 +82,7 @@ CBatteryStatusWidget* BatteryPage::addBattery(QBoxLayout* row, const QString& na
     auto* battery = new CBatteryStatusWidget(this);
     battery->setFixedSize(usualSize);
     battery->setChargePercentage(percent);
-    addExhibit(battery, name);
+    addDemoWidget(battery, name);
 
     auto* cell = new QVBoxLayout;
     cell->setSpacing(2);
@@ -68,8 +98,8 @@ void BatteryPage::fillCharges(QBoxLayout* row)
     for (const int percent : {0, 10, 50, 80, 100})
         addBattery(row, tr("%1 %").arg(percent), percent);
     addBattery(row, tr("Absent"), usualPercent)->setBatteryPresent(false);
-    m_machineWidget = addBattery(row, tr("This machine"), 0);
-    m_machineWidget->setBatteryPresent(false);
+    m_systemWidget = addBattery(row, tr("This device"), 0);
+    m_systemWidget->setBatteryPresent(false);
 }
 
 void BatteryPage::fillLooks(QBoxLayout* row)
@@ -95,7 +125,7 @@ QWidget* BatteryPage::makeColumn()
     auto* battery = new CBatteryStatusWidget;
     battery->setChargePercentage(usualPercent);
     const QString name = tr("Height for width");
-    addExhibit(battery, name);
+    addDemoWidget(battery, name);
 
     // The layout asks the battery how high it is as wide as the column.
     auto* column = new QWidget(this);
@@ -137,7 +167,7 @@ QWidget* BatteryPage::makeControls(CBatteryStatusWidget* battery)
 void BatteryPage::showEvent(QShowEvent* event)
 {
     GalleryPage::showEvent(event);
-    readMachineBattery();
+    readSystemBattery();
     m_timer.start(readingInterval, this);
 }
 
@@ -150,15 +180,22 @@ void BatteryPage::hideEvent(QHideEvent* event)
 void BatteryPage::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() == m_timer.timerId())
-        readMachineBattery();
+        readSystemBattery();
     else
         GalleryPage::timerEvent(event);
 }
 
-void BatteryPage::readMachineBattery()
+void BatteryPage::readSystemBattery()
 {
-    const BatteryReading reading = m_machineBattery.read();
-    m_machineWidget->setBatteryPresent(reading.present);
-    m_machineWidget->setBatteryCharging(reading.charging);
-    m_machineWidget->setChargePercentage(reading.percent);
+    const BatteryReading reading = m_systemBattery.read();
+    m_systemWidget->setBatteryPresent(reading.present);
+    m_systemWidget->setBatteryCharging(reading.charging);
+    m_systemWidget->setChargePercentage(reading.percent);
+}
+
+} // namespace
+
+GalleryPage* makeBatteryPage(QWidget* parent, const SystemBattery& systemBattery)
+{
+    return new BatteryPage(parent, systemBattery);
 }

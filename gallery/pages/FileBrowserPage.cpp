@@ -1,14 +1,16 @@
-#include "FileBrowserPage.h"
-
-#include "Directories.h"
+#include "GalleryPage.h"
+#include "Pages.h"
 #include "Touch.h"
 
 #include <ui/FileBrowserWidget.h>
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
+#include <QFileSystemModel>
 #include <QLabel>
+#include <QListView>
 
 using ui::FileBrowserWidget;
 
@@ -25,12 +27,6 @@ QStringList rootsByDefault()
     return {QDir::homePath(), QDir::rootPath()};
 }
 
-QStringList roots()
-{
-    const QStringList named = galleryDirectories();
-    return named.isEmpty() ? rootsByDefault() : named;
-}
-
 QStringList fileNames(const QStringList& paths)
 {
     QStringList names;
@@ -39,9 +35,30 @@ QStringList fileNames(const QStringList& paths)
     return names;
 }
 
-} // namespace
+/**
+ * The file browser on the real file system: in the directories named on the command line, or the
+ * user's own and the top of the file system.
+ */
+class FileBrowserPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(FileBrowserPage)
 
-FileBrowserPage::FileBrowserPage(QWidget* parent)
+public:
+    FileBrowserPage(QWidget* parent, const QStringList& directories);
+
+    bool isReady() const override;
+
+private:
+    QComboBox* makeFilters();
+    QComboBox* makeModes();
+    void showSelection();
+
+    ui::FileBrowserWidget* m_browser;
+    QLabel* m_selection;
+    bool m_isReady = false; ///< The first directory has been read.
+};
+
+FileBrowserPage::FileBrowserPage(QWidget* parent, const QStringList& directories)
     : GalleryPage(parent)
     , m_browser(new FileBrowserWidget)
     , m_selection(new QLabel)
@@ -60,9 +77,17 @@ FileBrowserPage::FileBrowserPage(QWidget* parent)
     column->addLayout(choices);
 
     connect(m_browser, &FileBrowserWidget::selectionChanged, this, &FileBrowserPage::showSelection);
-    m_browser->setAllowedDirs(roots());
+    const auto* view = m_browser->findChild<QListView*>(QString(), Qt::FindDirectChildrenOnly);
+    connect(qobject_cast<QFileSystemModel*>(view->model()), &QFileSystemModel::directoryLoaded,
+            this, [this] { m_isReady = true; });
+    m_browser->setAllowedDirs(directories.isEmpty() ? rootsByDefault() : directories);
     showSelection();
-    addExhibit(m_browser, tr("File browser"));
+    addDemoWidget(m_browser, tr("File browser"));
+}
+
+bool FileBrowserPage::isReady() const
+{
+    return m_isReady;
 }
 
 QComboBox* FileBrowserPage::makeFilters()
@@ -102,4 +127,11 @@ void FileBrowserPage::showSelection()
     if (files.size() > shownNames)
         names = tr("%1 and %2 more").arg(names).arg(files.size() - shownNames);
     m_selection->setText(tr("Selected: %1").arg(names));
+}
+
+} // namespace
+
+GalleryPage* makeFileBrowserPage(QWidget* parent, const QStringList& directories)
+{
+    return new FileBrowserPage(parent, directories);
 }

@@ -1,9 +1,10 @@
-#include "FramesPage.h"
-
+#include "GalleryPage.h"
+#include "Pages.h"
 #include "Picture.h"
 
 #include <ui/CRoundedFrame.h>
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -30,7 +31,18 @@ QLabel* makeRibbon(const QString& text, QWidget* card)
     return ribbon;
 }
 
-} // namespace
+/// ui::CRoundedFrame plain, raised, sunken and filled, and masked over a picture.
+class FramesPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(FramesPage)
+
+public:
+    explicit FramesPage(QWidget* parent = nullptr);
+
+private:
+    ui::CRoundedFrame* makeFrame(const QString& name);
+    QWidget* makeMaskedFrame();
+};
 
 FramesPage::FramesPage(QWidget* parent)
     : GalleryPage(parent)
@@ -65,7 +77,7 @@ ui::CRoundedFrame* FramesPage::makeFrame(const QString& name)
     label->setAlignment(Qt::AlignCenter);
     auto* layout = new QGridLayout(frame);
     layout->addWidget(label);
-    addExhibit(frame, name);
+    addDemoWidget(frame, name);
     return frame;
 }
 
@@ -84,11 +96,18 @@ QWidget* FramesPage::makeMaskedFrame()
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(0, ribbonHeight, 0, 0);
     column->addWidget(text);
-    addExhibit(card, tr("Masked"));
+    addDemoWidget(card, tr("Masked"));
 
     auto* picture = new Picture;
     picture->setFixedHeight(pictureHeight);
     auto* stage = new QGridLayout(picture);
     stage->addWidget(card, 0, 0, Qt::AlignCenter);
     return picture;
+}
+
+} // namespace
+
+GalleryPage* makeFramesPage(QWidget* parent)
+{
+    return new FramesPage(parent);
 }

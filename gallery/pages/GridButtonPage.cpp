@@ -1,7 +1,9 @@
-#include "GridButtonPage.h"
+#include "GalleryPage.h"
+#include "Pages.h"
 
 #include <ui/CGridArrangedButton.h>
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
@@ -32,7 +34,21 @@ QLabel* makeIcon(const QString& fileName)
     return label;
 }
 
-} // namespace
+/// ui::CGridArrangedButton with titles, values and icons.
+class GridButtonPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(GridButtonPage)
+
+public:
+    explicit GridButtonPage(QWidget* parent = nullptr);
+
+private:
+    ui::CGridArrangedButton* makeWideButton();
+    ui::CGridArrangedButton* makeTile(const QString& fileName, const QString& title);
+    void present(ui::CGridArrangedButton* button, const QString& name);
+
+    QLabel* m_report;
+};
 
 GridButtonPage::GridButtonPage(QWidget* parent)
     : GalleryPage(parent)
@@ -77,7 +93,14 @@ ui::CGridArrangedButton* GridButtonPage::makeTile(const QString& fileName, const
 void GridButtonPage::present(ui::CGridArrangedButton* button, const QString& name)
 {
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    addExhibit(button, name);
+    addDemoWidget(button, name);
     connect(button, &QPushButton::clicked, this,
             [this, name] { m_report->setText(tr("You tapped \"%1\".").arg(name)); });
+}
+
+} // namespace
+
+GalleryPage* makeGridButtonPage(QWidget* parent)
+{
+    return new GridButtonPage(parent);
 }

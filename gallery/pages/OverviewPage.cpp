@@ -1,6 +1,8 @@
-#include "OverviewPage.h"
+#include "GalleryPage.h"
+#include "Pages.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
@@ -47,7 +49,17 @@ QLayout* makeIcon(const QString& fileName)
     return column;
 }
 
-} // namespace
+/// What the library is, its version and Qt's, and the icons that it carries.
+class OverviewPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(OverviewPage)
+
+public:
+    explicit OverviewPage(QWidget* parent = nullptr);
+
+private:
+    static QLayout* makeIcons();
+};
 
 OverviewPage::OverviewPage(QWidget* parent)
     : GalleryPage(parent)
@@ -80,4 +92,11 @@ QLayout* OverviewPage::makeIcons()
         row->addLayout(makeIcon(QString::fromLatin1(fileName)));
     row->addStretch();
     return row;
+}
+
+} // namespace
+
+GalleryPage* makeOverviewPage(QWidget* parent)
+{
+    return new OverviewPage(parent);
 }

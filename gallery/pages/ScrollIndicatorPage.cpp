@@ -1,11 +1,12 @@
-#include "ScrollIndicatorPage.h"
-
+#include "GalleryPage.h"
+#include "Pages.h"
 #include "Picture.h"
 #include "Touch.h"
 
 #include <ui/ScrollIndicatorBar.h>
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScroller>
@@ -26,14 +27,27 @@ QWidget* makeRows()
     auto* column = new QVBoxLayout(rows);
     column->setSpacing(0);
     for (int number = 1; number <= listLength; ++number) {
-        auto* row = new QLabel(ScrollIndicatorPage::tr("Track %1").arg(number));
-        row->setMinimumHeight(touch::fingerSize);
+        auto* row =
+            new QLabel(QCoreApplication::translate("ScrollIndicatorPage", "Track %1").arg(number));
+        row->setMinimumHeight(touch::touchSize);
         column->addWidget(row);
     }
     return rows;
 }
 
-} // namespace
+/// ui::widgets::ScrollIndicatorBar on areas that are dragged by touch, highlighted while they move.
+class ScrollIndicatorPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(ScrollIndicatorPage)
+
+public:
+    explicit ScrollIndicatorPage(QWidget* parent = nullptr);
+
+private:
+    QScrollArea* makeList();
+    QScrollArea* makePanorama();
+    void addIndicator(QScrollArea* area, Qt::Orientation orientation, const QString& name);
+};
 
 ScrollIndicatorPage::ScrollIndicatorPage(QWidget* parent)
     : GalleryPage(parent)
@@ -84,7 +98,7 @@ void ScrollIndicatorPage::addIndicator(QScrollArea* area, Qt::Orientation orient
         area->setVerticalScrollBar(indicator);
     else
         area->setHorizontalScrollBar(indicator);
-    addExhibit(indicator, name);
+    addDemoWidget(indicator, name);
 
     touch::makeScrollable(area);
     connect(QScroller::scroller(area->viewport()), &QScroller::stateChanged, indicator,
@@ -92,4 +106,11 @@ void ScrollIndicatorPage::addIndicator(QScrollArea* area, Qt::Orientation orient
                 indicator->setHighlightBar(state == QScroller::Dragging
                                            || state == QScroller::Scrolling);
             });
+}
+
+} // namespace
+
+GalleryPage* makeScrollIndicatorPage(QWidget* parent)
+{
+    return new ScrollIndicatorPage(parent);
 }

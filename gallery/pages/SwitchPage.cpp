@@ -1,11 +1,12 @@
-#include "SwitchPage.h"
-
 #include "ColouredSwitch.h"
+#include "GalleryPage.h"
+#include "Pages.h"
 
 #include <Switch.h>
 
 #include <QBoxLayout>
 #include <QButtonGroup>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -25,7 +26,25 @@ QLabel* makeCaption(const QString& text)
     return label;
 }
 
-} // namespace
+/// The switch in all its states, in colours and times of the application's choice, and in a group.
+class SwitchPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(SwitchPage)
+
+public:
+    explicit SwitchPage(QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    Switch* addSwitch(Switch* control, const QString& name);
+    QLayout* makePlain();
+    QLayout* makeLabelled();
+    QLayout* makeCustom();
+    QLayout* makeGroup();
+    void followPalette();
+};
 
 SwitchPage::SwitchPage(QWidget* parent)
     : GalleryPage(parent)
@@ -46,7 +65,7 @@ SwitchPage::SwitchPage(QWidget* parent)
 
 Switch* SwitchPage::addSwitch(Switch* control, const QString& name)
 {
-    addExhibit(control, name);
+    addDemoWidget(control, name);
     return control;
 }
 
@@ -144,4 +163,11 @@ void SwitchPage::changeEvent(QEvent* event)
     if (event->type() == QEvent::PaletteChange)
         followPalette();
     GalleryPage::changeEvent(event);
+}
+
+} // namespace
+
+GalleryPage* makeSwitchPage(QWidget* parent)
+{
+    return new SwitchPage(parent);
 }

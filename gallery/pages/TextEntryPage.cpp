@@ -1,11 +1,13 @@
-#include "TextEntryPage.h"
-
+#include "GalleryPage.h"
+#include "Pages.h"
 #include "Touch.h"
 
+#include <ui/keyboard/KeyboardType.h>
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QDoubleValidator>
 #include <QGridLayout>
 #include <QLabel>
@@ -44,7 +46,30 @@ QLabel* makeLabel(KeypadLineEdit* field)
     return label;
 }
 
-} // namespace
+/// A settings form of keypad line edits; those at the bottom show where a keypad goes for want of
+/// room.
+class TextEntryPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(TextEntryPage)
+
+public:
+    explicit TextEntryPage(QWidget* parent = nullptr);
+
+private:
+    ui::KeypadLineEdit* makeAddress();
+    ui::KeypadLineEdit* makeTemperature();
+    ui::KeypadLineEdit* makeName();
+    ui::KeypadLineEdit* makePin();
+    ui::KeypadLineEdit* makeNumber(const QString& title, int number, int highest);
+
+    /// A field whose keypad is titled \a title; takes \a validator.
+    ui::KeypadLineEdit* makeField(const QString& title, ui::keyboard::KeyboardType type,
+                                  QValidator* validator);
+    static void addRow(QGridLayout* form, ui::KeypadLineEdit* field);
+    static void addPair(QBoxLayout* row, ui::KeypadLineEdit* field);
+
+    QLabel* m_report;
+};
 
 TextEntryPage::TextEntryPage(QWidget* parent)
     : GalleryPage(parent)
@@ -131,7 +156,7 @@ KeypadLineEdit* TextEntryPage::makeField(const QString& title, KeyboardType type
     auto* field = new KeypadLineEdit(this, type);
     validator->setParent(field);
     field->setValidator(validator);
-    field->setMinimumHeight(touch::fingerSize);
+    field->setMinimumHeight(touch::touchSize);
     field->setTextMargins(textMargin, 0, textMargin, 0);
     field->setAccessibleName(title);
     connect(field, &KeypadLineEdit::startKeypad, this,
@@ -139,7 +164,7 @@ KeypadLineEdit* TextEntryPage::makeField(const QString& title, KeyboardType type
     connect(field, &ui::LineEdit::valueChanged, this, [this, field, title] {
         m_report->setText(tr("%1: %2").arg(title, field->displayText()));
     });
-    addExhibit(field, title);
+    addDemoWidget(field, title);
     return field;
 }
 
@@ -155,4 +180,11 @@ void TextEntryPage::addPair(QBoxLayout* row, KeypadLineEdit* field)
 {
     row->addWidget(makeLabel(field));
     row->addWidget(field);
+}
+
+} // namespace
+
+GalleryPage* makeTextEntryPage(QWidget* parent)
+{
+    return new TextEntryPage(parent);
 }

@@ -1,8 +1,6 @@
-#include "AnimationEditor.h"
+#include "FoldoutEditors.h"
 
-#include "EasingCurveEditor.h"
-#include "IntEditor.h"
-#include "PartsForm.h"
+#include "SimpleEditors.h"
 #include "Switch.h"
 
 #include <QComboBox>

@@ -1,6 +1,5 @@
-#include "ColorEditor.h"
+#include "FoldoutEditors.h"
 
-#include "PartsForm.h"
 #include "Touch.h"
 
 #include <QBoxLayout>
@@ -16,7 +15,7 @@ namespace {
 constexpr int swatchExtent = 32;
 constexpr int channelMaximum = 255;
 
-/// The colour on a chequered ground, which shows how transparent it is.
+/// The colour on a chequered background, which shows how transparent it is.
 QPixmap swatch(const QColor& color)
 {
     constexpr int square = swatchExtent / 4;
@@ -61,7 +60,7 @@ QWidget* ColorEditor::makeBody()
 {
     auto* form = new PartsForm;
     m_name = new QLineEdit;
-    m_name->setMinimumHeight(touch::fingerSize);
+    m_name->setMinimumHeight(touch::touchSize);
     connect(m_name, &QLineEdit::textEdited, this, &ColorEditor::enterName);
     form->addPart(m_name);
 

@@ -1,4 +1,4 @@
-#include "FlagsEditor.h"
+#include "FoldoutEditors.h"
 
 #include "Touch.h"
 

@@ -3,6 +3,8 @@
 #include "Touch.h"
 
 #include <QBoxLayout>
+#include <QFormLayout>
+#include <QLabel>
 #include <QToolButton>
 
 FoldoutEditor::FoldoutEditor(QWidget* parent)
@@ -46,4 +48,25 @@ void FoldoutEditor::unfold(bool open)
         fillBody(m_value);
     }
     m_body->setVisible(open);
+}
+
+PartsForm::PartsForm(QWidget* parent)
+    : QWidget(parent)
+    , m_layout(new QFormLayout(this))
+{
+    m_layout->setContentsMargins(0, 2, 0, 0);
+    m_layout->setSpacing(2);
+    m_layout->setHorizontalSpacing(8);
+}
+
+void PartsForm::addPart(QWidget* editor)
+{
+    m_layout->addRow(editor);
+}
+
+void PartsForm::addPart(const QString& name, QWidget* editor)
+{
+    auto* label = new QLabel(name);
+    label->setMinimumHeight(touch::touchSize); // centred beside an editor of that height
+    m_layout->addRow(label, editor);
 }

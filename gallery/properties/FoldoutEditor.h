@@ -2,12 +2,15 @@
 
 #include "ValueEditor.h"
 
+#include <QWidget>
+
 QT_BEGIN_NAMESPACE
 class QBoxLayout;
+class QFormLayout;
 class QToolButton;
 QT_END_NAMESPACE
 
-/// An editor of a value with several parts: a button with a summary, which unfolds the editors of the parts.
+/// An editor of a value with several parts: a button with a summary, which unfolds their editors.
 class FoldoutEditor : public ValueEditor
 {
     Q_OBJECT
@@ -38,4 +41,19 @@ private:
     QBoxLayout* m_header;
     QToolButton* m_button;
     QWidget* m_body;
+};
+
+/// The parts of a value, each with its name, below the summary of a FoldoutEditor.
+class PartsForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PartsForm(QWidget* parent = nullptr);
+
+    void addPart(QWidget* editor);
+    void addPart(const QString& name, QWidget* editor);
+
+private:
+    QFormLayout* m_layout;
 };

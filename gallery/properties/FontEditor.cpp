@@ -1,8 +1,6 @@
-#include "FontEditor.h"
+#include "FoldoutEditors.h"
 
-#include "BoolEditor.h"
-#include "IntEditor.h"
-#include "PartsForm.h"
+#include "SimpleEditors.h"
 #include "Touch.h"
 
 #include <QFont>

@@ -23,9 +23,9 @@ PropertyEditor::PropertyEditor(QWidget* parent)
     , m_groupLayout(nullptr)
     , m_dynamicGroup(nullptr)
 {
-    m_choice->setObjectName(QStringLiteral("exhibitChoice"));
+    m_choice->setObjectName(QStringLiteral("widgetChoice"));
     connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            &PropertyEditor::showExhibit);
+            &PropertyEditor::showDemoWidget);
 
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setWidgetResizable(true);
@@ -39,16 +39,16 @@ PropertyEditor::PropertyEditor(QWidget* parent)
     column->addWidget(m_area, 1);
 }
 
-void PropertyEditor::setExhibits(const QList<GalleryPage::Exhibit>& exhibits)
+void PropertyEditor::setDemoWidgets(const QList<GalleryPage::DemoWidget>& demoWidgets)
 {
     m_choice->clear();
     m_widgets.clear();
-    for (const GalleryPage::Exhibit& exhibit : exhibits) {
-        m_widgets.append(exhibit.widget);
-        m_choice->addItem(exhibit.name); // the first one becomes the current one
+    for (const GalleryPage::DemoWidget& demoWidget : demoWidgets) {
+        m_widgets.append(demoWidget.widget);
+        m_choice->addItem(demoWidget.name); // the first one becomes the current one
     }
-    if (exhibits.isEmpty())
-        showExhibit(-1);
+    if (demoWidgets.isEmpty())
+        showDemoWidget(-1);
 }
 
 QWidget* PropertyEditor::target() const
@@ -91,7 +91,7 @@ void PropertyEditor::timerEvent(QTimerEvent* event)
         refresh();
 }
 
-void PropertyEditor::showExhibit(int index)
+void PropertyEditor::showDemoWidget(int index)
 {
     m_target = m_widgets.value(index);
     makeGroups();

@@ -16,8 +16,8 @@ class QVBoxLayout;
 QT_END_NAMESPACE
 
 /**
- * Edits the Qt properties of one of several widgets, straight from its meta-object: a group per class,
- * a row per property.
+ * Edits the Qt properties of one of several widgets, straight from its meta-object: a group per
+ * class, a row per property.
  *
  * What a widget changes by itself is shown while the editor is visible, a few times a second.
  */
@@ -28,13 +28,13 @@ class PropertyEditor : public QWidget
 public:
     explicit PropertyEditor(QWidget* parent = nullptr);
 
-    /// Offers the widgets of \a exhibits, and shows the first of them.
-    void setExhibits(const QList<GalleryPage::Exhibit>& exhibits);
+    /// Offers the widgets of \a demo widgets, and shows the first of them.
+    void setDemoWidgets(const QList<GalleryPage::DemoWidget>& demoWidgets);
 
     /// The widget whose properties are shown; null if there is none.
     QWidget* target() const;
 
-    /// Shows the properties of \a widget; nothing happens if it is not among the exhibits.
+    /// Shows the properties of \a widget; nothing happens if it is not among the demo widgets.
     void setTarget(QWidget* widget);
 
     /// Shows the values that the properties have now.
@@ -46,7 +46,7 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    void showExhibit(int index);
+    void showDemoWidget(int index);
     void makeGroups();
     void replaceContents(QWidget* contents);
     PropertyGroup* addGroup(int position, const ClassProperties& properties);

@@ -9,7 +9,8 @@ QT_BEGIN_NAMESPACE
 class QToolButton;
 QT_END_NAMESPACE
 
-/// Properties of an object under a common heading that folds them away. Rows are made at the first unfolding.
+/// Properties of an object under a common heading that folds them away. Rows are made at the first
+/// unfolding.
 class PropertyGroup : public QWidget
 {
     Q_OBJECT
@@ -28,7 +29,7 @@ public:
     void refresh();
 
 Q_SIGNALS:
-    /// The visitor has set a property.
+    /// The user has set a property.
     void edited();
 
 private:

@@ -15,8 +15,8 @@ struct ClassProperties
 };
 
 /**
- * The readable properties of \a object by class, its own class first; classes without any are left out.
- * A property that a class declares again is listed with that class alone.
+ * The readable properties of \a object by class, its own class first; classes without any are left
+ * out. A property that a class declares again is listed with that class alone.
  */
 QVector<ClassProperties> propertiesByClass(const QObject& object);
 

@@ -2,7 +2,6 @@
 
 #include "Touch.h"
 #include "ValueEditor.h"
-#include "ValueEditors.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -21,7 +21,7 @@ public:
     void refresh();
 
 Q_SIGNALS:
-    /// The visitor has set the property, and the row shows what has come of it.
+    /// The user has set the property, and the row shows what has come of it.
     void edited();
 
 private:

@@ -1,7 +1,6 @@
-#include "TupleEditor.h"
+#include "FoldoutEditors.h"
 
-#include "IntEditor.h"
-#include "PartsForm.h"
+#include "SimpleEditors.h"
 #include "ValueText.h"
 
 #include <QRect>

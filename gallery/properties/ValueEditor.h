@@ -4,7 +4,7 @@
 #include <QWidget>
 
 /**
- * Shows a value of one type and lets the visitor edit it.
+ * Shows a value of one type and lets the user edit it.
  *
  * An editor holds no truth of its own: it announces what was entered, and shows what it is told.
  */
@@ -24,3 +24,7 @@ public:
 Q_SIGNALS:
     void edited(const QVariant& value);
 };
+
+/// An editor fit for the property \a name of \a object, or a read-only display if it cannot be
+/// edited.
+ValueEditor* makeValueEditor(const QObject& object, const QByteArray& name);

@@ -1,8 +1,9 @@
 #include "ClassPictures.h"
 
+#include "Appearance.h"
 #include "Rendering.h"
-#include "StateGround.h"
 
+#include <QBoxLayout>
 #include <QCoreApplication>
 #include <QDir>
 #include <QGridLayout>
@@ -17,9 +18,20 @@ constexpr int captionSpacing = 4;
 constexpr int captionPixelSize = 12;
 constexpr QRgb captionColor = 0xff50555a;
 
-/// Of a row of states: the grounds, the captions and the space below.
+/// Of a row of states: the backbackgrounds, the captions and the space below.
 constexpr int gridRows = 3;
 constexpr int rowSpacing = 8;
+constexpr int backgroundMargin = 16;
+
+/// A parent that fits tightly: a crumb's place in its parent shifts what it paints.
+QWidget* hold(QWidget* widget)
+{
+    auto* holder = new QWidget;
+    auto* layout = new QVBoxLayout(holder);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(widget);
+    return holder;
+}
 
 QLabel* makeCaption(const QString& text)
 {
@@ -35,13 +47,13 @@ QLabel* makeCaption(const QString& text)
     return caption;
 }
 
-void fill(QGridLayout* grid, const ClassSheet& sheet)
+void fill(QGridLayout* grid, const StateGallery& gallery)
 {
-    for (int i = 0; i < sheet.states.size(); ++i) {
-        const ClassState& state = sheet.states.at(i);
-        const int row = gridRows * (i / sheet.columns);
-        const int column = i % sheet.columns;
-        grid->addWidget(new StateGround(state), row, column);
+    for (int i = 0; i < gallery.states.size(); ++i) {
+        const ClassState& state = gallery.states.at(i);
+        const int row = gridRows * (i / gallery.columns);
+        const int column = i % gallery.columns;
+        grid->addWidget(new StateBackground(state), row, column);
         grid->addWidget(makeCaption(state.caption), row + 1, column);
         grid->setRowMinimumHeight(row + 2, rowSpacing);
         grid->setColumnStretch(column, 1);
@@ -50,7 +62,20 @@ void fill(QGridLayout* grid, const ClassSheet& sheet)
 
 } // namespace
 
-QImage classPicture(const ClassSheet& sheet)
+StateBackground::StateBackground(const ClassState& state, QWidget* parent)
+    : QWidget(parent)
+{
+    setPalette(state.background == ClassState::Dark ? Appearance::darkPalette()
+                                                    : Appearance::lightPalette());
+    setAutoFillBackground(true);
+    setLayoutDirection(state.direction);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(backgroundMargin, backgroundMargin, backgroundMargin,
+                               backgroundMargin);
+    layout->addWidget(hold(state.make()), 0, Qt::AlignCenter);
+}
+
+QImage classPicture(const StateGallery& gallery)
 {
     QWidget stage; // a window itself would be kept smaller than the screen
     auto* page = new QWidget(&stage);
@@ -59,19 +84,19 @@ QImage classPicture(const ClassSheet& sheet)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(columnSpacing);
     grid->setVerticalSpacing(captionSpacing);
-    fill(grid, sheet);
+    fill(grid, gallery);
     page->resize(page->sizeHint());
     rendering::showUnseen(&stage);
     return rendering::pictureOf(page, 1.0);
 }
 
-bool takeClassPictures(const QVector<ClassSheet>& sheets, const QDir& directory, QTextStream& out,
-                       QString* error)
+bool takeClassPictures(const QVector<StateGallery>& galleries, const QDir& directory,
+                       QTextStream& out, QString* error)
 {
     const QDir target(directory.absolutePath()); // a state may change the current directory
-    for (const ClassSheet& sheet : sheets) {
-        const QString path = target.filePath(sheet.className + QStringLiteral(".png"));
-        if (!classPicture(sheet).save(path)) {
+    for (const StateGallery& gallery : galleries) {
+        const QString path = target.filePath(gallery.className + QStringLiteral(".png"));
+        if (!classPicture(gallery).save(path)) {
             *error = QCoreApplication::translate("ClassPictures", "cannot write \"%1\"")
                          .arg(QDir::toNativeSeparators(path));
             return false;

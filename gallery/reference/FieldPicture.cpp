@@ -52,7 +52,7 @@ QPixmap together(QWidget* window, QWidget* popup)
 QPixmap fieldpicture::edited(ui::LineEdit* field, const QString& text)
 {
     FieldWindow window(field);
-    rendering::settle();
+    QCoreApplication::processEvents();
     type(text, field);
     return window.grab();
 }
@@ -60,8 +60,8 @@ QPixmap fieldpicture::edited(ui::LineEdit* field, const QString& text)
 QPixmap fieldpicture::edited(ui::KeypadLineEdit* field, const QString& text)
 {
     FieldWindow window(field);
-    field->keypad()->setAttribute(Qt::WA_DontShowOnScreen); // before it is shown, in the next turn
-    rendering::settle();
+    field->keypad()->setAttribute(Qt::WA_DontShowOnScreen); // before the event loop shows it
+    rendering::waitUntil([field] { return field->keypad()->isVisible(); });
     type(text, field);
     return together(&window, field->keypad());
 }

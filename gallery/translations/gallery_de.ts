@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>AnimationGalleries</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, forwards</source>
+        <translation>%1 ms, vorwärts</translation>
+    </message>
+    <message>
+        <source>%1 ms, back</source>
+        <translation>%1 ms, zurück</translation>
+    </message>
+</context>
+<context>
     <name>AnimationPage</name>
     <message>
         <source>Each animation runs to its end, turns round and runs back.</source>
@@ -40,69 +55,7 @@
     </message>
 </context>
 <context>
-    <name>AnimationSheets</name>
-    <message>
-        <source>%1 ms</source>
-        <translation>%1 ms</translation>
-    </message>
-    <message>
-        <source>%1 ms, forwards</source>
-        <translation>%1 ms, vorwärts</translation>
-    </message>
-    <message>
-        <source>%1 ms, back</source>
-        <translation>%1 ms, zurück</translation>
-    </message>
-</context>
-<context>
-    <name>BatteryPage</name>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Absent</source>
-        <translation>Fehlt</translation>
-    </message>
-    <message>
-        <source>This machine</source>
-        <translation>Dieses Gerät</translation>
-    </message>
-    <message>
-        <source>Charging</source>
-        <translation>Lädt</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Grün</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Rot</translation>
-    </message>
-    <message>
-        <source>Frame %1</source>
-        <translation>Rahmen %1</translation>
-    </message>
-    <message>
-        <source>Small</source>
-        <translation>Klein</translation>
-    </message>
-    <message>
-        <source>Try me</source>
-        <translation>Probier mich</translation>
-    </message>
-    <message>
-        <source>Height for width</source>
-        <translation>Höhe nach Breite</translation>
-    </message>
-    <message>
-        <source>Present</source>
-        <translation>Vorhanden</translation>
-    </message>
-</context>
-<context>
-    <name>BatterySheet</name>
+    <name>BatteryGallery</name>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
@@ -141,6 +94,53 @@
     </message>
 </context>
 <context>
+    <name>BatteryPage</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>This device</source>
+        <translation>Dieses Gerät</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Lädt</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Rahmen %1</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Try me</source>
+        <translation>Probier mich</translation>
+    </message>
+    <message>
+        <source>Height for width</source>
+        <translation>Höhe nach Breite</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Vorhanden</translation>
+    </message>
+</context>
+<context>
     <name>ClassPictures</name>
     <message>
         <source>cannot write &quot;%1&quot;</source>
@@ -171,7 +171,7 @@
     </message>
 </context>
 <context>
-    <name>ContainerSheets</name>
+    <name>ContainerGalleries</name>
     <message>
         <source>USB stick</source>
         <translation>USB-Stick</translation>
@@ -242,7 +242,7 @@
     </message>
 </context>
 <context>
-    <name>CrumbSheets</name>
+    <name>CrumbGalleries</name>
     <message>
         <source>Two components below the root</source>
         <translation>Zwei Teile unter der Wurzel</translation>
@@ -336,7 +336,7 @@
     </message>
 </context>
 <context>
-    <name>FileSheets</name>
+    <name>FileGalleries</name>
     <message>
         <source>Tile view</source>
         <translation>Kachelansicht</translation>
@@ -659,26 +659,7 @@
     </message>
 </context>
 <context>
-    <name>ScrollIndicatorPage</name>
-    <message>
-        <source>Track %1</source>
-        <translation>Titel %1</translation>
-    </message>
-    <message>
-        <source>Drag the list and the picture: their indicators light up while they move.</source>
-        <translation>Ziehen Sie die Liste und das Bild: Ihre Anzeigen leuchten auf, solange sie sich bewegen.</translation>
-    </message>
-    <message>
-        <source>Vertical indicator</source>
-        <translation>Senkrechte Anzeige</translation>
-    </message>
-    <message>
-        <source>Horizontal indicator</source>
-        <translation>Waagrechte Anzeige</translation>
-    </message>
-</context>
-<context>
-    <name>ScrollIndicatorSheet</name>
+    <name>ScrollIndicatorGallery</name>
     <message>
         <source>At the top</source>
         <translation>Ganz oben</translation>
@@ -726,6 +707,25 @@
     <message>
         <source>Right to left, near the start</source>
         <translation>Rechts nach links, nahe dem Anfang</translation>
+    </message>
+</context>
+<context>
+    <name>ScrollIndicatorPage</name>
+    <message>
+        <source>Track %1</source>
+        <translation>Titel %1</translation>
+    </message>
+    <message>
+        <source>Drag the list and the picture: their indicators light up while they move.</source>
+        <translation>Ziehen Sie die Liste und das Bild: Ihre Anzeigen leuchten auf, solange sie sich bewegen.</translation>
+    </message>
+    <message>
+        <source>Vertical indicator</source>
+        <translation>Senkrechte Anzeige</translation>
+    </message>
+    <message>
+        <source>Horizontal indicator</source>
+        <translation>Waagrechte Anzeige</translation>
     </message>
 </context>
 <context>
@@ -886,7 +886,7 @@
     </message>
 </context>
 <context>
-    <name>TextSheets</name>
+    <name>TextGalleries</name>
     <message>
         <source>Port, 1 to %1</source>
         <translation>Port, 1 bis %1</translation>
@@ -953,7 +953,7 @@
     </message>
 </context>
 <context>
-    <name>ToggleSheets</name>
+    <name>ToggleGalleries</name>
     <message>
         <source>Wi-Fi</source>
         <translation>WLAN</translation>

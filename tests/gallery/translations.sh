@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks that a translation has every text of the sources, finished, and no other: ./dev translate would
-# change nothing in it.
+# Checks that a translation has every text of the sources, finished, and no other: ./dev translate
+# would change nothing in it.
 #
 # usage: translations.sh SOURCE_DIR LANGUAGE
 set -euo pipefail

@@ -1,6 +1,7 @@
 #include "TestApplication.h"
 
-#include <pages/AnimationPage.h>
+#include "GalleryPage.h"
+#include "pages/Pages.h"
 #include <pages/Beacon.h>
 
 #include <QPropertyAnimation>
@@ -17,8 +18,8 @@ private Q_SLOTS:
 
 void tst_AnimationPage::pulsesBackAndForth()
 {
-    AnimationPage page;
-    auto* beacon = page.findChild<Beacon*>();
+    const std::unique_ptr<GalleryPage> page(makeAnimationPage(nullptr));
+    auto* beacon = page->findChild<Beacon*>();
     QVERIFY(beacon);
     auto* pulse = beacon->findChild<QPropertyAnimation*>();
     QVERIFY(pulse);
@@ -33,9 +34,9 @@ void tst_AnimationPage::pulsesBackAndForth()
 
 void tst_AnimationPage::stopsAndStarts()
 {
-    AnimationPage page;
-    auto* pulse = page.findChild<Beacon*>()->findChild<QPropertyAnimation*>();
-    auto* button = page.findChild<QPushButton*>();
+    const std::unique_ptr<GalleryPage> page(makeAnimationPage(nullptr));
+    auto* pulse = page->findChild<Beacon*>()->findChild<QPropertyAnimation*>();
+    auto* button = page->findChild<QPushButton*>();
     QVERIFY(button);
     button->click();
     QCOMPARE(pulse->state(), QAbstractAnimation::Stopped);
@@ -51,3 +52,5 @@ int main(int argc, char** argv)
 }
 
 #include "tst_AnimationPage.moc"
+
+#include <memory>

@@ -1,4 +1,5 @@
-#include "pages/BatteryPage.h"
+#include "GalleryPage.h"
+#include "pages/Pages.h"
 #include "Painting.h"
 #include "PowerSupplyTree.h"
 #include "TestApplication.h"
@@ -15,9 +16,9 @@ namespace {
 /// The area that the gallery gives its pages.
 constexpr QSize pageSize(420, 420);
 
-CBatteryStatusWidget* exhibit(const BatteryPage& page, const QString& name)
+CBatteryStatusWidget* demoWidget(const GalleryPage& page, const QString& name)
 {
-    for (const GalleryPage::Exhibit& candidate : page.exhibits()) {
+    for (const GalleryPage::DemoWidget& candidate : page.demoWidgets()) {
         if (candidate.name == name)
             return qobject_cast<CBatteryStatusWidget*>(candidate.widget);
     }
@@ -46,78 +47,79 @@ private Q_SLOTS:
     void fitsItsArea();
     void showsEveryKind();
     void columnKeepsTheShape();
-    void machineBatteryIsAbsentWithoutOne();
-    void machineBatteryIsFollowed();
+    void systemBatteryIsAbsentWithoutOne();
+    void systemBatteryIsFollowed();
     void controlsMoveTheirBattery();
 };
 
 void tst_BatteryPage::fitsItsArea()
 {
-    const BatteryPage page;
-    const QSize least = page.minimumSizeHint();
+    const std::unique_ptr<GalleryPage> page(makeBatteryPage(nullptr));
+    const QSize least = page->minimumSizeHint();
     QVERIFY2(least.width() <= pageSize.width(), qPrintable(QString::number(least.width())));
     QVERIFY2(least.height() <= pageSize.height(), qPrintable(QString::number(least.height())));
 }
 
 void tst_BatteryPage::showsEveryKind()
 {
-    BatteryPage page;
-    QVERIFY(looksLike(exhibit(page, QStringLiteral("0 %")), 0, true, false));
-    QVERIFY(looksLike(exhibit(page, QStringLiteral("50 %")), 50, true, false));
-    QVERIFY(looksLike(exhibit(page, QStringLiteral("100 %")), 100, true, false));
-    QVERIFY(looksLike(exhibit(page, QStringLiteral("Absent")), 0, false, false));
-    QVERIFY(looksLike(exhibit(page, QStringLiteral("Charging")), 60, true, true));
+    const std::unique_ptr<GalleryPage> page(makeBatteryPage(nullptr));
+    QVERIFY(looksLike(demoWidget(*page, QStringLiteral("0 %")), 0, true, false));
+    QVERIFY(looksLike(demoWidget(*page, QStringLiteral("50 %")), 50, true, false));
+    QVERIFY(looksLike(demoWidget(*page, QStringLiteral("100 %")), 100, true, false));
+    QVERIFY(looksLike(demoWidget(*page, QStringLiteral("Absent")), 0, false, false));
+    QVERIFY(looksLike(demoWidget(*page, QStringLiteral("Charging")), 60, true, true));
     for (const char* name : {"Green", "Red", "Frame 1", "Frame 2", "Frame 6", "Small", "Try me"})
-        QVERIFY2(exhibit(page, QString::fromLatin1(name)), name);
+        QVERIFY2(demoWidget(*page, QString::fromLatin1(name)), name);
 }
 
 void tst_BatteryPage::columnKeepsTheShape()
 {
     QWidget window;
-    BatteryPage page(&window);
-    page.resize(pageSize);
+    GalleryPage* page = makeBatteryPage(&window);
+    page->resize(pageSize);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const CBatteryStatusWidget* const battery = exhibit(page, QStringLiteral("Height for width"));
+    const CBatteryStatusWidget* const battery =
+        demoWidget(*page, QStringLiteral("Height for width"));
     QVERIFY(battery);
     QCOMPARE(battery->height(), battery->heightForWidth(battery->width()));
 }
 
-void tst_BatteryPage::machineBatteryIsAbsentWithoutOne()
+void tst_BatteryPage::systemBatteryIsAbsentWithoutOne()
 {
     const PowerSupplyTree tree;
     QWidget window;
-    BatteryPage page(&window, MachineBattery(tree.path()));
+    GalleryPage* page = makeBatteryPage(&window, SystemBattery(tree.path()));
     window.show();
-    QVERIFY(looksLike(exhibit(page, QStringLiteral("This machine")), 0, false, false));
+    QVERIFY(looksLike(demoWidget(*page, QStringLiteral("This device")), 0, false, false));
 }
 
-void tst_BatteryPage::machineBatteryIsFollowed()
+void tst_BatteryPage::systemBatteryIsFollowed()
 {
     PowerSupplyTree tree;
     tree.addBattery("BAT0", "64", "Charging");
     QWidget window;
-    BatteryPage page(&window, MachineBattery(tree.path()));
+    GalleryPage* page = makeBatteryPage(&window, SystemBattery(tree.path()));
     window.show();
-    CBatteryStatusWidget* const battery = exhibit(page, QStringLiteral("This machine"));
+    CBatteryStatusWidget* const battery = demoWidget(*page, QStringLiteral("This device"));
     QVERIFY(looksLike(battery, 64, true, true));
 
     tree.addBattery("BAT0", "31", "Discharging");
     QTRY_VERIFY(looksLike(battery, 31, true, false));
 
-    page.hide();
+    page->hide();
     tree.addBattery("BAT0", "12", "Discharging");
-    page.show();
+    page->show();
     QVERIFY(looksLike(battery, 12, true, false));
 }
 
 void tst_BatteryPage::controlsMoveTheirBattery()
 {
-    BatteryPage page;
-    CBatteryStatusWidget* const battery = exhibit(page, QStringLiteral("Try me"));
-    const QList<QCheckBox*> boxes = page.findChildren<QCheckBox*>();
+    const std::unique_ptr<GalleryPage> page(makeBatteryPage(nullptr));
+    CBatteryStatusWidget* const battery = demoWidget(*page, QStringLiteral("Try me"));
+    const QList<QCheckBox*> boxes = page->findChildren<QCheckBox*>();
     QCOMPARE(boxes.size(), 2);
-    page.findChild<QSlider*>()->setValue(20);
+    page->findChild<QSlider*>()->setValue(20);
     boxes.at(1)->setChecked(true);
     QVERIFY(looksLike(battery, 20, true, true));
     boxes.at(0)->setChecked(false);
@@ -130,3 +132,5 @@ int main(int argc, char** argv)
 }
 
 #include "tst_BatteryPage.moc"
+
+#include <memory>

@@ -1,8 +1,7 @@
 #include "Appearance.h"
 #include "OffscreenMessages.h"
-#include "reference/AllClassSheets.h"
 #include "reference/ClassPictures.h"
-#include "reference/StateGround.h"
+#include "reference/StateGalleries.h"
 #include "Rendering.h"
 #include "TestApplication.h"
 
@@ -33,7 +32,7 @@ QWidget* makeMark()
     return line;
 }
 
-ClassSheet sheetOf(const QVector<ClassState>& states)
+StateGallery galleryOf(const QVector<ClassState>& states)
 {
     return {QStringLiteral("Mark"), int(states.size()), states};
 }
@@ -53,15 +52,15 @@ int firstColumnOf(const QColor& color, const QImage& image)
 QVector<QImage> picturesOf(const QVector<ClassState>& states)
 {
     QWidget stage;
-    QVector<StateGround*> grounds;
+    QVector<StateBackground*> backgrounds;
     for (const ClassState& state : states) {
-        grounds.append(new StateGround(state, &stage));
-        grounds.constLast()->adjustSize();
+        backgrounds.append(new StateBackground(state, &stage));
+        backgrounds.constLast()->adjustSize();
     }
     rendering::showUnseen(&stage);
     QVector<QImage> pictures;
-    for (StateGround* ground : qAsConst(grounds))
-        pictures.append(rendering::pictureOf(ground, 1.0));
+    for (StateBackground* background : qAsConst(backgrounds))
+        pictures.append(rendering::pictureOf(background, 1.0));
     return pictures;
 }
 
@@ -76,7 +75,7 @@ private Q_SLOTS:
     void everyClassHasPicture();
     void everyStateLooksDifferent_data();
     void everyStateLooksDifferent();
-    void grounds();
+    void backgrounds();
     void mirrors();
     void wrapsIntoRows();
     void writesFiles();
@@ -91,9 +90,9 @@ void tst_ClassPictures::initTestCase()
 void tst_ClassPictures::everyClassHasPicture()
 {
     QStringList names;
-    const QVector<ClassSheet> sheets = allClassSheets();
-    for (const ClassSheet& sheet : sheets)
-        names.append(sheet.className);
+    const QVector<StateGallery> galleries = stategalleries::all();
+    for (const StateGallery& gallery : galleries)
+        names.append(gallery.className);
     names.sort();
     QStringList expected = QStringLiteral(PUBLIC_CLASSES).split(QLatin1Char('|'));
     expected.sort();
@@ -103,30 +102,31 @@ void tst_ClassPictures::everyClassHasPicture()
 void tst_ClassPictures::everyStateLooksDifferent_data()
 {
     QTest::addColumn<int>("index");
-    const QVector<ClassSheet> sheets = allClassSheets();
-    for (int i = 0; i < sheets.size(); ++i)
-        QTest::newRow(qPrintable(sheets.at(i).className)) << i;
+    const QVector<StateGallery> galleries = stategalleries::all();
+    for (int i = 0; i < galleries.size(); ++i)
+        QTest::newRow(qPrintable(galleries.at(i).className)) << i;
 }
 
 void tst_ClassPictures::everyStateLooksDifferent()
 {
     QFETCH(int, index);
-    const ClassSheet sheet = allClassSheets().at(index);
-    const QVector<QImage> pictures = picturesOf(sheet.states);
+    const StateGallery gallery = stategalleries::all().at(index);
+    const QVector<QImage> pictures = picturesOf(gallery.states);
     QVERIFY(pictures.size() > 1);
     for (int i = 0; i < pictures.size(); ++i) {
         for (int j = 0; j < i; ++j) {
-            QVERIFY2(pictures.at(i) != pictures.at(j),
-                     qPrintable(QStringLiteral("\"%1\" looks as \"%2\"")
-                                    .arg(sheet.states.at(i).caption, sheet.states.at(j).caption)));
+            QVERIFY2(
+                pictures.at(i) != pictures.at(j),
+                qPrintable(QStringLiteral("\"%1\" looks as \"%2\"")
+                               .arg(gallery.states.at(i).caption, gallery.states.at(j).caption)));
         }
     }
 }
 
-void tst_ClassPictures::grounds()
+void tst_ClassPictures::backgrounds()
 {
     const QImage picture =
-        classPicture(sheetOf({{QString(), makeMark}, {QString(), makeMark, ClassState::Dark}}));
+        classPicture(galleryOf({{QString(), makeMark}, {QString(), makeMark, ClassState::Dark}}));
     QCOMPARE(picture.pixelColor(1, 1), Appearance::lightPalette().color(QPalette::Window));
     QCOMPARE(picture.pixelColor(picture.width() - 2, 1),
              Appearance::darkPalette().color(QPalette::Window));
@@ -135,9 +135,9 @@ void tst_ClassPictures::grounds()
 
 void tst_ClassPictures::mirrors()
 {
-    const QImage leftToRight = classPicture(sheetOf({{QString(), makeMark}}));
+    const QImage leftToRight = classPicture(galleryOf({{QString(), makeMark}}));
     const QImage rightToLeft =
-        classPicture(sheetOf({{QString(), makeMark, ClassState::Light, Qt::RightToLeft}}));
+        classPicture(galleryOf({{QString(), makeMark, ClassState::Light, Qt::RightToLeft}}));
     const int left = firstColumnOf(Qt::red, leftToRight);
     QVERIFY(left >= 0);
     QCOMPARE(firstColumnOf(Qt::red, rightToLeft), left + markWidth - markExtent);
@@ -145,10 +145,10 @@ void tst_ClassPictures::mirrors()
 
 void tst_ClassPictures::wrapsIntoRows()
 {
-    ClassSheet sheet = sheetOf(QVector<ClassState>(4, {QStringLiteral("Mark"), makeMark}));
-    const QSize row = classPicture(sheet).size();
-    sheet.columns = 2;
-    const QSize square = classPicture(sheet).size();
+    StateGallery gallery = galleryOf(QVector<ClassState>(4, {QStringLiteral("Mark"), makeMark}));
+    const QSize row = classPicture(gallery).size();
+    gallery.columns = 2;
+    const QSize square = classPicture(gallery).size();
     QVERIFY(square.width() < row.width());
     QVERIFY(square.height() > row.height());
 }
@@ -156,15 +156,15 @@ void tst_ClassPictures::wrapsIntoRows()
 void tst_ClassPictures::writesFiles()
 {
     const QTemporaryDir directory;
-    const ClassSheet sheet = sheetOf({{QString(), makeMark}});
+    const StateGallery gallery = galleryOf({{QString(), makeMark}});
     QString printed;
     QTextStream out(&printed);
     QString error;
-    QVERIFY2(takeClassPictures({sheet}, directory.path(), out, &error), qPrintable(error));
+    QVERIFY2(takeClassPictures({gallery}, directory.path(), out, &error), qPrintable(error));
     const QString path = directory.filePath(QStringLiteral("Mark.png"));
     QCOMPARE(printed, path + QLatin1Char('\n'));
     QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32),
-             classPicture(sheet).convertToFormat(QImage::Format_RGB32));
+             classPicture(gallery).convertToFormat(QImage::Format_RGB32));
 }
 
 void tst_ClassPictures::reportsUnwritableFile()
@@ -174,7 +174,7 @@ void tst_ClassPictures::reportsUnwritableFile()
     QString printed;
     QTextStream out(&printed);
     QString error;
-    QVERIFY(!takeClassPictures({sheetOf({{QString(), makeMark}})}, nowhere, out, &error));
+    QVERIFY(!takeClassPictures({galleryOf({{QString(), makeMark}})}, nowhere, out, &error));
     QCOMPARE(
         error,
         QStringLiteral("cannot write \"%1\"").arg(nowhere.filePath(QStringLiteral("Mark.png"))));

@@ -1,6 +1,6 @@
-#include "pages/FileBrowserPage.h"
+#include "GalleryPage.h"
+#include "pages/Pages.h"
 
-#include "Directories.h"
 #include "TestApplication.h"
 
 #include <ui/FileBrowserWidget.h>
@@ -41,7 +41,7 @@ private:
 
     QTemporaryDir m_dir;
     std::unique_ptr<QWidget> m_window;
-    FileBrowserPage* m_page = nullptr;
+    GalleryPage* m_page = nullptr;
     QListView* m_view = nullptr;
 };
 
@@ -54,9 +54,8 @@ void tst_FileBrowserPage::initTestCase()
 
 void tst_FileBrowserPage::init()
 {
-    setGalleryDirectories({m_dir.path()});
     m_window = std::make_unique<QWidget>();
-    m_page = new FileBrowserPage(m_window.get());
+    m_page = makeFileBrowserPage(m_window.get(), {m_dir.path()});
     m_window->resize(500, 420);
     m_page->setGeometry(m_window->rect());
     m_window->show();
@@ -69,7 +68,6 @@ void tst_FileBrowserPage::init()
 void tst_FileBrowserPage::cleanup()
 {
     m_window.reset();
-    setGalleryDirectories({});
 }
 
 void tst_FileBrowserPage::makeFile(const QString& name) const
@@ -133,9 +131,8 @@ void tst_FileBrowserPage::homeAndTopByDefault()
     const auto restore = qScopeGuard([before] { qputenv("HOME", before); });
     qputenv("HOME", QFile::encodeName(home.path()));
 
-    setGalleryDirectories({});
     delete m_page;
-    m_page = new FileBrowserPage(m_window.get());
+    m_page = makeFileBrowserPage(m_window.get());
     const QStringList homeThenTop{home.path(), QDir::rootPath()};
     const QStringList topThenHome{QDir::rootPath(), home.path()};
     QCOMPARE(roots(), homeFirst ? homeThenTop : topThenHome);
@@ -144,7 +141,7 @@ void tst_FileBrowserPage::homeAndTopByDefault()
 void tst_FileBrowserPage::namedDirectories()
 {
     QCOMPARE(roots(), QStringList{m_dir.path()});
-    QCOMPARE(m_page->exhibits().size(), 1);
+    QCOMPARE(m_page->demoWidgets().size(), 1);
 }
 
 void tst_FileBrowserPage::showsTheSelectionAsItChanges()

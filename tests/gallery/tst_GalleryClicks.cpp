@@ -3,7 +3,7 @@
 #include "GalleryWindow.h"
 #include "properties/PropertyEditor.h"
 #include "properties/PropertyRow.h"
-#include "Specimen.h"
+#include "SampleWidget.h"
 #include "TestApplication.h"
 
 #include <QAbstractItemView>
@@ -17,9 +17,9 @@
 
 namespace {
 
-GalleryPage* makeSpecimens(QWidget* parent)
+GalleryPage* makeSampleWidgets(QWidget* parent)
 {
-    return new test::SpecimenPage(parent);
+    return new test::SamplePage(parent);
 }
 
 GalleryPage* makeTall(QWidget* parent)
@@ -42,7 +42,7 @@ private Q_SLOTS:
     void dragsPage();
     void choosesPage();
     void switchesAppearance();
-    void picksExhibitAndEditsIt();
+    void picksDemoWidgetAndEditsIt();
     void dragsProperties();
     void choosesFromCombo();
 
@@ -110,7 +110,7 @@ void tst_GalleryClicks::initTestCase()
 {
     m_window = new GalleryWindow(
         {{QStringLiteral("tall"), QStringLiteral("Tall"), makeTall},
-         {QStringLiteral("specimens"), QStringLiteral("Specimens"), makeSpecimens}});
+         {QStringLiteral("samples"), QStringLiteral("SampleWidgets"), makeSampleWidgets}});
     m_properties = m_window->findChild<PropertyEditor*>();
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window));
@@ -133,7 +133,7 @@ void tst_GalleryClicks::choosesPage()
 {
     const auto* list = m_window->findChild<QListWidget*>(QStringLiteral("pageList"));
     QVERIFY(click(list->viewport(), list->visualItemRect(list->item(1)).center()));
-    QTRY_VERIFY(qobject_cast<test::SpecimenPage*>(m_window->page()));
+    QTRY_VERIFY(qobject_cast<test::SamplePage*>(m_window->page()));
     QTRY_VERIFY(m_properties->isVisible());
 }
 
@@ -151,9 +151,9 @@ void tst_GalleryClicks::switchesAppearance()
     QTRY_VERIFY(m_properties->x() > m_window->width() / 2);
 }
 
-void tst_GalleryClicks::picksExhibitAndEditsIt()
+void tst_GalleryClicks::picksDemoWidgetAndEditsIt()
 {
-    QWidget* second = m_window->page()->exhibits().at(1).widget;
+    QWidget* second = m_window->page()->demoWidgets().at(1).widget;
     QVERIFY(click(second));
     QTRY_COMPARE(m_properties->target(), second);
     QTRY_VERIFY(row("level"));
@@ -176,13 +176,13 @@ void tst_GalleryClicks::dragsProperties()
 
 void tst_GalleryClicks::choosesFromCombo()
 {
-    const auto* choice = m_properties->findChild<QComboBox*>(QStringLiteral("exhibitChoice"));
+    const auto* choice = m_properties->findChild<QComboBox*>(QStringLiteral("widgetChoice"));
     QVERIFY(click(choice));
     QTRY_VERIFY(QApplication::activePopupWidget());
     const QAbstractItemView* items = choice->view();
     QTRY_VERIFY(items->isVisible());
     QVERIFY(click(items->viewport(), items->visualRect(choice->model()->index(0, 0)).center()));
-    QTRY_COMPARE(m_properties->target(), m_window->page()->exhibits().at(0).widget);
+    QTRY_COMPARE(m_properties->target(), m_window->page()->demoWidgets().at(0).widget);
 }
 
 int main(int argc, char** argv)

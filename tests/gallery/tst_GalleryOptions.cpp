@@ -229,7 +229,7 @@ void tst_GalleryOptions::opensWindow()
     process.start(QStringLiteral(GALLERY_PROGRAM),
                   {QStringLiteral("--page"), QStringLiteral("overview"), m_directory.path()});
     QVERIFY(process.waitForStarted());
-    QVERIFY(!process.waitForFinished(2000)); // it waits for its visitor
+    QVERIFY(!process.waitForFinished(2000)); // it waits for its user
     process.terminate();
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.readAllStandardOutput(), QByteArray());

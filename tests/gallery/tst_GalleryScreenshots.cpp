@@ -1,6 +1,6 @@
 #include "Appearance.h"
+#include "SampleWidget.h"
 #include "Screenshots.h"
-#include "Specimen.h"
 #include "TestApplication.h"
 
 #include <QBoxLayout>
@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QTimer>
 
 namespace {
 
@@ -35,9 +36,29 @@ public:
     }
 };
 
+/// Red all over as soon as it is ready, which it is not when it is shown.
+class LatePage : public GalleryPage
+{
+public:
+    explicit LatePage(QWidget* parent)
+        : GalleryPage(parent)
+    {
+        setAutoFillBackground(true);
+        QTimer::singleShot(delay, this, [this] { setPalette(QPalette(Qt::red)); });
+    }
+
+    bool isReady() const override
+    {
+        return palette().color(QPalette::Window) == QColor(Qt::red);
+    }
+
+private:
+    static constexpr int delay = 30; // milliseconds
+};
+
 QVector<PageEntry> testPages()
 {
-    return {{QStringLiteral("one"), QStringLiteral("One"), make<test::SpecimenPage>},
+    return {{QStringLiteral("one"), QStringLiteral("One"), make<test::SamplePage>},
             {QStringLiteral("two"), QStringLiteral("Two"), make<MarkPage>}};
 }
 
@@ -46,7 +67,7 @@ const QStringList suffixes = {QStringLiteral("light"), QStringLiteral("light@2x"
                               QStringLiteral("disabled")};
 
 /// The corner belongs to the page's margin in every layout.
-QColor groundOf(const QImage& image)
+QColor backgroundOf(const QImage& image)
 {
     return image.pixelColor(1, 1);
 }
@@ -65,6 +86,7 @@ private Q_SLOTS:
     void mirrors();
     void disables();
     void appliesStyleSheet();
+    void waitsForPage();
     void reportsUnwritableFile();
 
 private:
@@ -113,8 +135,8 @@ void tst_GalleryScreenshots::palettes()
     const QColor light = Appearance::lightPalette().color(QPalette::Window);
     const QColor dark = Appearance::darkPalette().color(QPalette::Window);
     for (const char* suffix : {"light", "light@2x", "right-to-left", "disabled"})
-        QCOMPARE(groundOf(image(QString::fromLatin1(suffix))), light);
-    QCOMPARE(groundOf(image(QStringLiteral("dark"))), dark);
+        QCOMPARE(backgroundOf(image(QString::fromLatin1(suffix))), light);
+    QCOMPARE(backgroundOf(image(QStringLiteral("dark"))), dark);
 }
 
 void tst_GalleryScreenshots::mirrors()
@@ -152,6 +174,20 @@ void tst_GalleryScreenshots::appliesStyleSheet()
         const qreal ratio = suffix.endsWith(QLatin1String("2x")) ? 2.0 : 1.0;
         const QPoint inButton(int(20 * ratio), image.height() - 1 - int(14 * ratio));
         QCOMPARE(image.pixelColor(inButton), QColor(0x12, 0x34, 0x56));
+    }
+}
+
+void tst_GalleryScreenshots::waitsForPage()
+{
+    const QTemporaryDir directory;
+    QString printed;
+    QTextStream out(&printed);
+    QString error;
+    const QVector<PageEntry> pages = {{QStringLiteral("late"), QString(), make<LatePage>}};
+    QVERIFY(takeScreenshots(pages, directory.path(), QString(), out, &error));
+    for (const QString& suffix : suffixes) {
+        const QImage image(directory.filePath(QStringLiteral("late-%1.png").arg(suffix)));
+        QCOMPARE(backgroundOf(image), QColor(Qt::red));
     }
 }
 

@@ -1,7 +1,7 @@
 #include "Appearance.h"
 #include "GalleryWindow.h"
 #include "properties/PropertyEditor.h"
-#include "Specimen.h"
+#include "SampleWidget.h"
 #include "StyleSheetFile.h"
 #include "TestApplication.h"
 
@@ -29,7 +29,7 @@ public:
 
 QVector<PageEntry> testPages()
 {
-    return {{QStringLiteral("specimens"), QStringLiteral("Specimens"), make<test::SpecimenPage>},
+    return {{QStringLiteral("samples"), QStringLiteral("SampleWidgets"), make<test::SamplePage>},
             {QStringLiteral("empty"), QStringLiteral("Empty"), make<test::EmptyPage>},
             {QStringLiteral("tall"), QStringLiteral("Tall"), make<TallPage>}};
 }
@@ -59,9 +59,9 @@ struct Gallery
     {
         return window.findChild<QListWidget*>(QStringLiteral("pageList"));
     }
-    QWidget* exhibit(int index)
+    QWidget* demoWidget(int index)
     {
-        return window.page()->exhibits().at(index).widget;
+        return window.page()->demoWidgets().at(index).widget;
     }
 
     QWidget stage;
@@ -84,7 +84,7 @@ class tst_GalleryWindow : public QObject
 private Q_SLOTS:
     void init();
     void fitsScreen();
-    void controlsHaveFingerSize();
+    void controlsHaveTouchSize();
     void listsPages();
     void showsPageById();
     void makesPageAnew();
@@ -96,13 +96,13 @@ private Q_SLOTS:
     void newPageKeepsSwitches();
     void switchesExampleStyleSheet();
     void startsWithGivenStyleSheet();
-    void tapPicksExhibit();
-    void tapOnChildPicksExhibit();
-    void tapOnDisabledExhibitPicksIt();
-    void tabPicksExhibit();
+    void tapPicksDemoWidget();
+    void tapOnChildPicksDemoWidget();
+    void tapOnDisabledDemoWidgetPicksIt();
+    void tabPicksDemoWidget();
     void tapElsewherePicksNothing();
     void hidesProperties();
-    void hidesPropertiesOfPageWithoutExhibits();
+    void hidesPropertiesOfPageWithoutDemoWidgets();
 };
 
 void tst_GalleryWindow::init()
@@ -118,7 +118,7 @@ void tst_GalleryWindow::fitsScreen()
     QVERIFY(least.width() <= 800 && least.height() <= 480);
 }
 
-void tst_GalleryWindow::controlsHaveFingerSize()
+void tst_GalleryWindow::controlsHaveTouchSize()
 {
     Gallery gallery;
     for (const QCheckBox* box : gallery.window.findChildren<QCheckBox*>())
@@ -131,7 +131,7 @@ void tst_GalleryWindow::listsPages()
     Gallery gallery;
     QCOMPARE(gallery.list()->count(), 3);
     QCOMPARE(gallery.list()->item(1)->text(), QStringLiteral("Empty"));
-    QVERIFY(qobject_cast<test::SpecimenPage*>(gallery.window.page()));
+    QVERIFY(qobject_cast<test::SamplePage*>(gallery.window.page()));
 
     const QRect item = gallery.list()->visualItemRect(gallery.list()->item(1));
     QTest::mouseClick(gallery.list()->viewport(), Qt::LeftButton, {}, item.center());
@@ -152,12 +152,12 @@ void tst_GalleryWindow::makesPageAnew()
 {
     Gallery gallery;
     const QPointer<GalleryPage> before = gallery.window.page();
-    gallery.exhibit(0)->setProperty("level", 3);
+    gallery.demoWidget(0)->setProperty("level", 3);
     gallery.window.showPage(QStringLiteral("tall"));
     QVERIFY(!before);
-    gallery.window.showPage(QStringLiteral("specimens"));
-    QCOMPARE(gallery.exhibit(0)->property("level").toInt(), 50);
-    QCOMPARE(gallery.properties()->target(), gallery.exhibit(0));
+    gallery.window.showPage(QStringLiteral("samples"));
+    QCOMPARE(gallery.demoWidget(0)->property("level").toInt(), 50);
+    QCOMPARE(gallery.properties()->target(), gallery.demoWidget(0));
 }
 
 void tst_GalleryWindow::worksWithoutPages()
@@ -174,13 +174,13 @@ void tst_GalleryWindow::worksWithoutPages()
 void tst_GalleryWindow::turnsDark()
 {
     Gallery gallery;
-    QCOMPARE(gallery.exhibit(0)->palette().color(QPalette::Window),
+    QCOMPARE(gallery.demoWidget(0)->palette().color(QPalette::Window),
              Appearance::lightPalette().color(QPalette::Window));
     gallery.box("darkSwitch")->click();
-    QCOMPARE(gallery.exhibit(0)->palette().color(QPalette::Window),
+    QCOMPARE(gallery.demoWidget(0)->palette().color(QPalette::Window),
              Appearance::darkPalette().color(QPalette::Window));
     gallery.box("darkSwitch")->click();
-    QCOMPARE(gallery.exhibit(0)->palette().color(QPalette::Window),
+    QCOMPARE(gallery.demoWidget(0)->palette().color(QPalette::Window),
              Appearance::lightPalette().color(QPalette::Window));
 }
 
@@ -189,7 +189,7 @@ void tst_GalleryWindow::turnsDarkUnderStyleSheet()
     Gallery gallery;
     gallery.box("styleSheetSwitch")->click();
     gallery.box("darkSwitch")->click();
-    for (const QWidget* widget : {static_cast<QWidget*>(gallery.list()), gallery.exhibit(0)}) {
+    for (const QWidget* widget : {static_cast<QWidget*>(gallery.list()), gallery.demoWidget(0)}) {
         QCOMPARE(widget->palette().color(QPalette::Base),
                  Appearance::darkPalette().color(QPalette::Base));
     }
@@ -200,20 +200,20 @@ void tst_GalleryWindow::turnsRightToLeft()
 {
     Gallery gallery;
     gallery.box("rightToLeftSwitch")->click();
-    QCOMPARE(gallery.exhibit(0)->layoutDirection(), Qt::RightToLeft);
+    QCOMPARE(gallery.demoWidget(0)->layoutDirection(), Qt::RightToLeft);
     gallery.box("rightToLeftSwitch")->click();
-    QCOMPARE(gallery.exhibit(0)->layoutDirection(), Qt::LeftToRight);
+    QCOMPARE(gallery.demoWidget(0)->layoutDirection(), Qt::LeftToRight);
 }
 
 void tst_GalleryWindow::disablesPageAlone()
 {
     Gallery gallery;
     gallery.box("disabledSwitch")->click();
-    QVERIFY(!gallery.exhibit(0)->isEnabled());
+    QVERIFY(!gallery.demoWidget(0)->isEnabled());
     QVERIFY(gallery.properties()->isEnabled());
     QVERIFY(gallery.list()->isEnabled());
     gallery.box("disabledSwitch")->click();
-    QVERIFY(gallery.exhibit(0)->isEnabled());
+    QVERIFY(gallery.demoWidget(0)->isEnabled());
 }
 
 void tst_GalleryWindow::newPageKeepsSwitches()
@@ -246,51 +246,51 @@ void tst_GalleryWindow::startsWithGivenStyleSheet()
     QCOMPARE(qApp->styleSheet(), styleSheet);
 }
 
-void tst_GalleryWindow::tapPicksExhibit()
+void tst_GalleryWindow::tapPicksDemoWidget()
 {
     Gallery gallery;
-    QCOMPARE(gallery.properties()->target(), gallery.exhibit(0));
-    tap(gallery.exhibit(1));
-    QTRY_COMPARE(gallery.properties()->target(), gallery.exhibit(1));
+    QCOMPARE(gallery.properties()->target(), gallery.demoWidget(0));
+    tap(gallery.demoWidget(1));
+    QTRY_COMPARE(gallery.properties()->target(), gallery.demoWidget(1));
 }
 
-void tst_GalleryWindow::tapOnChildPicksExhibit()
+void tst_GalleryWindow::tapOnChildPicksDemoWidget()
 {
     Gallery gallery;
-    gallery.properties()->setTarget(gallery.exhibit(1));
-    tap(gallery.exhibit(0)->findChild<QPushButton*>());
-    QTRY_COMPARE(gallery.properties()->target(), gallery.exhibit(0));
+    gallery.properties()->setTarget(gallery.demoWidget(1));
+    tap(gallery.demoWidget(0)->findChild<QPushButton*>());
+    QTRY_COMPARE(gallery.properties()->target(), gallery.demoWidget(0));
 }
 
-void tst_GalleryWindow::tapOnDisabledExhibitPicksIt()
+void tst_GalleryWindow::tapOnDisabledDemoWidgetPicksIt()
 {
     Gallery gallery;
     gallery.box("disabledSwitch")->click();
-    tap(gallery.exhibit(1));
-    QTRY_COMPARE(gallery.properties()->target(), gallery.exhibit(1));
+    tap(gallery.demoWidget(1));
+    QTRY_COMPARE(gallery.properties()->target(), gallery.demoWidget(1));
 }
 
-void tst_GalleryWindow::tabPicksExhibit()
+void tst_GalleryWindow::tabPicksDemoWidget()
 {
     Gallery gallery;
-    gallery.exhibit(0)->setFocus(Qt::OtherFocusReason);
-    gallery.exhibit(1)->setFocus(Qt::OtherFocusReason); // a program's own doing picks nothing
-    QCOMPARE(gallery.properties()->target(), gallery.exhibit(0));
-    gallery.exhibit(0)->setFocus(Qt::OtherFocusReason);
-    QTest::keyClick(gallery.exhibit(0), Qt::Key_Tab);
-    QVERIFY(gallery.exhibit(1)->hasFocus());
-    QCOMPARE(gallery.properties()->target(), gallery.exhibit(1));
+    gallery.demoWidget(0)->setFocus(Qt::OtherFocusReason);
+    gallery.demoWidget(1)->setFocus(Qt::OtherFocusReason); // a program's own doing picks nothing
+    QCOMPARE(gallery.properties()->target(), gallery.demoWidget(0));
+    gallery.demoWidget(0)->setFocus(Qt::OtherFocusReason);
+    QTest::keyClick(gallery.demoWidget(0), Qt::Key_Tab);
+    QVERIFY(gallery.demoWidget(1)->hasFocus());
+    QCOMPARE(gallery.properties()->target(), gallery.demoWidget(1));
 }
 
 void tst_GalleryWindow::tapElsewherePicksNothing()
 {
     Gallery gallery;
-    gallery.properties()->setTarget(gallery.exhibit(1));
+    gallery.properties()->setTarget(gallery.demoWidget(1));
     auto* other = gallery.window.findChild<QPushButton*>(QStringLiteral("other"));
     QSignalSpy clicks(other, &QPushButton::clicked);
     tap(other);
     QTRY_COMPARE(clicks.count(), 1);
-    QCOMPARE(gallery.properties()->target(), gallery.exhibit(1));
+    QCOMPARE(gallery.properties()->target(), gallery.demoWidget(1));
 }
 
 void tst_GalleryWindow::hidesProperties()
@@ -305,13 +305,13 @@ void tst_GalleryWindow::hidesProperties()
     QVERIFY(gallery.properties()->isVisible());
 }
 
-void tst_GalleryWindow::hidesPropertiesOfPageWithoutExhibits()
+void tst_GalleryWindow::hidesPropertiesOfPageWithoutDemoWidgets()
 {
     Gallery gallery;
     gallery.window.showPage(QStringLiteral("empty"));
     QVERIFY(!gallery.properties()->isVisible());
     QVERIFY(!gallery.box("propertiesSwitch")->isEnabled());
-    gallery.window.showPage(QStringLiteral("specimens"));
+    gallery.window.showPage(QStringLiteral("samples"));
     QVERIFY(gallery.properties()->isVisible());
     QVERIFY(gallery.box("propertiesSwitch")->isEnabled());
 }

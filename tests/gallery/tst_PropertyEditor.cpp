@@ -2,7 +2,7 @@
 #include "properties/PropertyGroup.h"
 #include "properties/PropertyList.h"
 #include "properties/PropertyRow.h"
-#include "Specimen.h"
+#include "SampleWidget.h"
 #include "TestApplication.h"
 
 #include <QBoxLayout>
@@ -61,7 +61,7 @@ int shownLevel(const PropertyEditor& editor)
     return rowOf(editor, "level")->findChild<QSpinBox*>()->value();
 }
 
-const QString specimenClass = QStringLiteral("test::Specimen");
+const QString sampleClass = QStringLiteral("test::SampleWidget");
 const QString dynamicTitle = QStringLiteral("Dynamic properties");
 
 } // namespace
@@ -77,23 +77,23 @@ private Q_SLOTS:
     void leavesOutClassesWithoutProperties();
     void unfoldsFirstGroup();
     void rowsInOrderOfDeclaration();
-    void choosesExhibit();
-    void keepsFoldsForNextExhibit();
+    void choosesDemoWidget();
+    void keepsFoldsForNextDemoWidget();
     void ignoresStrangeTargets();
     void refreshesEveryRowAfterEdit();
     void followsChangesWhileVisible();
     void rowsOfFoldedGroupsCatchUp();
     void dynamicPropertiesComeAndGo();
     void clearsWhenTargetDies();
-    void clearsWithoutExhibits();
+    void clearsWithoutDemoWidgets();
 };
 
 void tst_PropertyEditor::listsPropertiesByClass()
 {
-    const test::Specimen specimen;
-    const QVector<ClassProperties> classes = propertiesByClass(specimen);
+    const test::SampleWidget sample;
+    const QVector<ClassProperties> classes = propertiesByClass(sample);
     QCOMPARE(classes.size(), 3);
-    QCOMPARE(classes.at(0).className, specimenClass);
+    QCOMPARE(classes.at(0).className, sampleClass);
     QCOMPARE(classes.at(1).className, QStringLiteral("QWidget"));
     QCOMPARE(classes.at(2).className, QStringLiteral("QObject"));
     QCOMPARE(classes.at(2).names, QVector<QByteArray>{"objectName"});
@@ -117,7 +117,7 @@ void tst_PropertyEditor::groupsInClassOrder()
     PropertyEditor editor;
     QPushButton button;
     button.setProperty("inputValid", true);
-    editor.setExhibits({{&button, QStringLiteral("button")}});
+    editor.setDemoWidgets({{&button, QStringLiteral("button")}});
     QCOMPARE(
         titlesOf(editor),
         QStringList({dynamicTitle, QStringLiteral("QPushButton"), QStringLiteral("QAbstractButton"),
@@ -128,16 +128,16 @@ void tst_PropertyEditor::leavesOutClassesWithoutProperties()
 {
     PropertyEditor editor;
     test::EmptyPage page;
-    editor.setExhibits({{&page, QStringLiteral("page")}});
+    editor.setDemoWidgets({{&page, QStringLiteral("page")}});
     QCOMPARE(titlesOf(editor), QStringList({QStringLiteral("QWidget"), QStringLiteral("QObject")}));
 }
 
 void tst_PropertyEditor::unfoldsFirstGroup()
 {
     PropertyEditor editor;
-    test::Specimen specimen;
-    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
-    QVERIFY(groupOf(editor, specimenClass)->isUnfolded());
+    test::SampleWidget sample;
+    editor.setDemoWidgets({{&sample, QStringLiteral("sample")}});
+    QVERIFY(groupOf(editor, sampleClass)->isUnfolded());
     QVERIFY(!groupOf(editor, QStringLiteral("QWidget"))->isUnfolded());
     QVERIFY(!rowOf(editor, "windowTitle")); // not even made
     groupOf(editor, QStringLiteral("QWidget"))->setUnfolded(true);
@@ -148,11 +148,11 @@ void tst_PropertyEditor::rowsInOrderOfDeclaration()
 {
     QWidget stage;
     PropertyEditor editor(&stage);
-    test::Specimen specimen;
-    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    test::SampleWidget sample;
+    editor.setDemoWidgets({{&sample, QStringLiteral("sample")}});
     editor.resize(250, 400);
     stage.show();
-    const QVector<QByteArray> names = propertiesByClass(specimen).at(0).names;
+    const QVector<QByteArray> names = propertiesByClass(sample).at(0).names;
     QCOMPARE(names.size(), 16);
     int bottom = 0;
     for (const QByteArray& name : names) {
@@ -164,14 +164,14 @@ void tst_PropertyEditor::rowsInOrderOfDeclaration()
     }
 }
 
-void tst_PropertyEditor::choosesExhibit()
+void tst_PropertyEditor::choosesDemoWidget()
 {
     PropertyEditor editor;
-    test::SpecimenPage page;
-    editor.setExhibits(page.exhibits());
-    auto* choice = editor.findChild<QComboBox*>(QStringLiteral("exhibitChoice"));
-    QWidget* first = page.exhibits().at(0).widget;
-    QWidget* second = page.exhibits().at(1).widget;
+    test::SamplePage page;
+    editor.setDemoWidgets(page.demoWidgets());
+    auto* choice = editor.findChild<QComboBox*>(QStringLiteral("widgetChoice"));
+    QWidget* first = page.demoWidgets().at(0).widget;
+    QWidget* second = page.demoWidgets().at(1).widget;
     QCOMPARE(choice->count(), 2);
     QCOMPARE(choice->currentText(), QStringLiteral("first"));
     QCOMPARE(editor.target(), first);
@@ -187,15 +187,15 @@ void tst_PropertyEditor::choosesExhibit()
     QCOMPARE(shownLevel(editor), 50);
 }
 
-void tst_PropertyEditor::keepsFoldsForNextExhibit()
+void tst_PropertyEditor::keepsFoldsForNextDemoWidget()
 {
     PropertyEditor editor;
-    test::SpecimenPage page;
-    editor.setExhibits(page.exhibits());
-    groupOf(editor, specimenClass)->setUnfolded(false);
+    test::SamplePage page;
+    editor.setDemoWidgets(page.demoWidgets());
+    groupOf(editor, sampleClass)->setUnfolded(false);
     groupOf(editor, QStringLiteral("QObject"))->setUnfolded(true);
-    editor.setTarget(page.exhibits().at(1).widget);
-    QVERIFY(!groupOf(editor, specimenClass)->isUnfolded());
+    editor.setTarget(page.demoWidgets().at(1).widget);
+    QVERIFY(!groupOf(editor, sampleClass)->isUnfolded());
     QVERIFY(!groupOf(editor, QStringLiteral("QWidget"))->isUnfolded());
     QVERIFY(groupOf(editor, QStringLiteral("QObject"))->isUnfolded());
 }
@@ -203,19 +203,19 @@ void tst_PropertyEditor::keepsFoldsForNextExhibit()
 void tst_PropertyEditor::ignoresStrangeTargets()
 {
     PropertyEditor editor;
-    test::SpecimenPage page;
-    editor.setExhibits(page.exhibits());
+    test::SamplePage page;
+    editor.setDemoWidgets(page.demoWidgets());
     editor.setTarget(nullptr);
     editor.setTarget(&page);
-    QCOMPARE(editor.target(), page.exhibits().at(0).widget);
+    QCOMPARE(editor.target(), page.demoWidgets().at(0).widget);
 }
 
 void tst_PropertyEditor::refreshesEveryRowAfterEdit()
 {
     PropertyEditor editor;
-    test::Specimen specimen;
-    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
-    specimen.setLevel(12);
+    test::SampleWidget sample;
+    editor.setDemoWidgets({{&sample, QStringLiteral("sample")}});
+    sample.setLevel(12);
     QCOMPARE(shownLevel(editor), 50); // not visible
     rowOf(editor, "marked")->findChild<QCheckBox*>()->click();
     QCOMPARE(shownLevel(editor), 12);
@@ -225,14 +225,14 @@ void tst_PropertyEditor::followsChangesWhileVisible()
 {
     QWidget stage;
     PropertyEditor editor(&stage);
-    test::Specimen specimen;
-    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    test::SampleWidget sample;
+    editor.setDemoWidgets({{&sample, QStringLiteral("sample")}});
     stage.show();
-    specimen.setLevel(12);
+    sample.setLevel(12);
     QTRY_COMPARE(shownLevel(editor), 12);
 
     editor.hide();
-    specimen.setLevel(13);
+    sample.setLevel(13);
     editor.show();
     QCOMPARE(shownLevel(editor), 13);
 }
@@ -240,36 +240,36 @@ void tst_PropertyEditor::followsChangesWhileVisible()
 void tst_PropertyEditor::rowsOfFoldedGroupsCatchUp()
 {
     PropertyEditor editor;
-    test::Specimen specimen;
-    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
-    groupOf(editor, specimenClass)->setUnfolded(false);
-    specimen.setLevel(14);
+    test::SampleWidget sample;
+    editor.setDemoWidgets({{&sample, QStringLiteral("sample")}});
+    groupOf(editor, sampleClass)->setUnfolded(false);
+    sample.setLevel(14);
     editor.refresh();
     QCOMPARE(shownLevel(editor), 50);
-    groupOf(editor, specimenClass)->setUnfolded(true);
+    groupOf(editor, sampleClass)->setUnfolded(true);
     QCOMPARE(shownLevel(editor), 14);
 }
 
 void tst_PropertyEditor::dynamicPropertiesComeAndGo()
 {
     PropertyEditor editor;
-    test::Specimen specimen;
-    editor.setExhibits({{&specimen, QStringLiteral("specimen")}});
+    test::SampleWidget sample;
+    editor.setDemoWidgets({{&sample, QStringLiteral("sample")}});
     QVERIFY(!groupOf(editor, dynamicTitle));
 
-    specimen.setProperty("inputValid", true);
+    sample.setProperty("inputValid", true);
     editor.refresh();
     QCOMPARE(titlesOf(editor).constFirst(), dynamicTitle);
     rowOf(editor, "inputValid")->findChild<QCheckBox*>()->click();
-    QCOMPARE(specimen.property("inputValid"), QVariant(false));
+    QCOMPARE(sample.property("inputValid"), QVariant(false));
 
-    specimen.setProperty("directory", QStringLiteral("/data"));
+    sample.setProperty("directory", QStringLiteral("/data"));
     editor.refresh();
     QVERIFY(rowOf(editor, "directory"));
     QCOMPARE(titlesOf(editor).count(dynamicTitle), 1);
 
-    specimen.setProperty("inputValid", QVariant());
-    specimen.setProperty("directory", QVariant());
+    sample.setProperty("inputValid", QVariant());
+    sample.setProperty("directory", QVariant());
     editor.refresh();
     QVERIFY(!groupOf(editor, dynamicTitle));
 }
@@ -277,23 +277,23 @@ void tst_PropertyEditor::dynamicPropertiesComeAndGo()
 void tst_PropertyEditor::clearsWhenTargetDies()
 {
     PropertyEditor editor;
-    auto* specimen = new test::Specimen;
-    editor.setExhibits({{specimen, QStringLiteral("specimen")}});
-    delete specimen;
+    auto* sample = new test::SampleWidget;
+    editor.setDemoWidgets({{sample, QStringLiteral("sample")}});
+    delete sample;
     editor.refresh();
     QVERIFY(!editor.target());
     QVERIFY(titlesOf(editor).isEmpty());
 }
 
-void tst_PropertyEditor::clearsWithoutExhibits()
+void tst_PropertyEditor::clearsWithoutDemoWidgets()
 {
     PropertyEditor editor;
-    test::SpecimenPage page;
-    editor.setExhibits(page.exhibits());
-    editor.setExhibits({});
+    test::SamplePage page;
+    editor.setDemoWidgets(page.demoWidgets());
+    editor.setDemoWidgets({});
     QVERIFY(!editor.target());
     QVERIFY(titlesOf(editor).isEmpty());
-    QCOMPARE(editor.findChild<QComboBox*>(QStringLiteral("exhibitChoice"))->count(), 0);
+    QCOMPARE(editor.findChild<QComboBox*>(QStringLiteral("widgetChoice"))->count(), 0);
 }
 
 int main(int argc, char** argv)

@@ -1,6 +1,7 @@
 #include "TestApplication.h"
 
-#include <pages/ScrollIndicatorPage.h>
+#include "GalleryPage.h"
+#include "pages/Pages.h"
 #include <ui/ScrollIndicatorBar.h>
 
 #include <QScrollArea>
@@ -47,13 +48,13 @@ void tst_ScrollIndicatorPage::highlightsWhileDragged()
     QFETCH(QString, name);
     QFETCH(QPoint, step);
     QWidget window;
-    ScrollIndicatorPage page(&window);
-    page.resize(410, 420);
+    GalleryPage* page = makeScrollIndicatorPage(&window);
+    page->resize(410, 420);
     window.resize(410, 420);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-    auto* area = page.findChild<QScrollArea*>(name);
+    auto* area = page->findChild<QScrollArea*>(name);
     QVERIFY(area);
     QScrollBar* bar = step.x() ? area->horizontalScrollBar() : area->verticalScrollBar();
     auto* indicator = qobject_cast<ScrollIndicatorBar*>(bar);

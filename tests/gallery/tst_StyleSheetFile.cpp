@@ -16,7 +16,7 @@ private Q_SLOTS:
     void rejectsUnreadable();
     void leavesApplicationAlone();
     void exampleIsWellFormed();
-    void exampleHasFingerSize();
+    void exampleHasTouchSize();
 
 private:
     QString write(const QByteArray& content);
@@ -104,7 +104,7 @@ void tst_StyleSheetFile::exampleIsWellFormed()
     QVERIFY2(readStyleSheet(write(exampleStyleSheet().toUtf8()), &error), qPrintable(error));
 }
 
-void tst_StyleSheetFile::exampleHasFingerSize()
+void tst_StyleSheetFile::exampleHasTouchSize()
 {
     qApp->setStyleSheet(exampleStyleSheet());
     const QPushButton button(QStringLiteral("button"));

@@ -2,7 +2,8 @@
 #include "OffscreenMessages.h"
 #include "TestApplication.h"
 
-#include <pages/TextEntryPage.h>
+#include "GalleryPage.h"
+#include "pages/Pages.h"
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
 
@@ -23,7 +24,7 @@ private Q_SLOTS:
         test::dropOffscreenMessages();
     }
 
-    void everyFieldIsAnExhibit();
+    void everyFieldIsAnDemoWidget();
     void everyFieldStartsAcceptable();
     void everyKeypadCanTypeIt_data();
     void everyKeypadCanTypeIt();
@@ -42,27 +43,27 @@ KeypadLineEdit* tst_TextEntryPage::field(const QWidget& page, const QString& nam
     return nullptr;
 }
 
-void tst_TextEntryPage::everyFieldIsAnExhibit()
+void tst_TextEntryPage::everyFieldIsAnDemoWidget()
 {
-    const TextEntryPage page;
-    QList<QWidget*> exhibits;
-    for (const GalleryPage::Exhibit& exhibit : page.exhibits())
-        exhibits.append(exhibit.widget);
-    const auto fields = page.findChildren<KeypadLineEdit*>();
+    const std::unique_ptr<GalleryPage> page(makeTextEntryPage(nullptr));
+    QList<QWidget*> demoWidgets;
+    for (const GalleryPage::DemoWidget& demoWidget : page->demoWidgets())
+        demoWidgets.append(demoWidget.widget);
+    const auto fields = page->findChildren<KeypadLineEdit*>();
     QCOMPARE(fields.size(), 6);
     for (KeypadLineEdit* candidate : fields)
-        QVERIFY(exhibits.contains(candidate));
+        QVERIFY(demoWidgets.contains(candidate));
 }
 
 void tst_TextEntryPage::everyFieldStartsAcceptable()
 {
-    const TextEntryPage page;
-    const auto fields = page.findChildren<KeypadLineEdit*>();
+    const std::unique_ptr<GalleryPage> page(makeTextEntryPage(nullptr));
+    const auto fields = page->findChildren<KeypadLineEdit*>();
     for (const KeypadLineEdit* candidate : fields) {
         QVERIFY(candidate->validator());
         QVERIFY2(candidate->hasAcceptableInput(), qPrintable(candidate->accessibleName()));
     }
-    QCOMPARE(field(page, QStringLiteral("PIN"))->echoMode(), QLineEdit::Password);
+    QCOMPARE(field(*page, QStringLiteral("PIN"))->echoMode(), QLineEdit::Password);
 }
 
 void tst_TextEntryPage::everyKeypadCanTypeIt_data()
@@ -95,11 +96,11 @@ void tst_TextEntryPage::everyKeypadCanTypeIt()
     QFETCH(QString, name);
     QFETCH(QString, keys);
     QFETCH(QString, text);
-    TextEntryPage page;
-    page.show();
-    page.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&page));
-    KeypadLineEdit* edited = field(page, name);
+    const std::unique_ptr<GalleryPage> page(makeTextEntryPage(nullptr));
+    page->show();
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    KeypadLineEdit* edited = field(*page, name);
     edited->setFocus();
     QTRY_VERIFY(edited->keypad()->isVisible());
     QCOMPARE(edited->keypad()->findChild<QLabel*>()->text(), edited->accessibleName());
@@ -129,3 +130,5 @@ int main(int argc, char** argv)
 }
 
 #include "tst_TextEntryPage.moc"
+
+#include <memory>

@@ -1,6 +1,6 @@
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
-#include "pages/AllPages.h"
+#include "pages/Pages.h"
 #include "properties/PropertyEditor.h"
 #include "TestApplication.h"
 #include "Translations.h"
@@ -201,8 +201,8 @@ void tst_Translations::pageLeavesNoTextOut()
     const std::unique_ptr<GalleryPage> widget(entry.create(nullptr));
 
     QStringList texts = unmarkedTexts(*widget) << unmarkedTexts(QLabel(entry.title));
-    for (const GalleryPage::Exhibit& exhibit : widget->exhibits())
-        texts += unmarkedTexts(QLabel(exhibit.name));
+    for (const GalleryPage::DemoWidget& demoWidget : widget->demoWidgets())
+        texts += unmarkedTexts(QLabel(demoWidget.name));
     texts.erase(std::remove_if(texts.begin(), texts.end(), isName), texts.end());
     QCOMPARE(texts, QStringList());
 }
@@ -239,7 +239,7 @@ void tst_Translations::germanPageFits()
     QVERIFY(QTest::qWaitForWindowExposed(&stage));
 
     QVERIFY(fits(scrolledBy(&window, window.page())));
-    if (!window.page()->exhibits().isEmpty())
+    if (!window.page()->demoWidgets().isEmpty())
         QVERIFY(fits(window.findChild<PropertyEditor*>()->findChild<QScrollArea*>()));
 }
 

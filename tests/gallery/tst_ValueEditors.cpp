@@ -1,9 +1,7 @@
-#include "properties/EnumEditor.h"
 #include "properties/PropertyRow.h"
-#include "properties/ReadOnlyValue.h"
+#include "properties/SimpleEditors.h"
 #include "properties/ValueEditor.h"
-#include "properties/ValueEditors.h"
-#include "Specimen.h"
+#include "SampleWidget.h"
 #include "Switch.h"
 #include "TestApplication.h"
 
@@ -88,7 +86,6 @@ private Q_SLOTS:
     void showsReadOnlyValues_data();
     void showsReadOnlyValues();
     void shortensLongText();
-    void registeredEditor();
     void editsDynamicProperty();
     void survivesItsTarget();
 };
@@ -124,8 +121,8 @@ void tst_ValueEditors::editorOfType()
     QFETCH(QByteArray, property);
     QFETCH(QByteArray, editor);
 
-    test::Specimen specimen;
-    const PropertyRow row(&specimen, property);
+    test::SampleWidget sample;
+    const PropertyRow row(&sample, property);
     QCOMPARE(row.editor()->metaObject()->className(), editor.constData());
 }
 
@@ -146,36 +143,36 @@ void tst_ValueEditors::everyPropertyOfWidgets()
 
 void tst_ValueEditors::editsBool()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "marked");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "marked");
     auto* box = control<QCheckBox>(row);
     QVERIFY(!box->isChecked());
 
     row.resize(200, 60);
     box->resize(60, 60);
     QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(2, 58)); // it can be hit all over
-    QCOMPARE(specimen.property("marked"), QVariant(true));
+    QCOMPARE(sample.property("marked"), QVariant(true));
 
-    specimen.setProperty("marked", false);
+    sample.setProperty("marked", false);
     row.refresh();
     QVERIFY(!box->isChecked());
 }
 
 void tst_ValueEditors::editsInt()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "level");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "level");
     const QSignalSpy edits(&row, &PropertyRow::edited);
     control<QToolButton>(row, 0)->click();
-    QCOMPARE(specimen.level(), 49);
+    QCOMPARE(sample.level(), 49);
     control<QToolButton>(row, 1)->click();
     control<QToolButton>(row, 1)->click();
-    QCOMPARE(specimen.level(), 51);
+    QCOMPARE(sample.level(), 51);
     type(control<QSpinBox>(row), QStringLiteral("7"));
-    QCOMPARE(specimen.level(), 7);
+    QCOMPARE(sample.level(), 7);
     QCOMPARE(edits.count(), 4);
 
-    specimen.setLevel(8);
+    sample.setLevel(8);
     row.refresh();
     QCOMPARE(control<QSpinBox>(row)->value(), 8);
     QCOMPARE(edits.count(), 4);
@@ -183,76 +180,76 @@ void tst_ValueEditors::editsInt()
 
 void tst_ValueEditors::showsWhatBecameOfAnInt()
 {
-    test::Specimen specimen;
-    specimen.setLevel(100);
-    PropertyRow row(&specimen, "level");
+    test::SampleWidget sample;
+    sample.setLevel(100);
+    PropertyRow row(&sample, "level");
     control<QToolButton>(row, 1)->click();
     QCOMPARE(control<QSpinBox>(row)->value(), 100);
     type(control<QSpinBox>(row), QStringLiteral("-2147483648"));
-    QCOMPARE(specimen.level(), 0);
+    QCOMPARE(sample.level(), 0);
     QCOMPARE(control<QSpinBox>(row)->value(), 0);
 }
 
 void tst_ValueEditors::keepsDigitsThatAreTyped()
 {
-    test::Specimen specimen;
+    test::SampleWidget sample;
     for (const char* name : {"level", "fraction"}) {
-        PropertyRow row(&specimen, name);
+        PropertyRow row(&sample, name);
         auto* box = control<QAbstractSpinBox>(row);
         box->selectAll();
         QTest::keyClicks(box, QStringLiteral("0"));
-        row.editor()->setValue(specimen.property(name)); // nothing has changed
+        row.editor()->setValue(sample.property(name)); // nothing has changed
         QCOMPARE(box->text(), QStringLiteral("0"));
     }
 }
 
 void tst_ValueEditors::editsDouble()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "fraction");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "fraction");
     control<QToolButton>(row, 1)->click();
-    QCOMPARE(specimen.fraction(), 0.55);
+    QCOMPARE(sample.fraction(), 0.55);
     type(control<QDoubleSpinBox>(row), QLocale().toString(0.125));
-    QCOMPARE(specimen.fraction(), 0.125);
+    QCOMPARE(sample.fraction(), 0.125);
 }
 
 void tst_ValueEditors::showsIgnoredDouble()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "fraction");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "fraction");
     type(control<QDoubleSpinBox>(row), QStringLiteral("7"));
-    QCOMPARE(specimen.fraction(), 0.5);
+    QCOMPARE(sample.fraction(), 0.5);
     QCOMPARE(control<QDoubleSpinBox>(row)->value(), 0.5);
 }
 
 void tst_ValueEditors::editsText()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "caption");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "caption");
     type(control<QLineEdit>(row), QStringLiteral("new"));
-    QCOMPARE(specimen.property("caption"), QVariant(QStringLiteral("new")));
+    QCOMPARE(sample.property("caption"), QVariant(QStringLiteral("new")));
 }
 
 void tst_ValueEditors::keepsCursorOfText()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "caption");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "caption");
     auto* edit = control<QLineEdit>(row);
     edit->setCursorPosition(3);
     QTest::keyClicks(edit, QStringLiteral("--"));
     row.refresh();
-    QCOMPARE(specimen.property("caption"), QVariant(QStringLiteral("cap--tion")));
+    QCOMPARE(sample.property("caption"), QVariant(QStringLiteral("cap--tion")));
     QCOMPARE(edit->cursorPosition(), 5);
 }
 
 void tst_ValueEditors::editsColorByName()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "color");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "color");
     QCOMPARE(summaryOf(row), QStringLiteral("#280a141e"));
     unfold(row);
     type(control<QLineEdit>(row), QStringLiteral("steelblue"));
-    QCOMPARE(specimen.property("color").value<QColor>(), QColor(70, 130, 180));
+    QCOMPARE(sample.property("color").value<QColor>(), QColor(70, 130, 180));
     QCOMPARE(summaryOf(row), QStringLiteral("#ff4682b4"));
     QCOMPARE(control<QLineEdit>(row)->text(), QStringLiteral("steelblue"));
     QCOMPARE(control<QSlider>(row, 1)->value(), 130);
@@ -260,47 +257,47 @@ void tst_ValueEditors::editsColorByName()
 
 void tst_ValueEditors::editsColorByChannels()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "color");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "color");
     unfold(row);
     for (int channel = 0; channel < 4; ++channel)
         control<QSlider>(row, channel)->setValue(50 + channel);
-    QCOMPARE(specimen.property("color").value<QColor>(), QColor(50, 51, 52, 53));
+    QCOMPARE(sample.property("color").value<QColor>(), QColor(50, 51, 52, 53));
     QCOMPARE(control<QLineEdit>(row)->text(), QStringLiteral("#35323334"));
 
     auto* red = control<QSlider>(row);
     red->resize(200, 44);
     QTest::mouseClick(red, Qt::LeftButton, {}, QPoint(199, 22)); // it goes where it is pressed
-    QCOMPARE(specimen.property("color").value<QColor>().red(), 255);
+    QCOMPARE(sample.property("color").value<QColor>().red(), 255);
 }
 
 void tst_ValueEditors::leavesUnfinishedColorNameAlone()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "color");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "color");
     unfold(row);
     type(control<QLineEdit>(row), QStringLiteral("steel"));
     row.refresh();
-    QCOMPARE(specimen.property("color").value<QColor>(), QColor(10, 20, 30, 40));
+    QCOMPARE(sample.property("color").value<QColor>(), QColor(10, 20, 30, 40));
     QCOMPARE(control<QLineEdit>(row)->text(), QStringLiteral("steel"));
 }
 
 void tst_ValueEditors::showsNoColor()
 {
-    test::Specimen specimen;
-    specimen.setProperty("color", QColor());
-    PropertyRow row(&specimen, "color");
+    test::SampleWidget sample;
+    sample.setProperty("color", QColor());
+    PropertyRow row(&sample, "color");
     unfold(row);
     QCOMPARE(summaryOf(row), QStringLiteral("none"));
     QCOMPARE(control<QLineEdit>(row)->text(), QString());
     control<QSlider>(row)->setValue(9);
-    QCOMPARE(specimen.property("color").value<QColor>(), QColor(9, 0, 0));
+    QCOMPARE(sample.property("color").value<QColor>(), QColor(9, 0, 0));
 }
 
 void tst_ValueEditors::editsFont()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "captionFont");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "captionFont");
     QCOMPARE(summaryOf(row), QStringLiteral("DejaVu Sans, 12 pt"));
     unfold(row);
     control<QSpinBox>(row)->stepUp();
@@ -311,119 +308,119 @@ void tst_ValueEditors::editsFont()
     expected.setBold(true);
     expected.setItalic(true);
     expected.setUnderline(true);
-    QCOMPARE(specimen.property("captionFont").value<QFont>(), expected);
+    QCOMPARE(sample.property("captionFont").value<QFont>(), expected);
 
     type(control<QSpinBox>(row), QStringLiteral("-5"));
-    QCOMPARE(specimen.property("captionFont").value<QFont>().pointSize(), 1);
+    QCOMPARE(sample.property("captionFont").value<QFont>().pointSize(), 1);
 
     auto* family = control<QFontComboBox>(row);
     const int other = (family->currentIndex() + 1) % family->count();
     family->setCurrentIndex(other);
-    QCOMPARE(specimen.property("captionFont").value<QFont>().family(), family->itemText(other));
+    QCOMPARE(sample.property("captionFont").value<QFont>().family(), family->itemText(other));
 }
 
 void tst_ValueEditors::fontSizeKeepsItsUnit()
 {
-    test::Specimen specimen;
+    test::SampleWidget sample;
     QFont font;
     font.setPixelSize(20);
-    specimen.setProperty("captionFont", font);
-    PropertyRow row(&specimen, "captionFont");
+    sample.setProperty("captionFont", font);
+    PropertyRow row(&sample, "captionFont");
     QVERIFY(summaryOf(row).endsWith(QStringLiteral(", 20 px")));
     unfold(row);
     control<QSpinBox>(row)->stepDown();
-    QCOMPARE(specimen.property("captionFont").value<QFont>().pixelSize(), 19);
+    QCOMPARE(sample.property("captionFont").value<QFont>().pixelSize(), 19);
 }
 
 void tst_ValueEditors::editsEnum()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "mood");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "mood");
     auto* box = control<QComboBox>(row);
     QCOMPARE(box->count(), 3);
     QCOMPARE(box->currentText(), QStringLiteral("Calm"));
     QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(specimen.property("mood").toInt(), 4);
+    QCOMPARE(sample.property("mood").toInt(), 4);
     QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(specimen.property("mood").toInt(), -2);
+    QCOMPARE(sample.property("mood").toInt(), -2);
     QCOMPARE(box->currentText(), QStringLiteral("Grumpy"));
 }
 
 void tst_ValueEditors::showsNoChoiceForUnknownEnumValue()
 {
-    EnumEditor editor(QMetaEnum::fromType<test::Specimen::Mood>());
+    EnumEditor editor(QMetaEnum::fromType<test::SampleWidget::Mood>());
     editor.setValue(77);
     QCOMPARE(editor.findChild<QComboBox*>()->currentIndex(), -1);
 }
 
 void tst_ValueEditors::editsFlags()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "sides");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "sides");
     QCOMPARE(summaryOf(row), QStringLiteral("Left")); // "Start" is the same bit
     unfold(row);
     QCOMPARE(row.findChildren<QCheckBox*>().size(), 3); // neither the alias nor the combinations
     control<QCheckBox>(row, 2)->click();
-    QCOMPARE(specimen.sides(), test::Specimen::Left | test::Specimen::Top);
+    QCOMPARE(sample.sides(), test::SampleWidget::Left | test::SampleWidget::Top);
     QCOMPARE(summaryOf(row), QStringLiteral("Left | Top"));
     control<QCheckBox>(row, 0)->click();
     control<QCheckBox>(row, 2)->click();
-    QCOMPARE(specimen.sides(), test::Specimen::Sides());
+    QCOMPARE(sample.sides(), test::SampleWidget::Sides());
     QCOMPARE(summaryOf(row), QStringLiteral("none"));
 }
 
 void tst_ValueEditors::editsFlagsOfAnotherClass()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "alignment");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "alignment");
     unfold(row);
     for (QCheckBox* box : row.findChildren<QCheckBox*>()) {
         if (box->text() == QLatin1String("AlignVCenter"))
             box->click();
     }
-    QCOMPARE(specimen.property("alignment").toInt(), int(Qt::AlignLeft | Qt::AlignVCenter));
+    QCOMPARE(sample.property("alignment").toInt(), int(Qt::AlignLeft | Qt::AlignVCenter));
 }
 
 void tst_ValueEditors::editsPoint()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "origin");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "origin");
     QCOMPARE(summaryOf(row), QStringLiteral("1, 2"));
     unfold(row);
     control<QSpinBox>(row, 1)->stepUp();
-    QCOMPARE(specimen.property("origin").toPoint(), QPoint(1, 3));
+    QCOMPARE(sample.property("origin").toPoint(), QPoint(1, 3));
 }
 
 void tst_ValueEditors::editsSize()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "extent");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "extent");
     QCOMPARE(summaryOf(row), QStringLiteral("3 \u00d7 4"));
     unfold(row);
     control<QSpinBox>(row, 0)->stepUp();
-    QCOMPARE(specimen.property("extent").toSize(), QSize(4, 4));
+    QCOMPARE(sample.property("extent").toSize(), QSize(4, 4));
 }
 
 void tst_ValueEditors::editsRect()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "area");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "area");
     QCOMPARE(summaryOf(row), QStringLiteral("7 \u00d7 8 at 5, 6"));
     unfold(row);
     for (int index = 0; index < 4; ++index)
         type(control<QSpinBox>(row, index), QString::number(20 + index));
-    QCOMPARE(specimen.property("area").toRect(), QRect(20, 21, 22, 23));
+    QCOMPARE(sample.property("area").toRect(), QRect(20, 21, 22, 23));
 }
 
 void tst_ValueEditors::editsEasingCurve()
 {
-    test::Specimen specimen;
-    PropertyRow row(&specimen, "curve");
+    test::SampleWidget sample;
+    PropertyRow row(&sample, "curve");
     auto* box = control<QComboBox>(row);
     QCOMPARE(box->currentText(), QStringLiteral("Linear"));
     QCOMPARE(box->findText(QStringLiteral("Custom")), -1); // its type does not define it
     QTest::keyClicks(box, QStringLiteral("OutBounce"));
-    QCOMPARE(specimen.property("curve").toEasingCurve().type(), QEasingCurve::OutBounce);
+    QCOMPARE(sample.property("curve").toEasingCurve().type(), QEasingCurve::OutBounce);
 }
 
 void tst_ValueEditors::editsAnimation()
@@ -480,19 +477,6 @@ void tst_ValueEditors::shortensLongText()
     QCOMPARE(display.findChild<QLabel*>()->text(), QString(79, QLatin1Char('x')) + QChar(0x2026));
 }
 
-void tst_ValueEditors::registeredEditor()
-{
-    QWidget widget;
-    widget.setProperty("margins", QVariant::fromValue(QMargins()));
-    const QScopedPointer<ValueEditor> before(makeValueEditor(widget, "margins"));
-    QVERIFY(qobject_cast<ReadOnlyValue*>(before.data()));
-
-    registerValueEditor(qMetaTypeId<QMargins>(),
-                        []() -> ValueEditor* { return new EnumEditor(QMetaEnum()); });
-    const QScopedPointer<ValueEditor> after(makeValueEditor(widget, "margins"));
-    QVERIFY(qobject_cast<EnumEditor*>(after.data()));
-}
-
 void tst_ValueEditors::editsDynamicProperty()
 {
     QWidget widget;
@@ -509,9 +493,9 @@ void tst_ValueEditors::editsDynamicProperty()
 
 void tst_ValueEditors::survivesItsTarget()
 {
-    auto* specimen = new test::Specimen;
-    PropertyRow row(specimen, "level");
-    delete specimen;
+    auto* sample = new test::SampleWidget;
+    PropertyRow row(sample, "level");
+    delete sample;
     row.refresh();
     control<QToolButton>(row, 1)->click();
     QCOMPARE(control<QSpinBox>(row)->value(), 51); // there is nothing to read it back from

@@ -29,9 +29,9 @@ public:
      * Shows or hides one \a section of the keypad, which changes its size hint.
      * A number that names no section of the layout is ignored.
      *
-     * The sections of the text layout are 0: letters, 1: digits, 2: symbols; at first only the letters
-     * are shown, and a key of the keypad exchanges them for the other two. The number layouts have one
-     * section, 0: digits, sign and separator.
+     * The sections of the text layout are 0: letters, 1: digits, 2: symbols; at first only the
+     * letters are shown, and a key of the keypad exchanges them for the other two. The number
+     * layouts have one section, 0: digits, sign and separator.
      */
     virtual void setSectionVisible(int section, bool visible) = 0;
 

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "FoldoutEditor.h"
+
+#include <QMetaEnum>
+#include <QVector>
+
+#include <array>
+
+class BoolEditor;
+class IntEditor;
+class PartsForm;
+QT_BEGIN_NAMESPACE
+class QCheckBox;
+class QComboBox;
+class QFont;
+class QFontComboBox;
+class QLabel;
+class QLineEdit;
+class QSlider;
+QT_END_NAMESPACE
+
+/// Edits the easing curve and the duration of a Style::Animation.
+class AnimationEditor : public FoldoutEditor
+{
+    Q_OBJECT
+
+public:
+    explicit AnimationEditor(QWidget* parent = nullptr);
+
+protected:
+    QString summary(const QVariant& value) const override;
+    QWidget* makeBody() override;
+    void fillBody(const QVariant& value) override;
+
+private:
+    void enterEasing(int index);
+    void enterDuration(const QVariant& duration);
+
+    QComboBox* m_easing;
+    IntEditor* m_duration;
+};
+
+/// Edits a colour by name and by its red, green, blue and alpha.
+class ColorEditor : public FoldoutEditor
+{
+    Q_OBJECT
+
+public:
+    explicit ColorEditor(QWidget* parent = nullptr);
+
+    void setValue(const QVariant& value) override;
+
+protected:
+    QString summary(const QVariant& value) const override;
+    QWidget* makeBody() override;
+    void fillBody(const QVariant& value) override;
+
+private:
+    void enterName(const QString& name);
+    void enterChannels();
+
+    QLabel* m_swatch;
+    QLineEdit* m_name;
+    std::array<QSlider*, 4> m_channels;
+};
+
+/// A check box for every key of one bit; keys of several bits, such as masks, are left out.
+class FlagsEditor : public FoldoutEditor
+{
+    Q_OBJECT
+
+public:
+    explicit FlagsEditor(const QMetaEnum& metaEnum, QWidget* parent = nullptr);
+
+protected:
+    QString summary(const QVariant& value) const override;
+    QWidget* makeBody() override;
+    void fillBody(const QVariant& value) override;
+
+private:
+    struct Flag
+    {
+        QString key;
+        uint bit;
+        QCheckBox* box;
+    };
+    QVector<Flag> m_flags;
+};
+
+/// Edits a font's family, size (in the unit that the font was given in), weight and slope.
+class FontEditor : public FoldoutEditor
+{
+    Q_OBJECT
+
+public:
+    explicit FontEditor(QWidget* parent = nullptr);
+
+protected:
+    QString summary(const QVariant& value) const override;
+    QWidget* makeBody() override;
+    void fillBody(const QVariant& value) override;
+
+private:
+    QFont shownFont() const;
+    BoolEditor* addSwitch(PartsForm* form, const QString& label, void (QFont::*set)(bool));
+
+    QFontComboBox* m_family;
+    IntEditor* m_size;
+    BoolEditor* m_bold;
+    BoolEditor* m_italic;
+    BoolEditor* m_underline;
+};
+
+/// Edits a QPoint, QSize or QRect by its numbers.
+class TupleEditor : public FoldoutEditor
+{
+    Q_OBJECT
+
+public:
+    explicit TupleEditor(QWidget* parent = nullptr);
+
+protected:
+    QString summary(const QVariant& value) const override;
+    QWidget* makeBody() override;
+    void fillBody(const QVariant& value) override;
+
+private:
+    void enterNumber(int index, int number);
+
+    QVector<IntEditor*> m_editors;
+};

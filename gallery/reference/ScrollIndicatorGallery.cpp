@@ -1,0 +1,83 @@
+#include "StateGalleries.h"
+
+#include <ui/ScrollIndicatorBar.h>
+
+#include <QCoreApplication>
+
+using ui::widgets::ScrollIndicatorBar;
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ScrollIndicatorGallery)
+};
+
+constexpr int length = 130;
+constexpr int range = 100;
+constexpr int pageStep = 50;
+
+ScrollIndicatorBar* makeBar(Qt::Orientation orientation, int value)
+{
+    auto* bar = new ScrollIndicatorBar(orientation);
+    const QSize vertical(ScrollIndicatorBar::PERPENDICULAR_SIZE, length);
+    bar->setFixedSize(orientation == Qt::Vertical ? vertical : vertical.transposed());
+    bar->setRange(0, range);
+    bar->setPageStep(pageStep);
+    bar->setValue(value);
+    return bar;
+}
+
+auto vertical(int value)
+{
+    return [value] { return makeBar(Qt::Vertical, value); };
+}
+
+auto horizontal(int value)
+{
+    return [value] { return makeBar(Qt::Horizontal, value); };
+}
+
+ScrollIndicatorBar* makeHighlighted()
+{
+    ScrollIndicatorBar* bar = makeBar(Qt::Vertical, range / 2);
+    bar->setHighlightBar(true);
+    return bar;
+}
+
+QWidget* makeLong()
+{
+    ScrollIndicatorBar* bar = makeBar(Qt::Vertical, range / 2);
+    bar->setPageStep(range / 20);
+    return bar;
+}
+
+QWidget* makeIdle()
+{
+    ScrollIndicatorBar* bar = makeBar(Qt::Vertical, 0);
+    bar->setRange(0, 0);
+    return bar;
+}
+
+} // namespace
+
+StateGallery stategalleries::scrollIndicator()
+{
+    return {QStringLiteral("ScrollIndicatorBar"),
+            4,
+            {
+                {Texts::tr("At the top"), vertical(0)},
+                {Texts::tr("In the middle"), vertical(range / 2)},
+                {Texts::tr("At the bottom"), vertical(range)},
+                {Texts::tr("Nothing to scroll"), makeIdle},
+                {Texts::tr("Highlighted"), makeHighlighted},
+                {Texts::tr("Much to scroll"), makeLong},
+                {Texts::tr("Dark palette"), vertical(range / 2), ClassState::Dark},
+                {Texts::tr("Dark, highlighted"), makeHighlighted, ClassState::Dark},
+                {Texts::tr("Horizontal, at the start"), horizontal(0)},
+                {Texts::tr("Horizontal, in the middle"), horizontal(range / 2)},
+                {Texts::tr("Horizontal, at the end"), horizontal(range)},
+                {Texts::tr("Right to left, near the start"), horizontal(range / 4),
+                 ClassState::Light, Qt::RightToLeft},
+            }};
+}
