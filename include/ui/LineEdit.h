@@ -23,8 +23,9 @@ namespace ui {
  * "inputValid" is true from construction on and is not reset when the focus changes; setText() does
  * not touch it.
  *
- * A screen reader hears of it as well: after an edit that is not acceptable, the field's accessible
- * description begins with "Invalid input", before what the application says there.
+ * A screen reader hears of it as well: after an edit that is not acceptable, what it is told as the
+ * field's description begins with "Invalid input", before what the application says there.
+ * QWidget::accessibleDescription() stays as the application wrote it.
  *
  * \anchor looks_LineEdit
  * \par Palette roles and style-sheet hooks

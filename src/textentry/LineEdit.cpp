@@ -1,6 +1,7 @@
 #include "ui/LineEdit.h"
 
-#include "../frame/accessibility/InvalidInput.h"
+#include "AccessibleField.h"
+#include "InvalidInput.h"
 
 #include <QKeyEvent>
 #include <QPointer>
@@ -35,16 +36,20 @@ LineEdit::LineEdit(QWidget* parent)
     connect(this, &LineEdit::signalOkKey, this, &LineEdit::onOkKey);
     connect(this, &QLineEdit::returnPressed, this, &LineEdit::onOkKey);
     connect(this, &LineEdit::signalCancelKey, this, &LineEdit::onCancelKey);
+    registerAccessibleFields();
 }
 
-LineEdit::~LineEdit() = default;
+LineEdit::~LineEdit()
+{
+    forgetValidity(this);
+}
 
 void LineEdit::textEditedSlot(const QString& text)
 {
     const bool valid = isAcceptable(validator(), text);
+    publishValidity(this, valid);
     setProperty(inputValidProperty, QVariant(valid));
     style()->polish(this);
-    describeValidity(*this, valid);
     Q_EMIT resultValidated(valid);
 }
 

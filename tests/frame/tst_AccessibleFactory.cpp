@@ -2,9 +2,11 @@
 
 #include <ClickableLabel.h>
 #include <ui/CBatteryStatusWidget.h>
+#include <ui/LineEdit.h>
 
 #include <QAccessibleWidget>
 #include <QTemporaryDir>
+#include <QValidator>
 
 #include <memory>
 
@@ -136,6 +138,13 @@ void tst_AccessibleFactory::everyApplicationFindsTheInterfaces()
     ClickableLabel label;
     QCOMPARE(roleOf(battery), QAccessible::ProgressBar);
     QCOMPARE(roleOf(label), QAccessible::Link);
+
+    ui::LineEdit field;
+    QIntValidator validator(10, 99);
+    field.setValidator(&validator);
+    QTest::keyClick(&field, Qt::Key_1);
+    QCOMPARE(QAccessible::queryAccessibleInterface(&field)->text(QAccessible::Description),
+             QStringLiteral("Invalid input"));
 }
 
 void tst_AccessibleFactory::derivedClassesAreFound()

@@ -1,0 +1,172 @@
+#include "AccessibleField.h"
+
+#include "../frame/AccessibleFactory.h"
+#include "InvalidInput.h"
+#include "ui/LineEdit.h"
+
+#include <QAccessibleWidget>
+#include <QColor>
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
+namespace ui {
+
+namespace {
+
+/// Stands for a widget in Qt's cache of interfaces, from the moment that it is told to.
+class StandIn : public QAccessibleWidget
+{
+public:
+    explicit StandIn(QWidget* widget)
+        : QAccessibleWidget(widget)
+    {
+    }
+
+    QObject* object() const override
+    {
+        return isInPlace ? QAccessibleWidget::object() : nullptr;
+    }
+
+    bool isInPlace = false;
+};
+
+/// Lets Qt ask for a new interface of \a field, and keeps the present one, which deleting would not.
+void releaseInterfaceOf(LineEdit* field)
+{
+    auto* standIn = new StandIn(field);
+    const QAccessible::Id id = QAccessible::registerAccessibleInterface(standIn);
+    standIn->isInPlace = true;
+    QAccessible::deleteAccessibleInterface(id);
+}
+
+/// An interface for each field, but none while its constructor asks for the one of the base class.
+QAccessibleInterface* makeInterface(const QString& className, QObject* object)
+{
+    static const QObject* beingMade = nullptr;
+    if (object == beingMade)
+        return nullptr;
+    const QScopedValueRollback<const QObject*> rollback(beingMade, object);
+    return makeAccessible<LineEdit, AccessibleField>(className, object);
+}
+
+} // namespace
+
+AccessibleField::AccessibleField(LineEdit* field)
+    : m_plain(QAccessible::queryAccessibleInterface(field))
+    , m_plainId(QAccessible::uniqueId(m_plain))
+{
+    releaseInterfaceOf(field);
+}
+
+AccessibleField::~AccessibleField()
+{
+    QAccessible::deleteAccessibleInterface(m_plainId);
+}
+
+QString AccessibleField::text(QAccessible::Text kind) const
+{
+    const QString plain = m_plain->text(kind);
+    if (kind != QAccessible::Description || !hasInvalidInput(object()))
+        return plain;
+    const QString note = QCoreApplication::translate("ui::LineEdit", "Invalid input");
+    return plain.isEmpty() ? note : note + QStringLiteral(". ") + plain;
+}
+
+bool AccessibleField::isValid() const
+{
+    return m_plain->isValid();
+}
+
+QObject* AccessibleField::object() const
+{
+    return m_plain->object();
+}
+
+QWindow* AccessibleField::window() const
+{
+    return m_plain->window();
+}
+
+QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
+AccessibleField::relations(QAccessible::Relation match) const
+{
+    return m_plain->relations(match);
+}
+
+QAccessibleInterface* AccessibleField::focusChild() const
+{
+    return m_plain->focusChild();
+}
+
+QAccessibleInterface* AccessibleField::childAt(int x, int y) const
+{
+    return m_plain->childAt(x, y);
+}
+
+QAccessibleInterface* AccessibleField::parent() const
+{
+    return m_plain->parent();
+}
+
+QAccessibleInterface* AccessibleField::child(int index) const
+{
+    return m_plain->child(index);
+}
+
+int AccessibleField::childCount() const
+{
+    return m_plain->childCount();
+}
+
+int AccessibleField::indexOfChild(const QAccessibleInterface* child) const
+{
+    return m_plain->indexOfChild(child);
+}
+
+void AccessibleField::setText(QAccessible::Text kind, const QString& text)
+{
+    m_plain->setText(kind, text);
+}
+
+QRect AccessibleField::rect() const
+{
+    return m_plain->rect();
+}
+
+QAccessible::Role AccessibleField::role() const
+{
+    return m_plain->role();
+}
+
+QAccessible::State AccessibleField::state() const
+{
+    return m_plain->state();
+}
+
+QColor AccessibleField::foregroundColor() const
+{
+    return m_plain->foregroundColor();
+}
+
+QColor AccessibleField::backgroundColor() const
+{
+    return m_plain->backgroundColor();
+}
+
+void AccessibleField::virtual_hook(int id, void* data)
+{
+    m_plain->virtual_hook(id, data);
+}
+
+void* AccessibleField::interface_cast(QAccessible::InterfaceType type)
+{
+    return m_plain->interface_cast(type);
+}
+
+void registerAccessibleFields()
+{
+    static const AccessibleFactory factory(makeInterface);
+    factory.install();
+}
+
+} // namespace ui
