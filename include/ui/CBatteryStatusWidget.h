@@ -78,7 +78,11 @@ public:
      * Sets the width of the outline in pixels; 4 by default.
      *
      * The corner radius follows at once; body and terminal follow at the next resize. The widget
-     * is repainted. Any value is kept; an outline of 0 or less is drawn as a line of one pixel.
+     * is repainted.
+     *
+     * Any value is kept. At 0 the outlines of body, terminal and bolt are lines of one pixel of the
+     * screen. With a negative width they are not drawn at all; fill, terminal and the inside of the
+     * bolt are, and the fill reaches half that width beyond the body.
      */
     void setFrameWidth(int width);
 

@@ -73,11 +73,6 @@ QRect boltBox(const QRect& body, qint64 frameWidth)
                       body.top() + (body.height() - height) / 2 + frameWidth, width, height);
 }
 
-double penWidth(double width)
-{
-    return qBound(0.0, width, widestPen);
-}
-
 /// A gradient from the bottom left to the top right corner of whatever it fills.
 QBrush diagonalGradient(const QColor& bottomLeft, const QColor& topRight)
 {
@@ -303,8 +298,8 @@ void CBatteryStatusWidget::paintBatteryFrame(QStylePainter& painter, bool paintT
 {
     const bool present = m_flags & BatteryPresent;
     const QBrush foreground = palette().brush(QPalette::Current, foregroundRole());
-    painter.setPen(QPen(foreground, penWidth(m_frameWidth), present ? Qt::SolidLine : Qt::DashLine,
-                        Qt::SquareCap, Qt::BevelJoin));
+    painter.setPen(QPen(foreground, qMin(double(m_frameWidth), widestPen),
+                        present ? Qt::SolidLine : Qt::DashLine, Qt::SquareCap, Qt::BevelJoin));
 
     // The painter has no brush yet: of the body only the outline is drawn, over the fill.
     if (paintBody)
@@ -322,8 +317,8 @@ void CBatteryStatusWidget::paintBatteryFrame(QStylePainter& painter, bool paintT
 void CBatteryStatusWidget::paintChargingIcon(QStylePainter& painter)
 {
     static const QColor penColor = boltColor.darker(150);
-    painter.setPen(
-        QPen(penColor, penWidth(m_frameWidth / 2.0), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setPen(QPen(penColor, qMin(m_frameWidth / 2.0, widestPen), Qt::SolidLine, Qt::SquareCap,
+                        Qt::BevelJoin));
     painter.setBrush(diagonalGradient(boltColor.darker(125), boltColor.lighter(125)));
     painter.drawPath(boltPath(m_chargingIconRect));
 }

@@ -182,8 +182,9 @@ private Q_SLOTS:
     void absentBatteryIgnoresChargeAndCharging();
     void boltLiesOnTop();
     void boltPoints();
-    void hairlineFrame_data();
     void hairlineFrame();
+    void noFrameOfNegativeWidth_data();
+    void noFrameOfNegativeWidth();
 
     void terminalAlone();
     void terminalAloneWithoutFill();
@@ -211,7 +212,7 @@ void tst_CBatteryStatusWidgetPainting::everyLook()
     const QBrush foreground = palette.brush(QPalette::Active, QPalette::WindowText);
     Look look;
     for (const QSize& size : {QSize(40, 80), QSize(100, 80), QSize(61, 131), QSize(12, 20)}) {
-        for (const int frameWidth : {1, 4, 5}) {
+        for (const int frameWidth : {-6, -3, -2, -1, 0, 1, 4, 5}) {
             for (const int percent : {0, 1, 50, 99, 100}) {
                 for (const int flags : {0, 1, 2, 3}) {
                     look = {size,         frameWidth, percent, bool(flags & 1), bool(flags & 2),
@@ -421,30 +422,54 @@ void tst_CBatteryStatusWidgetPainting::boltPoints()
     QVERIFY(isBolt(box.left() + 1, box.bottom() - 2));
 }
 
-void tst_CBatteryStatusWidgetPainting::hairlineFrame_data()
-{
-    QTest::addColumn<int>("frameWidth");
-    QTest::newRow("zero") << 0;
-    QTest::newRow("negative") << -6;
-}
-
+/// A pen of no width draws a line of one pixel, at every device pixel ratio.
 void tst_CBatteryStatusWidgetPainting::hairlineFrame()
 {
-    QFETCH(int, frameWidth);
+    Look look;
+    look.size = QSize(100, 80);
+    look.frameWidth = 0;
+    look.percent = 0;
     CBatteryStatusWidget widget;
-    widget.resize(60, 100);
-    widget.setFrameWidth(frameWidth);
-    const QImage image = test::paintedBy(widget);
-    const QRect body = test::BatteryState(widget).body;
-    const QBrush foreground = widget.palette().brush(QPalette::WindowText);
+    look.applyTo(widget);
+    const int black = qGray(widget.palette().color(QPalette::WindowText).rgb());
+    const QPoint centre = look.layout().body.center();
+    for (const int ratio : {1, 2}) {
+        const QImage image = test::paintedBy(widget, ratio);
+        int covered = 0; // of the row's pixels left of the middle, in all
+        for (int x = 0; x < centre.x() * ratio; ++x)
+            covered += 255 - qGray(image.pixel(x, centre.y() * ratio));
+        QVERIFY(qAbs(covered - (255 - black)) <= 2);
+    }
+}
 
-    QImage expected = test::canvas(widget.size());
+void tst_CBatteryStatusWidgetPainting::noFrameOfNegativeWidth_data()
+{
+    QTest::addColumn<int>("frameWidth");
+    QTest::newRow("one") << -1;
+    QTest::newRow("more") << -6;
+}
+
+/// Nothing but the fill and the terminal is left, and of the bolt its inside.
+void tst_CBatteryStatusWidgetPainting::noFrameOfNegativeWidth()
+{
+    QFETCH(int, frameWidth);
+    Look look;
+    look.size = QSize(100, 80);
+    look.frameWidth = frameWidth;
+    look.charging = true;
+    CBatteryStatusWidget widget;
+    look.applyTo(widget);
+    const QBrush foreground = widget.palette().brush(QPalette::WindowText);
+    const BatteryLayout layout = look.layout();
+    QVERIFY(layout.body.left() > 0 && layout.body.right() < 99); // where an outline would show
+
+    QImage expected = test::canvas(look.size);
     QPainter painter(&expected);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(foreground, 0));
-    painter.drawRect(QRectF(body));
-    const QRect edge(body.right() - 3, body.center().y(), 8, 4);
-    QVERIFY(test::sameImage(image.copy(edge), expected.copy(edge)));
+    look.drawFill(painter, foreground);
+    painter.fillRect(layout.top, foreground);
+    look.drawBolt(painter);
+    QVERIFY(test::sameImage(test::paintedBy(widget), expected));
 }
 
 void tst_CBatteryStatusWidgetPainting::terminalAlone()
