@@ -53,7 +53,13 @@ public Q_SLOTS:
      */
     void setup(int duration, QEasingCurve easing = QEasingCurve(QEasingCurve::Linear));
 
-    /// Animates from \a start to \a end, from time 0 whether or not the animation is under way.
+    /**
+     * Animates from \a start to \a end: sets both values and starts the animation.
+     *
+     * One that is running begins again, at time 0 or, backwards, at its end. It does so without a
+     * change of state: nothing is emitted but valueChanged(), and one that was started with
+     * DeleteWhenStopped is deleted when it ends. A paused animation goes on where it was paused.
+     */
     void interpolate(const QVariant& start, const QVariant& end);
 
     /**

@@ -6,6 +6,34 @@
 
 #include <utility>
 
+namespace {
+
+/// Where QAbstractAnimation begins an animation.
+int startTime(const QAbstractAnimation& animation)
+{
+    if (animation.direction() == QAbstractAnimation::Forward)
+        return 0;
+    return animation.loopCount() < 0 ? animation.duration() : animation.totalDuration();
+}
+
+/**
+ * Lets a running \a animator begin again, which start() does not do, and stop() not without ending it
+ * for everybody who listens.
+ */
+void restart(Animator& animator)
+{
+    // Or Qt's timer would add the time since its last tick. Without an end value there is no motion
+    // to be cut short, but a warning for each change of state.
+    if (animator.endValue().isValid()) {
+        const QSignalBlocker silence(&animator);
+        animator.pause();
+        animator.resume();
+    }
+    animator.setCurrentTime(startTime(animator));
+}
+
+} // namespace
+
 Animator::Animator(QObject* object, QObject* parent)
     : QVariantAnimation(parent)
 {
@@ -42,14 +70,16 @@ void Animator::setup(int duration, QEasingCurve easing)
 
 void Animator::interpolate(const QVariant& start, const QVariant& end)
 {
-    const QPointer<Animator> self(this);
-    // start() does nothing while the animation runs and goes on from where it was paused.
-    stop();
-    if (!self) // a slot of stateChanged() may have deleted the animator
-        return;
+    const QPointer<Animator> self(this); // a slot of valueChanged() may delete the animator
     setStartValue(start);
-    setEndValue(end);
-    this->start(QAbstractAnimation::KeepWhenStopped);
+    if (self)
+        setEndValue(end);
+    if (!self)
+        return;
+    if (state() == QAbstractAnimation::Running)
+        restart(*this);
+    else
+        this->start(QAbstractAnimation::KeepWhenStopped);
 }
 
 void Animator::setCurrentValue(const QVariant& value)

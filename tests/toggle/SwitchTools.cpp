@@ -13,6 +13,13 @@ void Animators::holdAt(int msec) const
     }
 }
 
+void Animators::runFrom(int msec) const
+{
+    holdAt(msec);
+    for (Animator* animator : {thumbBrush, trackBrush, thumbPos})
+        animator->resume();
+}
+
 Animators animatorsOf(const Switch& control)
 {
     const QList<Animator*> all = control.findChildren<Animator*>();

@@ -14,6 +14,9 @@ struct Animators
 
     /// Stops the clock of all three \a msec milliseconds into their transition.
     void holdAt(int msec) const;
+
+    /// Has all three run, \a msec milliseconds into their transition.
+    void runFrom(int msec) const;
 };
 
 Animators animatorsOf(const Switch& control);

@@ -15,6 +15,29 @@ const char noTarget[] = "Animation::updateState: Changing state of an animation 
 const char noEndValue[] =
     "Animation::updateState (QObject): starting an animation without end value";
 
+/// Lets time pass for animations as the test has it.
+class ManualDriver : public QAnimationDriver
+{
+public:
+    qint64 elapsed() const override
+    {
+        return m_time;
+    }
+    /// The application is busy, and nothing ticks.
+    void block(int milliseconds)
+    {
+        m_time += milliseconds;
+    }
+    void pass(int milliseconds)
+    {
+        m_time += milliseconds;
+        advance();
+    }
+
+private:
+    qint64 m_time = 0;
+};
+
 QByteArray lastCategory;
 
 void keepCategory(QtMsgType, const QMessageLogContext& context, const QString&)
@@ -44,11 +67,18 @@ private Q_SLOTS:
     void interpolate();
     void interpolateRestarts_data();
     void interpolateRestarts();
+    void interpolateGoesOnWherePaused();
+    void interpolateRestartsTheClock();
+    void interpolateKeepsTheDeletionPolicy();
+    void interpolateWithoutEndValueWhileRunning();
+    void interpolateWithoutTargetWhileRunning();
     void setCurrentValueTellsOnce_data();
     void setCurrentValueTellsOnce();
     void setCurrentValueIsSeenWhole_data();
     void setCurrentValueIsSeenWhole();
     void deletedInValueChanged();
+    void deletedInInterpolate_data();
+    void deletedInInterpolate();
     void deletedInStateChanged();
     void setCurrentValueTakesAnything_data();
     void setCurrentValueTakesAnything();
@@ -253,29 +283,124 @@ void tst_Animator::interpolate()
 
 void tst_Animator::interpolateRestarts_data()
 {
-    QTest::addColumn<bool>("paused");
-    QTest::newRow("running") << false;
-    QTest::newRow("paused") << true;
+    QTest::addColumn<QAbstractAnimation::Direction>("direction");
+    QTest::addColumn<int>("loopCount");
+    QTest::addColumn<int>("startTime");
+    QTest::newRow("forwards") << QAbstractAnimation::Forward << 1 << 0;
+    QTest::newRow("forwards, endless") << QAbstractAnimation::Forward << -1 << 0;
+    QTest::newRow("backwards") << QAbstractAnimation::Backward << 1 << 100;
+    QTest::newRow("backwards, twice") << QAbstractAnimation::Backward << 2 << 200;
+    QTest::newRow("backwards, endless") << QAbstractAnimation::Backward << -1 << 100;
 }
 
+/// Where start() begins, and with no more to be heard than the new values.
 void tst_Animator::interpolateRestarts()
 {
-    QFETCH(bool, paused);
+    QFETCH(QAbstractAnimation::Direction, direction);
+    QFETCH(int, loopCount);
+    QFETCH(int, startTime);
+    QObject target;
+    Animator animator(&target, nullptr);
+    animator.setup(100);
+    animator.setLoopCount(loopCount);
+    animator.setDirection(direction);
+    animator.interpolate(0, 10);
+    animator.pause();
+    animator.setCurrentTime(60);
+    animator.resume();
+
+    int stateChanges = 0;
+    connect(&animator, &Animator::stateChanged, &target, [&] { ++stateChanges; });
+    const QSignalSpy finished(&animator, &Animator::finished);
+    const QSignalSpy values(&animator, &Animator::valueChanged);
+    test::UpdateCounter updates(&target);
+    animator.interpolate(50, 70);
+    QCOMPARE(animator.state(), QAbstractAnimation::Running);
+    QCOMPARE(animator.currentLoop() * 100 + animator.currentLoopTime(), startTime);
+    const bool forwards = direction == QAbstractAnimation::Forward;
+    QCOMPARE(animator.currentValue(), QVariant(forwards ? 50 : 70));
+    QCOMPARE(stateChanges, 0);
+    QCOMPARE(finished.size(), 0);
+    // From 50 on to the end that was, then to the new one, then where the animation begins.
+    const QVariantList expected{26, 62, forwards ? 50 : 70};
+    QCOMPARE(values.size(), 3);
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(values.at(i).first().value<QVariant>(), expected.at(i));
+    QCOMPARE(updates.take(), 3);
+}
+
+void tst_Animator::interpolateGoesOnWherePaused()
+{
     QObject target;
     Animator animator(&target, nullptr);
     animator.setup(100);
     animator.interpolate(0, 10);
     animator.pause();
     animator.setCurrentTime(60);
-    if (!paused)
-        animator.resume();
     animator.interpolate(50, 70);
     QCOMPARE(animator.state(), QAbstractAnimation::Running);
+    QCOMPARE(animator.currentTime(), 60);
+    QCOMPARE(animator.currentValue(), QVariant(62));
+}
+
+/// The time that passed before it, in which Qt's timer may have had no chance to tick, does not count.
+void tst_Animator::interpolateRestartsTheClock()
+{
+    ManualDriver driver;
+    driver.install();
+    QObject target;
+    Animator animator(&target, nullptr);
+    animator.setup(100);
+    for (const int end : {10, 20, 30}) {
+        animator.interpolate(0, end);
+        QCoreApplication::processEvents(); // in which Qt takes the animation up
+        QCoreApplication::processEvents(); // and starts the clock, if it was idle
+        driver.pass(40);
+        QCOMPARE(animator.currentTime(), 40);
+        driver.block(5000);
+    }
+    animator.stop();
+    driver.uninstall();
+}
+
+void tst_Animator::interpolateKeepsTheDeletionPolicy()
+{
+    QObject target;
+    const QPointer<Animator> animator = new Animator(&target, nullptr);
+    animator->setStartValue(0);
+    animator->setEndValue(10);
+    animator->start(QAbstractAnimation::DeleteWhenStopped);
+    animator->interpolate(0, 20);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(animator);
+    animator->stop();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!animator);
+}
+
+/// Neither the end value that was missing nor the one that is: no state changes.
+void tst_Animator::interpolateWithoutEndValueWhileRunning()
+{
+    QObject target;
+    Animator animator(&target, nullptr);
+    QTest::ignoreMessage(QtWarningMsg, noEndValue);
+    animator.interpolate(0, QVariant());
+    animator.interpolate(0, QVariant());
+    animator.interpolate(0, 10);
+    animator.interpolate(0, QVariant());
+    QCOMPARE(animator.state(), QAbstractAnimation::Running);
     QCOMPARE(animator.currentTime(), 0);
-    QCOMPARE(animator.currentValue(), QVariant(50));
-    animator.pause();
-    animator.setCurrentTime(100);
-    QCOMPARE(animator.currentValue(), QVariant(70));
+    animator.setEndValue(1);
+}
+
+void tst_Animator::interpolateWithoutTargetWhileRunning()
+{
+    auto target = std::make_unique<QObject>();
+    Animator animator(target.get(), nullptr);
+    animator.interpolate(0, 10);
+    target.reset();
+    animator.interpolate(20, 30);
+    QCOMPARE(animator.currentValue(), QVariant(20));
 }
 
 void tst_Animator::setCurrentValueTellsOnce_data()
@@ -361,11 +486,36 @@ void tst_Animator::deletedInValueChanged()
     QCOMPARE(updates.take(), 0);
 }
 
+void tst_Animator::deletedInInterpolate_data()
+{
+    QTest::addColumn<int>("signalNumber");
+    QTest::newRow("start value") << 1;
+    QTest::newRow("end value") << 2;
+}
+
+/// Only a slot of the value that starting itself reports is called while Qt is not finished.
+void tst_Animator::deletedInInterpolate()
+{
+    QFETCH(int, signalNumber);
+    QObject target;
+    QPointer<Animator> animator = new Animator(&target, nullptr);
+    animator->setup(100);
+    animator->interpolate(0, 10);
+    animator->setCurrentTime(50);
+    int count = 0;
+    connect(animator, &Animator::valueChanged, &target, [&] {
+        if (++count == signalNumber)
+            delete std::exchange(animator, nullptr);
+    });
+    animator->interpolate(40, 60);
+    QVERIFY(!animator);
+    QCOMPARE(count, signalNumber);
+}
+
 void tst_Animator::deletedInStateChanged()
 {
     QObject target;
     QPointer<Animator> animator = new Animator(&target, nullptr);
-    animator->interpolate(0, 10);
     const auto deleteOnce = [&animator] { delete std::exchange(animator, nullptr); };
     connect(animator, &Animator::stateChanged, &target, deleteOnce);
     animator->interpolate(0, 10);

@@ -249,11 +249,17 @@ void tst_SwitchRobustness::deletedByItsAnimator()
     QFETCH(int, index);
     for (const bool running : {false, true}) {
         QPointer<Switch> control = new Switch;
+        control->setThumbOnOpacity(0.5); // or no colour would change
         control->show();
-        if (running)
+        const auto deleteControl = [&control] { delete std::exchange(control, nullptr); };
+        Animator* animator = control->findChildren<Animator*>().at(index);
+        if (running) {
             control->setChecked(true);
-        connect(control->findChildren<Animator*>().at(index), &Animator::stateChanged,
-                [&control] { delete std::exchange(control, nullptr); });
+            test::animatorsOf(*control).runFrom(75);
+            connect(animator, &Animator::valueChanged, deleteControl);
+        } else {
+            connect(animator, &Animator::stateChanged, deleteControl);
+        }
         QTest::mouseClick(control, Qt::LeftButton);
         QVERIFY(!control);
     }

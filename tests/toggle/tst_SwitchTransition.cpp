@@ -197,6 +197,7 @@ void tst_SwitchTransition::animatorsStartInOrder()
     control().setChecked(true);
     QCOMPARE(order, expected);
     order.clear();
+    settle();
     control().setChecked(false);
     QCOMPARE(order, expected);
 }
@@ -214,7 +215,7 @@ void tst_SwitchTransition::clickStartsIt()
 void tst_SwitchTransition::offMidwayStartsAtThePositionReached()
 {
     control().setChecked(true);
-    animators().holdAt(75);
+    animators().runFrom(75);
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(18));
     control().setChecked(false);
     QCOMPARE(animators().thumbPos->startValue(), QVariant(18));
@@ -234,7 +235,7 @@ void tst_SwitchTransition::onMidwayStartsFromTheOffEnd()
     control().setChecked(true);
     settle();
     control().setChecked(false);
-    animators().holdAt(75);
+    animators().runFrom(75);
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(18));
     control().setChecked(true);
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(0));
