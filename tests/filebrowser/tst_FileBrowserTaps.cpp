@@ -2,10 +2,10 @@
 #include "BrowserParts.h"
 #include "ClickableLabel.h"
 #include "OpenMenu.h"
-#include "RealMouse.h"
 #include "TestApplication.h"
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"
+#include "XPointer.h"
 
 #include <QComboBox>
 #include <QListView>
@@ -16,6 +16,18 @@
 #include <memory>
 
 using namespace test;
+
+namespace {
+
+/// Taps the entry \a name of \a view.
+bool tapEntry(QAbstractItemView& view, const QString& name)
+{
+    const QModelIndex index = entry(view, name);
+    view.scrollTo(index);
+    return index.isValid() && XPointer::tap(*view.viewport(), view.visualRect(index).center());
+}
+
+} // namespace
 
 /// The browser in a window of a real X server, used with the server's pointer.
 class tst_FileBrowserTaps : public QObject
@@ -95,7 +107,7 @@ void tst_FileBrowserTaps::openADirectoryAndComeBackByACrumb()
     QVERIFY(open(QStringLiteral("a")));
     QVERIFY(open(QStringLiteral("b")));
     QVERIFY(settled({"a", "b"}));
-    QVERIFY(tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
+    QVERIFY(XPointer::tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
     QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top/a")));
     QVERIFY(settled({"a"}));
     QTRY_COMPARE(shownNames(*m_parts->tileView), QStringList{"b"});
@@ -109,9 +121,9 @@ void tst_FileBrowserTaps::comeBackByTheMenu()
     QTRY_VERIFY(moreButton(*m_parts->bar)->isVisible());
 
     whenMenuOpens(this, [](QMenu& menu) {
-        tap(menu, menu.actionGeometry(menu.actions().constFirst()).center());
+        XPointer::tap(menu, menu.actionGeometry(menu.actions().constFirst()).center());
     });
-    QVERIFY(tap(*moreButton(*m_parts->bar)));
+    QVERIFY(XPointer::tap(*moreButton(*m_parts->bar)));
     QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top")) + "/a");
     QVERIFY(settled({"a"}));
     QVERIFY(moreButton(*m_parts->bar)->isHidden());
@@ -119,13 +131,13 @@ void tst_FileBrowserTaps::comeBackByTheMenu()
 
 void tst_FileBrowserTaps::switchViews()
 {
-    QVERIFY(tap(*m_parts->listButton));
+    QVERIFY(XPointer::tap(*m_parts->listButton));
     QTRY_VERIFY(m_parts->listView->isVisible());
     QVERIFY(!m_parts->tileView->isVisible());
     QVERIFY(tapEntry(*m_parts->listView, QStringLiteral("a")));
     QTRY_COMPARE(m_browser->selectedFiles(), QStringList{m_tree.path(QStringLiteral("top/a"))});
     QCOMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top")));
-    QVERIFY(tap(*m_parts->tileButton));
+    QVERIFY(XPointer::tap(*m_parts->tileButton));
     QTRY_VERIFY(m_parts->tileView->isVisible());
     QVERIFY(!m_parts->listView->isVisible());
 }
@@ -141,10 +153,11 @@ void tst_FileBrowserTaps::pickAFile()
 void tst_FileBrowserTaps::chooseAnotherRoot()
 {
     QVERIFY(open(QStringLiteral("a")));
-    QVERIFY(tap(*m_parts->combo));
+    QVERIFY(XPointer::tap(*m_parts->combo));
     QAbstractItemView* popup = m_parts->combo->view();
     QTRY_VERIFY(popup->isVisible() && popup->window()->windowHandle()->isExposed());
-    QVERIFY(tap(*popup->viewport(), popup->visualRect(popup->model()->index(1, 0)).center()));
+    QVERIFY(
+        XPointer::tap(*popup->viewport(), popup->visualRect(popup->model()->index(1, 0)).center()));
     QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("other")));
     QCOMPARE(crumbs(*m_parts->bar), QStringList());
     QTRY_COMPARE(shownNames(*m_parts->tileView), QStringList{"inside"});
@@ -162,7 +175,7 @@ void tst_FileBrowserTaps::browserDeletedByACrumb()
     QVERIFY(open(QStringLiteral("a")));
     QVERIFY(settled({"a"}));
     connect(m_parts->bar, &BreadCrumbsWidget::dirChanged, this, [this] { delete m_browser; });
-    QVERIFY(tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
+    QVERIFY(XPointer::tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
     QTRY_VERIFY(m_browser.isNull());
 }
 

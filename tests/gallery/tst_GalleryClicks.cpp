@@ -5,15 +5,17 @@
 #include "properties/PropertyRow.h"
 #include "SampleWidget.h"
 #include "TestApplication.h"
+#include "XPointer.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
-#include <QProcess>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QToolButton>
+
+using test::XPointer;
 
 namespace {
 
@@ -47,55 +49,11 @@ private Q_SLOTS:
     void choosesFromCombo();
 
 private:
-    static bool xdotool(const QStringList& arguments);
-    static bool click(const QWidget* widget, const QPoint& position);
-    static bool click(const QWidget* widget);
-    static bool drag(const QWidget* widget, const QPoint& from, const QPoint& to);
     PropertyRow* row(const QByteArray& name) const;
 
     GalleryWindow* m_window = nullptr;
     PropertyEditor* m_properties = nullptr;
 };
-
-bool tst_GalleryClicks::xdotool(const QStringList& arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(QStringLiteral("xdotool"), arguments);
-    QEventLoop loop; // the clicks reach this program while xdotool runs
-    connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
-            &QEventLoop::quit);
-    connect(&process, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
-    loop.exec();
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-}
-
-bool tst_GalleryClicks::click(const QWidget* widget, const QPoint& position)
-{
-    const QPoint global = widget->mapToGlobal(position);
-    return xdotool({QStringLiteral("mousemove"), QString::number(global.x()),
-                    QString::number(global.y()), QStringLiteral("click"), QStringLiteral("1")});
-}
-
-bool tst_GalleryClicks::click(const QWidget* widget)
-{
-    return click(widget, widget->rect().center());
-}
-
-bool tst_GalleryClicks::drag(const QWidget* widget, const QPoint& from, const QPoint& to)
-{
-    constexpr int steps = 10;
-    QStringList arguments;
-    for (int step = 0; step <= steps; ++step) {
-        const QPoint global = widget->mapToGlobal(from + (to - from) * step / steps);
-        arguments << QStringLiteral("mousemove") << QString::number(global.x())
-                  << QString::number(global.y());
-        if (step == 0)
-            arguments << QStringLiteral("mousedown") << QStringLiteral("1");
-        arguments << QStringLiteral("sleep") << QStringLiteral("0.02"); // as fast as a finger
-    }
-    return xdotool(arguments << QStringLiteral("mouseup") << QStringLiteral("1"));
-}
 
 PropertyRow* tst_GalleryClicks::row(const QByteArray& name) const
 {
@@ -125,14 +83,15 @@ void tst_GalleryClicks::dragsPage()
 {
     const QWidget* area = m_window->page()->parentWidget();
     const QPoint start(area->width() / 2, area->height() - 20);
-    QVERIFY(drag(area, start, start - QPoint(0, 250)));
+    const QPoint end = area->mapToGlobal(start - QPoint(0, 250));
+    QVERIFY(XPointer::drag(area->mapToGlobal(start), end));
     QTRY_VERIFY(m_window->page()->y() < -150);
 }
 
 void tst_GalleryClicks::choosesPage()
 {
     const auto* list = m_window->findChild<QListWidget*>(QStringLiteral("pageList"));
-    QVERIFY(click(list->viewport(), list->visualItemRect(list->item(1)).center()));
+    QVERIFY(XPointer::tap(*list->viewport(), list->visualItemRect(list->item(1)).center()));
     QTRY_VERIFY(qobject_cast<test::SamplePage*>(m_window->page()));
     QTRY_VERIFY(m_properties->isVisible());
 }
@@ -140,27 +99,27 @@ void tst_GalleryClicks::choosesPage()
 void tst_GalleryClicks::switchesAppearance()
 {
     const auto* dark = m_window->findChild<QCheckBox*>(QStringLiteral("darkSwitch"));
-    QVERIFY(click(dark));
+    QVERIFY(XPointer::tap(*dark));
     QTRY_COMPARE(m_window->palette().color(QPalette::Window),
                  Appearance::darkPalette().color(QPalette::Window));
     const auto* mirrored = m_window->findChild<QCheckBox*>(QStringLiteral("rightToLeftSwitch"));
-    QVERIFY(click(mirrored));
+    QVERIFY(XPointer::tap(*mirrored));
     QTRY_COMPARE(m_window->layoutDirection(), Qt::RightToLeft);
     QTRY_VERIFY(m_properties->x() < m_window->width() / 2);
-    QVERIFY(click(mirrored));
+    QVERIFY(XPointer::tap(*mirrored));
     QTRY_VERIFY(m_properties->x() > m_window->width() / 2);
 }
 
 void tst_GalleryClicks::picksDemoWidgetAndEditsIt()
 {
     QWidget* second = m_window->page()->demoWidgets().at(1).widget;
-    QVERIFY(click(second));
+    QVERIFY(XPointer::tap(*second));
     QTRY_COMPARE(m_properties->target(), second);
     QTRY_VERIFY(row("level"));
     const QList<QToolButton*> buttons = row("level")->findChildren<QToolButton*>();
-    QVERIFY(click(buttons.at(1)));
+    QVERIFY(XPointer::tap(*buttons.at(1)));
     QTRY_COMPARE(second->property("level").toInt(), 51);
-    QVERIFY(click(row("marked")->findChild<QCheckBox*>()));
+    QVERIFY(XPointer::tap(*row("marked")->findChild<QCheckBox*>()));
     QTRY_COMPARE(second->property("marked"), QVariant(true));
 }
 
@@ -169,7 +128,8 @@ void tst_GalleryClicks::dragsProperties()
     const auto* area = m_properties->findChild<QScrollArea*>();
     const QPoint start(area->width() / 2, area->height() - 20);
     const int level = m_properties->target()->property("level").toInt();
-    QVERIFY(drag(area, start, start - QPoint(0, 250)));
+    const QPoint end = area->mapToGlobal(start - QPoint(0, 250));
+    QVERIFY(XPointer::drag(area->mapToGlobal(start), end));
     QTRY_VERIFY(area->widget()->y() < -150);
     QCOMPARE(m_properties->target()->property("level").toInt(), level); // no button was hit
 }
@@ -177,11 +137,12 @@ void tst_GalleryClicks::dragsProperties()
 void tst_GalleryClicks::choosesFromCombo()
 {
     const auto* choice = m_properties->findChild<QComboBox*>(QStringLiteral("widgetChoice"));
-    QVERIFY(click(choice));
+    QVERIFY(XPointer::tap(*choice));
     QTRY_VERIFY(QApplication::activePopupWidget());
     const QAbstractItemView* items = choice->view();
     QTRY_VERIFY(items->isVisible());
-    QVERIFY(click(items->viewport(), items->visualRect(choice->model()->index(0, 0)).center()));
+    QVERIFY(XPointer::tap(*items->viewport(),
+                          items->visualRect(choice->model()->index(0, 0)).center()));
     QTRY_COMPARE(m_properties->target(), m_window->page()->demoWidgets().at(0).widget);
 }
 

@@ -1,27 +1,41 @@
 #pragma once
 
-#include "ui/CBatteryStatusWidget.h"
+#include "PrivateFields.h"
 
-#include <QtMath>
+#include <ui/CBatteryStatusWidget.h>
 
-#include <cstring>
+#include <QVector>
 
 namespace test {
 
-/**
- * The fields of a battery widget, in the order that is part of its binary interface.
- *
- * They have no getters; what they hold is read from the object itself.
- */
+struct BatteryFields
+{
+    friend auto fieldsOf(BatteryFields);
+};
+template struct PrivateFields<
+    BatteryFields, &ui::CBatteryStatusWidget::m_frameWidth,
+    &ui::CBatteryStatusWidget::m_cornerRadius, &ui::CBatteryStatusWidget::m_flags,
+    &ui::CBatteryStatusWidget::m_charge, &ui::CBatteryStatusWidget::m_batteryRect,
+    &ui::CBatteryStatusWidget::m_topRect, &ui::CBatteryStatusWidget::m_chargingIconRect,
+    &ui::CBatteryStatusWidget::m_fillBrush>;
+
+/// What the fields of a battery hold: they have no getters.
 struct BatteryState
 {
     explicit BatteryState(const ui::CBatteryStatusWidget& widget)
     {
-        static_assert(sizeof(BatteryState) == sizeof(ui::CBatteryStatusWidget));
-        std::memcpy(static_cast<void*>(this), static_cast<const void*>(&widget), sizeof(*this));
+        const auto fields = fieldsOf(BatteryFields());
+        frameWidth = widget.*std::get<0>(fields);
+        cornerRadius = widget.*std::get<1>(fields);
+        flags = widget.*std::get<2>(fields);
+        charge = widget.*std::get<3>(fields);
+        body = widget.*std::get<4>(fields);
+        top = widget.*std::get<5>(fields);
+        bolt = widget.*std::get<6>(fields);
+        QBrush brush = widget.*std::get<7>(fields);
+        fillBrush = brush.data_ptr().data();
     }
 
-    alignas(QWidget) unsigned char base[sizeof(QWidget)];
     int frameWidth;
     double cornerRadius;
     int flags;
@@ -29,8 +43,18 @@ struct BatteryState
     QRect body;
     QRect top;
     QRect bolt;
-    void* fillBrush;
+    const void* fillBrush; ///< The brush's data, to see whether it is another.
 };
+
+/// Where the fields lie in the object, in bytes, in the order of their declaration.
+inline QVector<qintptr> fieldOffsets(const ui::CBatteryStatusWidget& widget)
+{
+    const auto offset = [&widget](const auto& field) {
+        return reinterpret_cast<qintptr>(&field) - reinterpret_cast<qintptr>(&widget);
+    };
+    return std::apply([&](auto... fields) { return QVector<qintptr>{offset(widget.*fields)...}; },
+                      fieldsOf(BatteryFields()));
+}
 
 /// Where the three rectangles belong, computed step by step from the rule.
 struct BatteryLayout

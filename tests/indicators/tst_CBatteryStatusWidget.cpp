@@ -51,6 +51,36 @@ void resized(CBatteryStatusWidget& widget, const QSize& size)
     QCoreApplication::sendEvent(&widget, &event);
 }
 
+/// As an application has it that was built against the first library.
+struct LaidOutBattery : QWidget
+{
+    int frameWidth;
+    double cornerRadius;
+    int flags;
+    double charge;
+    QRect body;
+    QRect top;
+    QRect bolt;
+    QBrush fillBrush;
+};
+
+QVector<qintptr> fieldOffsets(const LaidOutBattery& battery)
+{
+    QVector<qintptr> offsets;
+    const auto add = [&](const auto& field) {
+        offsets.append(reinterpret_cast<qintptr>(&field) - reinterpret_cast<qintptr>(&battery));
+    };
+    add(battery.frameWidth);
+    add(battery.cornerRadius);
+    add(battery.flags);
+    add(battery.charge);
+    add(battery.body);
+    add(battery.top);
+    add(battery.bolt);
+    add(battery.fillBrush);
+    return offsets;
+}
+
 } // namespace
 
 class tst_CBatteryStatusWidget : public QObject
@@ -58,6 +88,7 @@ class tst_CBatteryStatusWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void fieldsAreLaidOutInOrder();
     void goldenRatio();
     void metaObject();
     void construction();
@@ -91,6 +122,12 @@ private Q_SLOTS:
     void tooLowExtendsBothWays();
     void tooNarrowDegenerates();
 };
+
+void tst_CBatteryStatusWidget::fieldsAreLaidOutInOrder()
+{
+    QCOMPARE(sizeof(CBatteryStatusWidget), sizeof(LaidOutBattery));
+    QCOMPARE(test::fieldOffsets(CBatteryStatusWidget()), fieldOffsets(LaidOutBattery()));
+}
 
 void tst_CBatteryStatusWidget::goldenRatio()
 {

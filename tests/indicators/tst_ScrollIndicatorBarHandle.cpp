@@ -1,21 +1,22 @@
 #include "Painting.h"
-#include "ScrollIndicatorLook.h"
+#include "ScrollIndicatorAppearance.h"
 #include "TestApplication.h"
 
 #include <ui/ScrollIndicatorBar.h>
 
 #include <limits>
 
+using test::ScrollIndicatorAppearance;
 using ui::widgets::ScrollIndicatorBar;
 
 namespace {
 
 using Limits = std::numeric_limits<int>;
-using Look = ScrollIndicatorLook;
+using Appearance = ScrollIndicatorAppearance;
 
 } // namespace
 
-Q_DECLARE_METATYPE(Look)
+Q_DECLARE_METATYPE(Appearance)
 
 /// Where the handle lies, and how long it is.
 class tst_ScrollIndicatorBarHandle : public QObject
@@ -34,25 +35,25 @@ private Q_SLOTS:
 
 void tst_ScrollIndicatorBarHandle::handles_data()
 {
-    QTest::addColumn<Look>("look");
+    QTest::addColumn<Appearance>("appearance");
     const auto row = [](const char* name, int minimum, int maximum, int pageStep, int value,
                         int start, int length) {
-        Look look;
-        look.minimum = minimum;
-        look.maximum = maximum;
-        look.pageStep = pageStep;
-        look.value = value;
-        look.handleStart = start;
-        look.handleLength = length;
-        QTest::newRow(name) << look;
-        Look upsideDown = look;
+        Appearance appearance;
+        appearance.minimum = minimum;
+        appearance.maximum = maximum;
+        appearance.pageStep = pageStep;
+        appearance.value = value;
+        appearance.handleStart = start;
+        appearance.handleLength = length;
+        QTest::newRow(name) << appearance;
+        Appearance upsideDown = appearance;
         upsideDown.inverted = true;
         upsideDown.handleStart = minimum == maximum ? 0 : 220 - length - start;
         QTest::newRow(QByteArray(name) + ", inverted") << upsideDown;
-        QTest::newRow(QByteArray(name) + ", horizontal") << look.horizontal();
-        look.direction = Qt::RightToLeft;
-        look.handleStart = 220 - length - start;
-        QTest::newRow(QByteArray(name) + ", right to left") << look;
+        QTest::newRow(QByteArray(name) + ", horizontal") << appearance.horizontal();
+        appearance.direction = Qt::RightToLeft;
+        appearance.handleStart = 220 - length - start;
+        QTest::newRow(QByteArray(name) + ", right to left") << appearance;
     };
     row("at the start", 0, 100, 10, 0, 0, 20);
     row("in the middle", 0, 100, 10, 50, 100, 20);
@@ -67,26 +68,26 @@ void tst_ScrollIndicatorBarHandle::handles_data()
 
 void tst_ScrollIndicatorBarHandle::handles()
 {
-    QFETCH(Look, look);
+    QFETCH(Appearance, appearance);
     ScrollIndicatorBar bar;
-    apply(look, bar);
-    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
+    apply(appearance, bar);
+    QVERIFY(test::sameImage(test::paintedBy(bar), expected(appearance)));
 }
 
 void tst_ScrollIndicatorBarHandle::handlesOfHugeRanges_data()
 {
-    QTest::addColumn<Look>("look");
+    QTest::addColumn<Appearance>("appearance");
     const auto row = [](const char* name, int minimum, int maximum, int value, int start,
                         int length) {
-        Look look;
-        look.minimum = minimum;
-        look.maximum = maximum;
-        look.pageStep = 0x3FFFFFFF;
-        look.value = value;
-        look.handleStart = start;
-        look.handleLength = length;
-        QTest::newRow(name) << look;
-        QTest::newRow(QByteArray(name) + ", horizontal") << look.horizontal();
+        Appearance appearance;
+        appearance.minimum = minimum;
+        appearance.maximum = maximum;
+        appearance.pageStep = 0x3FFFFFFF;
+        appearance.value = value;
+        appearance.handleStart = start;
+        appearance.handleLength = length;
+        QTest::newRow(name) << appearance;
+        QTest::newRow(QByteArray(name) + ", horizontal") << appearance.horizontal();
     };
     constexpr int least = Limits::min();
     constexpr int most = Limits::max();
@@ -104,23 +105,23 @@ void tst_ScrollIndicatorBarHandle::handlesOfHugeRanges_data()
 
 void tst_ScrollIndicatorBarHandle::handlesOfHugeRanges()
 {
-    QFETCH(Look, look);
+    QFETCH(Appearance, appearance);
     ScrollIndicatorBar bar;
-    apply(look, bar);
-    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
+    apply(appearance, bar);
+    QVERIFY(test::sameImage(test::paintedBy(bar), expected(appearance)));
 }
 
 void tst_ScrollIndicatorBarHandle::followsTheSliderBeforeTheValue()
 {
-    Look look;
-    look.handleStart = 100;
+    Appearance appearance;
+    appearance.handleStart = 100;
     ScrollIndicatorBar bar;
-    apply(look, bar);
+    apply(appearance, bar);
     bar.setTracking(false);
     bar.setSliderDown(true);
     bar.setSliderPosition(50);
     QCOMPARE(bar.value(), 0);
-    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
+    QVERIFY(test::sameImage(test::paintedBy(bar), expected(appearance)));
 }
 
 void tst_ScrollIndicatorBarHandle::survivesAbsurdRanges_data()

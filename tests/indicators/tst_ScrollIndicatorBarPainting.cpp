@@ -1,17 +1,18 @@
 #include "Painting.h"
 #include "Palettes.h"
-#include "ScrollIndicatorLook.h"
+#include "ScrollIndicatorAppearance.h"
 #include "TestApplication.h"
 
 #include <ui/ScrollIndicatorBar.h>
 
 #include <QPainter>
 
+using test::ScrollIndicatorAppearance;
 using ui::widgets::ScrollIndicatorBar;
 
 namespace {
 
-using Look = ScrollIndicatorLook;
+using Appearance = ScrollIndicatorAppearance;
 
 QPalette paletteWith(QPalette::ColorRole role, const QColor& color)
 {
@@ -22,7 +23,7 @@ QPalette paletteWith(QPalette::ColorRole role, const QColor& color)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Look)
+Q_DECLARE_METATYPE(Appearance)
 
 class tst_ScrollIndicatorBarPainting : public QObject
 {
@@ -42,67 +43,71 @@ private Q_SLOTS:
 
 void tst_ScrollIndicatorBarPainting::colours_data()
 {
-    QTest::addColumn<Look>("look");
+    QTest::addColumn<Appearance>("appearance");
     const auto row = [](const char* name, auto change) {
-        Look look;
-        change(look);
-        QTest::newRow(name) << look;
-        QTest::newRow(QByteArray(name) + ", horizontal") << look.horizontal();
+        Appearance appearance;
+        change(appearance);
+        QTest::newRow(name) << appearance;
+        QTest::newRow(QByteArray(name) + ", horizontal") << appearance.horizontal();
     };
-    row("light", [](Look&) {});
-    row("light, highlighted", [](Look& look) { look.highlighted = true; });
-    row("light, disabled", [](Look& look) { look.enabled = false; });
-    row("highlighted and disabled", [](Look& look) {
-        look.highlighted = true;
-        look.enabled = false;
+    row("light", [](Appearance&) {});
+    row("light, highlighted", [](Appearance& appearance) { appearance.highlighted = true; });
+    row("light, disabled", [](Appearance& appearance) { appearance.enabled = false; });
+    row("highlighted and disabled", [](Appearance& appearance) {
+        appearance.highlighted = true;
+        appearance.enabled = false;
     });
-    row("dark", [](Look& look) { look.palette = test::darkPalette(); });
-    row("dark, highlighted", [](Look& look) {
-        look.palette = test::darkPalette();
-        look.highlighted = true;
+    row("dark", [](Appearance& appearance) { appearance.palette = test::darkPalette(); });
+    row("dark, highlighted", [](Appearance& appearance) {
+        appearance.palette = test::darkPalette();
+        appearance.highlighted = true;
     });
-    row("darkest of the light",
-        [](Look& look) { look.palette = paletteWith(QPalette::Window, QColor(121, 121, 121)); });
-    row("lightest of the dark",
-        [](Look& look) { look.palette = paletteWith(QPalette::Window, QColor(120, 120, 120)); });
-    row("colourful button",
-        [](Look& look) { look.palette = paletteWith(QPalette::Button, QColor(90, 150, 201)); });
-    row("saturated button",
-        [](Look& look) { look.palette = paletteWith(QPalette::Button, QColor(240, 20, 99)); });
-    row("colourful highlight", [](Look& look) {
-        look.palette = paletteWith(QPalette::Highlight, QColor(203, 77, 31));
-        look.highlighted = true;
+    row("darkest of the light", [](Appearance& appearance) {
+        appearance.palette = paletteWith(QPalette::Window, QColor(121, 121, 121));
     });
-    row("highlight in HSL", [](Look& look) {
-        look.palette = paletteWith(QPalette::Highlight, QColor::fromHsl(217, 143, 91));
-        look.highlighted = true;
+    row("lightest of the dark", [](Appearance& appearance) {
+        appearance.palette = paletteWith(QPalette::Window, QColor(120, 120, 120));
     });
-    row("telltale, enabled", [](Look& look) {
-        look.palette = test::telltalePalette();
-        look.highlighted = true;
+    row("colourful button", [](Appearance& appearance) {
+        appearance.palette = paletteWith(QPalette::Button, QColor(90, 150, 201));
     });
-    row("telltale, disabled", [](Look& look) {
-        look.palette = test::telltalePalette();
-        look.enabled = false;
+    row("saturated button", [](Appearance& appearance) {
+        appearance.palette = paletteWith(QPalette::Button, QColor(240, 20, 99));
     });
-    row("dpr 2", [](Look& look) { look.dpr = 2.0; });
+    row("colourful highlight", [](Appearance& appearance) {
+        appearance.palette = paletteWith(QPalette::Highlight, QColor(203, 77, 31));
+        appearance.highlighted = true;
+    });
+    row("highlight in HSL", [](Appearance& appearance) {
+        appearance.palette = paletteWith(QPalette::Highlight, QColor::fromHsl(217, 143, 91));
+        appearance.highlighted = true;
+    });
+    row("telltale, enabled", [](Appearance& appearance) {
+        appearance.palette = test::telltalePalette();
+        appearance.highlighted = true;
+    });
+    row("telltale, disabled", [](Appearance& appearance) {
+        appearance.palette = test::telltalePalette();
+        appearance.enabled = false;
+    });
+    row("dpr 2", [](Appearance& appearance) { appearance.dpr = 2.0; });
 }
 
 void tst_ScrollIndicatorBarPainting::colours()
 {
-    QFETCH(Look, look);
+    QFETCH(Appearance, appearance);
     ScrollIndicatorBar bar;
-    apply(look, bar);
-    QVERIFY(test::sameImage(test::paintedBy(bar, look.dpr), expected(look)));
+    apply(appearance, bar);
+    QVERIFY(test::sameImage(test::paintedBy(bar, appearance.dpr), expected(appearance)));
 }
 
 // The same in numbers that were worked out by hand.
 void tst_ScrollIndicatorBarPainting::namedColours()
 {
     ScrollIndicatorBar bar;
-    Look look;
-    look.palette = paletteWith(QPalette::Button, QColor::fromHsv(210, 60, 200));
-    apply(look, bar);
+    Appearance appearance;
+    appearance.palette = paletteWith(QPalette::Button, QColor::fromHsv(210, 60, 200));
+    apply(appearance, bar);
     const QImage image = test::paintedBy(bar);
     QCOMPARE(image.pixelColor(0, 100), QColor(QColor::fromHsv(210, 156, 180).rgb()));
     const int values[] = {140, 129, 120, 111, 102};
@@ -115,12 +120,12 @@ void tst_ScrollIndicatorBarPainting::namedColours()
 
 void tst_ScrollIndicatorBarPainting::thickBarsKeepSlimHandles_data()
 {
-    QTest::addColumn<Look>("look");
-    Look look;
-    look.size = QSize(17, 220);
-    QTest::newRow("vertical, thick") << look;
-    QTest::newRow("horizontal, thick") << look.horizontal();
-    Look thin;
+    QTest::addColumn<Appearance>("appearance");
+    Appearance appearance;
+    appearance.size = QSize(17, 220);
+    QTest::newRow("vertical, thick") << appearance;
+    QTest::newRow("horizontal, thick") << appearance.horizontal();
+    Appearance thin;
     thin.size = QSize(3, 220);
     QTest::newRow("vertical, thin") << thin;
     QTest::newRow("horizontal, thin") << thin.horizontal();
@@ -128,28 +133,28 @@ void tst_ScrollIndicatorBarPainting::thickBarsKeepSlimHandles_data()
 
 void tst_ScrollIndicatorBarPainting::thickBarsKeepSlimHandles()
 {
-    QFETCH(Look, look);
+    QFETCH(Appearance, appearance);
     ScrollIndicatorBar bar;
-    apply(look, bar);
-    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
-    look.direction = Qt::RightToLeft;
-    look.handleStart = look.orientation == Qt::Horizontal ? 200 : 0;
-    apply(look, bar);
-    QVERIFY(test::sameImage(test::paintedBy(bar), expected(look)));
+    apply(appearance, bar);
+    QVERIFY(test::sameImage(test::paintedBy(bar), expected(appearance)));
+    appearance.direction = Qt::RightToLeft;
+    appearance.handleStart = appearance.orientation == Qt::Horizontal ? 200 : 0;
+    apply(appearance, bar);
+    QVERIFY(test::sameImage(test::paintedBy(bar), expected(appearance)));
 }
 
 // Shortened at both ends, a line of one pixel starts after it ends, and covers three.
 void tst_ScrollIndicatorBarPainting::onePixelHandleRunsBackwards()
 {
-    Look look;
-    look.pageStep = 0;
-    look.value = 50;
-    look.handleStart = 110;
-    look.handleLength = 1;
+    Appearance appearance;
+    appearance.pageStep = 0;
+    appearance.value = 50;
+    appearance.handleStart = 110;
+    appearance.handleLength = 1;
     ScrollIndicatorBar bar;
-    apply(look, bar);
+    apply(appearance, bar);
     const QImage image = test::paintedBy(bar);
-    QVERIFY(test::sameImage(image, expected(look)));
+    QVERIFY(test::sameImage(image, expected(appearance)));
     for (int column : {0, 4}) {
         for (int y : {109, 110, 111})
             QVERIFY(image.pixelColor(column, y) != image.pixelColor(column, 0));
@@ -179,21 +184,21 @@ void tst_ScrollIndicatorBarPainting::paintsOnlyWhereDamaged()
     QFETCH(int, pageStep);
     QFETCH(QRect, damaged);
     QFETCH(bool, reachesHandle);
-    Look look;
-    look.value = 50;
-    look.pageStep = pageStep;
-    look.handleStart = pageStep == 0 ? 110 : 100;
-    look.handleLength = pageStep == 0 ? 1 : 20;
+    Appearance appearance;
+    appearance.value = 50;
+    appearance.pageStep = pageStep;
+    appearance.handleStart = pageStep == 0 ? 110 : 100;
+    appearance.handleLength = pageStep == 0 ? 1 : 20;
     ScrollIndicatorBar bar;
-    apply(look, bar);
+    apply(appearance, bar);
 
-    QImage image = test::canvas(look.size);
+    QImage image = test::canvas(appearance.size);
     QPainter painter(&image);
     painter.setClipRect(damaged);
     if (reachesHandle)
-        painter.drawImage(0, 0, expected(look));
+        painter.drawImage(0, 0, expected(appearance));
     else
-        painter.fillRect(damaged, look.groove());
+        painter.fillRect(damaged, appearance.groove());
     painter.end();
     QVERIFY(test::sameImage(test::paintedBy(bar, 1.0, damaged), image));
 }
@@ -201,19 +206,19 @@ void tst_ScrollIndicatorBarPainting::paintsOnlyWhereDamaged()
 // A damage in two pieces: the handle lies between them, within their bounding rectangle.
 void tst_ScrollIndicatorBarPainting::fillsBoundingRectangleOfDamage()
 {
-    Look look;
-    look.value = 50;
-    look.pageStep = 0;
-    look.handleStart = 110;
-    look.handleLength = 1;
+    Appearance appearance;
+    appearance.value = 50;
+    appearance.pageStep = 0;
+    appearance.handleStart = 110;
+    appearance.handleLength = 1;
     ScrollIndicatorBar bar;
-    apply(look, bar);
+    apply(appearance, bar);
     const QRegion damaged = QRegion(0, 60, 5, 50) + QRegion(0, 111, 5, 40);
 
-    QImage image = test::canvas(look.size);
+    QImage image = test::canvas(appearance.size);
     QPainter painter(&image);
     painter.setClipRegion(damaged);
-    painter.drawImage(0, 0, expected(look));
+    painter.drawImage(0, 0, expected(appearance));
     painter.end();
     QVERIFY(test::sameImage(test::paintedBy(bar, 1.0, damaged), image));
 }

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace test {
+
 namespace {
 
 QString description(const QString& what, const QKeyEvent& event)
@@ -29,3 +31,5 @@ void KeyReceiver::keyReleaseEvent(QKeyEvent* event)
 {
     m_events.append(description(QStringLiteral("release"), *event));
 }
+
+} // namespace test

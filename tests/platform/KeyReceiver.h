@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QWidget>
 
+namespace test {
+
 /// A parent for keypads that writes down the key events that it receives.
 class KeyReceiver : public QWidget
 {
@@ -19,3 +21,5 @@ protected:
 private:
     QStringList m_events;
 };
+
+} // namespace test

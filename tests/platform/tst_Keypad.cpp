@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
+using test::KeyReceiver;
 using ui::keyboard::IKeypad;
 using ui::keyboard::KeyboardType;
 

@@ -5,13 +5,21 @@
 
 namespace test {
 
-QPushButton* keypadKey(const QWidget& keypad, const QString& name)
+QPushButton* findKeypadKey(const QWidget& keypad, const QString& name)
 {
+    QPushButton* found = nullptr;
     const auto keys = keypad.findChildren<QPushButton*>();
     for (QPushButton* key : keys) {
-        if (key->accessibleName() == name)
-            return key;
+        if (key->accessibleName() == name && (!found || key->isVisible()))
+            found = key;
     }
+    return found;
+}
+
+QPushButton* keypadKey(const QWidget& keypad, const QString& name)
+{
+    if (QPushButton* key = findKeypadKey(keypad, name))
+        return key;
     QTest::qFail(qPrintable(QStringLiteral("no key ") + name), __FILE__, __LINE__);
     return nullptr;
 }

@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QWidget>
 
+namespace test {
+
 /// A window with a field under test and an ordinary line edit, to take the focus away.
 template <typename Field>
 class EditForm : public QWidget
@@ -39,3 +41,5 @@ public:
     Field* const field;
     QLineEdit* const other;
 };
+
+} // namespace test

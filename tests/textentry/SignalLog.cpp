@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace test {
+
 SignalLog::SignalLog(ui::LineEdit* edit)
 {
     connect(edit, &ui::LineEdit::signalCancelKey, this,
@@ -40,3 +42,5 @@ void SignalLog::add(const QString& entry)
 {
     m_entries.append(entry);
 }
+
+} // namespace test

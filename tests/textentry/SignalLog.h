@@ -8,6 +8,8 @@ class KeypadLineEdit;
 class LineEdit;
 } // namespace ui
 
+namespace test {
+
 /**
  * Writes down the signals of a line edit as "name" or "name(argument)", in the order in which the slots
  * of an application see them: signals that the field reacts to itself come after that reaction.
@@ -28,3 +30,5 @@ private:
 
     QStringList m_entries;
 };
+
+} // namespace test

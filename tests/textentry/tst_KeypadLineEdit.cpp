@@ -1,4 +1,5 @@
 #include "EditForm.h"
+#include "EventLoop.h"
 #include "KeypadKeys.h"
 #include "OffscreenMessages.h"
 #include "SignalLog.h"
@@ -14,6 +15,8 @@
 #include <QValidator>
 #include <QWindow>
 
+using test::EditForm;
+using test::SignalLog;
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;
@@ -34,13 +37,6 @@ bool openKeypad(Form& form)
 bool waitUntilHidden(const QWidget* widget)
 {
     return QTest::qWaitFor([&] { return !widget->isVisible(); });
-}
-
-/// Lets the event loop turn until what is scheduled now, and what follows from it, is done.
-void turnEventLoop()
-{
-    for (int i = 0; i < 3; ++i)
-        QCoreApplication::processEvents();
 }
 
 /// Opens the base's functions and counts the calls of the field's own virtual function.
@@ -184,7 +180,7 @@ void tst_KeypadLineEdit::focusOpensTheKeypad()
     const QPoint expected = form.field->mapToGlobal(QPoint(0, form.field->height()));
     QCOMPARE(log.take(), QStringList());
     QTRY_VERIFY(form.field->keypad()->isVisible());
-    turnEventLoop();
+    test::waitUntilIdle();
     QCOMPARE(log.take(), QStringList{"startKeypad"});
     QVERIFY(visibleAtStart);
     // The offscreen plugin adds the frame of a window to the position of the pop-up.
@@ -219,11 +215,11 @@ void tst_KeypadLineEdit::severalShowRequests()
     form.field->showKeypad();
     QVERIFY(!form.field->keypad()->isVisible());
     QTRY_VERIFY(form.field->keypad()->isVisible());
-    turnEventLoop();
+    test::waitUntilIdle();
     QCOMPARE(started.count(), 1);
 
     form.field->showKeypad(); // visible already
-    turnEventLoop();
+    test::waitUntilIdle();
     QCOMPARE(started.count(), 1);
 }
 
@@ -237,7 +233,7 @@ void tst_KeypadLineEdit::severalHideRequests()
     form.field->hideKeypad();
     QVERIFY(form.field->keypad()->isVisible());
     QVERIFY(waitUntilHidden(form.field->keypad()));
-    turnEventLoop();
+    test::waitUntilIdle();
     QVERIFY(!form.field->keypad()->isVisible());
 }
 
@@ -251,7 +247,7 @@ void tst_KeypadLineEdit::hideRequestsNeedAVisiblePopup()
     // Nothing to hide yet, so the request does not take back the showing that is under way.
     form.field->showKeypad();
     form.field->hideKeypad();
-    turnEventLoop();
+    test::waitUntilIdle();
     QVERIFY(form.field->keypad()->isVisible());
 }
 
@@ -263,7 +259,7 @@ void tst_KeypadLineEdit::deferredHideBeatsALaterShowRequest()
     QTRY_VERIFY(form.field->keypad()->isVisible());
     form.field->hideKeypad();
     form.field->showKeypad(); // still visible: nothing happens
-    turnEventLoop();
+    test::waitUntilIdle();
     QVERIFY(!form.field->keypad()->isVisible());
 }
 
@@ -281,7 +277,7 @@ void tst_KeypadLineEdit::keypadOk()
     QVERIFY(form.field->keypad()->isVisible()); // hidden one turn later
     QVERIFY(!form.field->hasFocus());
     QVERIFY(waitUntilHidden(form.field->keypad()));
-    turnEventLoop();
+    test::waitUntilIdle();
     QCOMPARE(form.field->text(), QStringLiteral("42"));
     QCOMPARE(log.take(),
              (QStringList{"resultValidated(true)", "textEdited(4)", "resultValidated(true)",
@@ -301,7 +297,7 @@ void tst_KeypadLineEdit::keypadCancel()
     test::tapKey(*form.field->keypad(), QStringLiteral("Cancel"));
     QVERIFY(form.field->keypad()->isVisible());
     QVERIFY(waitUntilHidden(form.field->keypad()));
-    turnEventLoop();
+    test::waitUntilIdle();
     QCOMPARE(form.field->text(), QStringLiteral("1"));
     QCOMPARE(log.take(),
              (QStringList{"resultValidated(true)", "textEdited(4)", "resultValidated(true)",
@@ -356,7 +352,7 @@ void tst_KeypadLineEdit::hardwareKeys()
     SignalLog log(form.field);
     QTest::keyClick(window, key);
     QVERIFY(waitUntilHidden(form.field->keypad()));
-    turnEventLoop();
+    test::waitUntilIdle();
     QCOMPARE(form.field->text(), text);
     QCOMPARE(log.take(), expected);
     QVERIFY(!form.field->hasFocus());
@@ -374,7 +370,7 @@ void tst_KeypadLineEdit::tapOutside()
 
     QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, QPoint(780, 380));
     QVERIFY(!form.field->keypad()->isVisible());
-    turnEventLoop();
+    test::waitUntilIdle();
     QCOMPARE(form.field->text(), QStringLiteral("1"));
     QCOMPARE(log.take(),
              (QStringList{"editingFinished", "resultValidated(true)", "textEdited(1)",
@@ -401,7 +397,7 @@ void tst_KeypadLineEdit::tapOnAnotherField()
     QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, second.geometry().center());
     QTRY_VERIFY(second.hasFocus());
     QTRY_VERIFY(second.keypad() && second.keypad()->isVisible());
-    turnEventLoop();
+    test::waitUntilIdle();
     QVERIFY(second.keypad()->isVisible());
     QVERIFY(!form.field->keypad()->isVisible());
 }
@@ -413,7 +409,7 @@ void tst_KeypadLineEdit::popupFocusReasonIsRefused()
     QVERIFY(form.showActive());
     form.field->setFocus(Qt::PopupFocusReason);
     QVERIFY(!form.field->hasFocus());
-    turnEventLoop();
+    test::waitUntilIdle();
     QVERIFY(!form.field->keypad());
     QVERIFY(!form.field->hasSelectedText());
     QCOMPARE(form.field->text(), QString()); // the Cancel restores what no focus-in has saved yet

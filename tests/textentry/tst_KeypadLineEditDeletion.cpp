@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QWindow>
 
+using test::EditForm;
+using test::SignalLog;
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;

@@ -7,6 +7,7 @@
 
 #include <QPushButton>
 
+using test::EditForm;
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;

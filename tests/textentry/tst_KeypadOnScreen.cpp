@@ -5,6 +5,7 @@
 
 #include <QScreen>
 
+using test::EditForm;
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;

@@ -1,7 +1,7 @@
 #include "KeypadKeys.h"
 #include "OffscreenMessages.h"
 #include "Palettes.h"
-#include "PrivateField.h"
+#include "PrivateFields.h"
 #include "TestApplication.h"
 
 #include <ui/keyboard/IKeypad.h>
@@ -23,12 +23,15 @@ using ui::KeypadPopup;
 using ui::keyboard::IKeypad;
 using ui::keyboard::KeyboardType;
 
-struct ButtonPressed
+namespace test {
+
+struct PopupFields
 {
-    using Type = bool KeypadPopup::*;
-    friend Type fieldOf(ButtonPressed);
+    friend auto fieldsOf(PopupFields);
 };
-template struct PrivateField<ButtonPressed, &KeypadPopup::buttonPressed>;
+template struct PrivateFields<PopupFields, &KeypadPopup::buttonPressed>;
+
+} // namespace test
 
 namespace {
 
@@ -302,16 +305,16 @@ void tst_KeypadPopup::buttonsAreNoted()
     QFETCH(QString, key);
     ui::LineEdit edit;
     KeypadPopup popup(&edit, QString(), KeyboardType::Integer, -1);
-    QVERIFY(!(popup.*fieldOf(ButtonPressed())));
+    QVERIFY(!(popup.*std::get<0>(fieldsOf(test::PopupFields()))));
     test::tapKey(popup, key); // nobody listens
-    QVERIFY(popup.*fieldOf(ButtonPressed()));
+    QVERIFY(popup.*std::get<0>(fieldsOf(test::PopupFields())));
 
     KeypadPopup second(&edit, QString(), KeyboardType::Integer, -1);
     bool notedBefore = false;
     connect(&second, &KeypadPopup::signalOk, &edit,
-            [&] { notedBefore = second.*fieldOf(ButtonPressed()); });
+            [&] { notedBefore = second.*std::get<0>(fieldsOf(test::PopupFields())); });
     connect(&second, &KeypadPopup::signalCancel, &edit,
-            [&] { notedBefore = second.*fieldOf(ButtonPressed()); });
+            [&] { notedBefore = second.*std::get<0>(fieldsOf(test::PopupFields())); });
     test::tapKey(second, key);
     QVERIFY(notedBefore);
 }

@@ -12,6 +12,8 @@
 #include <QToolButton>
 #include <QWindow>
 
+using test::EditForm;
+using test::SignalLog;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;
 

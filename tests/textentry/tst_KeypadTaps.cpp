@@ -1,7 +1,7 @@
 #include "EditForm.h"
-#include "Finger.h"
 #include "KeypadKeys.h"
 #include "SignalLog.h"
+#include "XPointer.h"
 
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
@@ -11,6 +11,9 @@
 #include <QSignalSpy>
 #include <QValidator>
 
+using test::EditForm;
+using test::SignalLog;
+using test::XPointer;
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;
@@ -61,14 +64,14 @@ bool waitUntilHidden(const KeypadLineEdit* field)
 bool tapKey(const KeypadLineEdit* field, const char* name)
 {
     const QPushButton* key = test::keypadKey(*field->keypad(), QString::fromUtf8(name));
-    return key && finger::tap(key) && QTest::qWaitFor([=] { return !key->isDown(); });
+    return key && XPointer::tap(*key) && QTest::qWaitFor([=] { return !key->isDown(); });
 }
 
 /// Taps \a next while the keypad of \a open is up. The tap that closes a pop-up does not reach what is
 /// under it: Qt gives the press to nobody, or without the focus. So the second one counts.
 bool tapBeside(const KeypadLineEdit* open, const KeypadLineEdit* next)
 {
-    return finger::tap(next) && waitUntilHidden(open) && finger::tap(next);
+    return XPointer::tap(*next) && waitUntilHidden(open) && XPointer::tap(*next);
 }
 
 } // namespace
@@ -106,7 +109,7 @@ void tst_KeypadTaps::init()
 {
     m_form.reset(new TapForm);
     QVERIFY(m_form->showActive());
-    QVERIFY(finger::move(m_form->emptySpot()));
+    QVERIFY(XPointer::move(m_form->emptySpot()));
 }
 
 void tst_KeypadTaps::cleanup()
@@ -118,7 +121,7 @@ void tst_KeypadTaps::tapOpensTheKeypad()
 {
     KeypadLineEdit* field = m_form->field;
     SignalLog log(field);
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     QCOMPARE(field->keypad()->geometry(),
              QRect(field->mapToGlobal(QPoint(0, field->height())), field->keypad()->sizeHint()));
@@ -131,7 +134,7 @@ void tst_KeypadTaps::ok()
 {
     KeypadLineEdit* field = m_form->field;
     SignalLog log(field);
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     const QPushButton* okKey = test::keypadKey(*field->keypad(), QStringLiteral("OK"));
 
@@ -159,7 +162,7 @@ void tst_KeypadTaps::cancel()
 {
     KeypadLineEdit* field = m_form->field;
     SignalLog log(field);
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     QVERIFY(tapKey(field, "4"));
     QTRY_COMPARE(field->text(), QStringLiteral("4"));
@@ -176,11 +179,11 @@ void tst_KeypadTaps::tapOutside()
 {
     KeypadLineEdit* field = m_form->field;
     SignalLog log(field);
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     QVERIFY(tapKey(field, "4"));
     QTRY_COMPARE(field->text(), QStringLiteral("4"));
-    QVERIFY(finger::tap(m_form->emptySpot()));
+    QVERIFY(XPointer::tap(m_form->emptySpot()));
     QVERIFY(waitUntilHidden(field));
     QTRY_VERIFY(!field->hasFocus());
     QCOMPARE(field->text(), QStringLiteral("15"));
@@ -195,12 +198,12 @@ void tst_KeypadTaps::tapOnAPlainField()
 {
     KeypadLineEdit* field = m_form->field;
     m_form->other->move(500, 300);
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     QVERIFY(tapKey(field, "4"));
-    QVERIFY(finger::tap(m_form->other));
+    QVERIFY(XPointer::tap(*m_form->other));
     QVERIFY(waitUntilHidden(field));
-    QVERIFY(finger::tap(m_form->other));
+    QVERIFY(XPointer::tap(*m_form->other));
     QTRY_VERIFY(m_form->other->hasFocus());
     QCOMPARE(field->text(), QStringLiteral("15"));
 }
@@ -224,14 +227,14 @@ void tst_KeypadTaps::hardwareKeys()
     QFETCH(QString, text);
     QFETCH(QStringList, expected);
     KeypadLineEdit* field = m_form->field;
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     QTRY_COMPARE(field->selectedText(), QStringLiteral("15"));
-    QVERIFY(finger::key("4"));
+    QVERIFY(XPointer::key("4"));
     QTRY_COMPARE(field->text(), QStringLiteral("4"));
     SignalLog log(field);
 
-    QVERIFY(finger::key(key.constData()));
+    QVERIFY(XPointer::key(key.constData()));
     QVERIFY(waitUntilHidden(field));
     QCOMPARE(field->text(), text);
     QVERIFY(!field->hasFocus());
@@ -244,7 +247,7 @@ void tst_KeypadTaps::twoFields()
     KeypadLineEdit* second = m_form->second;
     SignalLog firstLog(first);
     SignalLog secondLog(second);
-    QVERIFY(finger::tap(first));
+    QVERIFY(XPointer::tap(*first));
     QVERIFY(waitUntilShown(first));
     QVERIFY(tapKey(first, "4"));
     QTRY_COMPARE(first->text(), QStringLiteral("4"));
@@ -272,7 +275,7 @@ void tst_KeypadTaps::backAndForth()
     KeypadLineEdit* first = m_form->field;
     KeypadLineEdit* second = m_form->second;
     for (int i = 0; i < 2; ++i) {
-        QVERIFY(i == 0 ? finger::tap(first) : tapBeside(second, first));
+        QVERIFY(i == 0 ? XPointer::tap(*first) : tapBeside(second, first));
         QVERIFY(waitUntilShown(first));
         QVERIFY(first->hasFocus());
         QVERIFY(tapBeside(first, second));
@@ -288,11 +291,11 @@ void tst_KeypadTaps::tapOnTheFieldAgain()
 {
     KeypadLineEdit* field = m_form->field;
     field->setValidator(nullptr);
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     QTRY_VERIFY(field->hasSelectedText());
     SignalLog log(field);
-    QVERIFY(finger::tap(field->mapToGlobal(QPoint(3, 15))));
+    QVERIFY(XPointer::tap(field->mapToGlobal(QPoint(3, 15))));
     QTRY_COMPARE(field->cursorPosition(), 0);
     QVERIFY(!field->hasSelectedText());
     QVERIFY(tapKey(field, "9"));
@@ -315,13 +318,13 @@ void tst_KeypadTaps::slowTap()
     QFETCH(QString, releasedOver);
     KeypadLineEdit* field = m_form->field;
     SignalLog log(field);
-    QVERIFY(finger::press(field->mapToGlobal(field->rect().center())));
+    QVERIFY(XPointer::press(field->mapToGlobal(field->rect().center())));
     QVERIFY(waitUntilShown(field));
     if (!releasedOver.isEmpty()) {
         const QWidget* key = test::keypadKey(*field->keypad(), releasedOver);
-        QVERIFY(finger::move(key->mapToGlobal(key->rect().center())));
+        QVERIFY(XPointer::move(key->mapToGlobal(key->rect().center())));
     }
-    QVERIFY(finger::release());
+    QVERIFY(XPointer::release());
     QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::NoButton);
     QVERIFY(isShown(field));
     QCOMPARE(field->text(), QStringLiteral("15"));
@@ -335,36 +338,36 @@ void tst_KeypadTaps::longBackspace()
     KeypadLineEdit* field = m_form->field;
     field->setValidator(nullptr);
     field->setText(QStringLiteral("12345"));
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
     QTRY_VERIFY(field->hasSelectedText());
     field->deselect();
     const QWidget* key = test::keypadKey(*field->keypad(), QStringLiteral("Backspace"));
-    QVERIFY(finger::press(key->mapToGlobal(key->rect().center())));
+    QVERIFY(XPointer::press(key->mapToGlobal(key->rect().center())));
     QTRY_COMPARE(field->text(), QString());
-    QVERIFY(finger::release());
+    QVERIFY(XPointer::release());
 }
 
 void tst_KeypadTaps::deletedByOk()
 {
     const QPointer<KeypadLineEdit> field = m_form->field;
     connect(field, &ui::LineEdit::valueChanged, m_form.data(), [=] { delete field; });
-    QVERIFY(finger::tap(field));
+    QVERIFY(XPointer::tap(*field));
     QVERIFY(waitUntilShown(field));
-    QVERIFY(finger::tap(test::keypadKey(*field->keypad(), QStringLiteral("OK"))));
+    QVERIFY(XPointer::tap(*test::keypadKey(*field->keypad(), QStringLiteral("OK"))));
     QTRY_VERIFY(!field);
     // No grab is left behind.
-    QVERIFY(finger::tap(m_form->second));
+    QVERIFY(XPointer::tap(*m_form->second));
     QVERIFY(waitUntilShown(m_form->second));
 }
 
 void tst_KeypadTaps::deletedWithOpenKeypad()
 {
-    QVERIFY(finger::tap(m_form->field));
+    QVERIFY(XPointer::tap(*m_form->field));
     QVERIFY(waitUntilShown(m_form->field));
     delete m_form->field;
     QVERIFY(!QApplication::activePopupWidget());
-    QVERIFY(finger::tap(m_form->second));
+    QVERIFY(XPointer::tap(*m_form->second));
     QVERIFY(waitUntilShown(m_form->second));
 }
 

@@ -8,6 +8,9 @@
 #include <QSignalSpy>
 #include <QValidator>
 
+using test::EditForm;
+using test::SignalLog;
+
 namespace {
 
 /// As an application may write it: with functions of the base's names, and with its own validation.

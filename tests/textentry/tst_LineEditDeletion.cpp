@@ -6,6 +6,9 @@
 
 #include <QPointer>
 
+using test::EditForm;
+using test::SignalLog;
+
 namespace {
 
 void sendKey(QWidget* widget, Qt::Key key)

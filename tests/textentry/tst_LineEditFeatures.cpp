@@ -10,6 +10,9 @@
 #include <QInputMethodEvent>
 #include <QValidator>
 
+using test::EditForm;
+using test::SignalLog;
+
 /// What users of QLineEdit do keeps working.
 class tst_LineEditFeatures : public QObject
 {

@@ -9,6 +9,9 @@
 #include <QStyleFactory>
 #include <QValidator>
 
+using test::EditForm;
+using test::SignalLog;
+
 namespace {
 
 /// Calls every text of the state that it is named after, and notes what it was asked.

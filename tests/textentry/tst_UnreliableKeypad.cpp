@@ -1,4 +1,5 @@
 #include "EditForm.h"
+#include "EventLoop.h"
 #include "OffscreenMessages.h"
 
 #include <ui/keyboard/IKeypad.h>
@@ -9,6 +10,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+using test::EditForm;
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 using ui::keyboard::IKeypad;
@@ -62,13 +64,6 @@ Kind& kind()
 {
     static Kind instance = Kind::Ordinary;
     return instance;
-}
-
-/// Handles what is due, deletions too.
-void turn()
-{
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace
@@ -147,7 +142,7 @@ void tst_UnreliableKeypad::cleanup()
 void tst_UnreliableKeypad::edit()
 {
     field().setFocus();
-    turn();
+    test::processEvents();
     QVERIFY(field().keypad()->isVisible());
     field().setText(QStringLiteral("new"));
 }
@@ -177,7 +172,7 @@ void tst_UnreliableKeypad::none()
     QCOMPARE(field().text(), QStringLiteral("newx"));
     QTest::keyClick(field().keypad(), Qt::Key_Return);
     QVERIFY(!field().hasFocus());
-    turn();
+    test::processEvents();
     QVERIFY(!field().keypad()->isVisible());
     QCOMPARE(field().text(), QStringLiteral("newx"));
 }
@@ -186,11 +181,11 @@ void tst_UnreliableKeypad::diesWhenShown()
 {
     kind() = Kind::DiesWhenShown;
     edit();
-    turn();
+    test::processEvents();
     QVERIFY(!keypad());
     QTest::keyClick(field().keypad(), Qt::Key_Escape);
     QCOMPARE(field().text(), QStringLiteral("old"));
-    turn();
+    test::processEvents();
     edit();
 }
 
@@ -223,7 +218,7 @@ void tst_UnreliableKeypad::diesInItsOwnSignal()
     press(ok);
     QVERIFY(!keypad());
     QCOMPARE(field().text(), text);
-    turn();
+    test::processEvents();
     QVERIFY(!field().keypad()->isVisible());
     field().keypad()->setKeypadSectionVisible(0, false);
 }
@@ -239,14 +234,14 @@ void tst_UnreliableKeypad::answersAfterTheEdit()
     QFETCH(bool, ok);
     edit();
     QTest::keyClick(&field(), Qt::Key_Return);
-    turn();
+    test::processEvents();
     QVERIFY(!field().keypad()->isVisible());
     m_form->other->setFocus();
     QSignalSpy finished(&field(), &QLineEdit::editingFinished);
     press(ok);
     QCOMPARE(finished.count(), 1);
     QCOMPARE(field().text(), ok ? QStringLiteral("new") : QStringLiteral("old"));
-    turn();
+    test::processEvents();
     QVERIFY(!field().keypad()->isVisible());
     QVERIFY(m_form->other->hasFocus());
 }
@@ -260,7 +255,7 @@ void tst_UnreliableKeypad::answersTwice()
     press(false);
     QCOMPARE(changed.count(), 2);
     QCOMPARE(field().text(), QStringLiteral("old"));
-    turn();
+    test::processEvents();
     QVERIFY(!field().keypad()->isVisible());
     edit();
 }
@@ -270,10 +265,10 @@ void tst_UnreliableKeypad::answersWhileTheFieldIsHidden()
     edit();
     m_form->hide();
     press(true);
-    turn();
+    test::processEvents();
     QVERIFY(!field().keypad()->isVisible());
     m_form->show();
-    turn();
+    test::processEvents();
     QVERIFY(!field().keypad()->isVisible());
     QCOMPARE(field().text(), QStringLiteral("new"));
 }

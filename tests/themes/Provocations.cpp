@@ -1,6 +1,7 @@
 #include "Provocations.h"
 
 #include "BrowserParts.h"
+#include "KeypadKeys.h"
 
 #include <Animator.h>
 #include <BreadCrumbsWidget.h>
@@ -100,15 +101,6 @@ void requestContextMenu(QWidget& widget)
     widget.setContextMenuPolicy(Qt::CustomContextMenu);
     QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(5, 5));
     QCoreApplication::sendEvent(&widget, &request);
-}
-
-void clickKey(const ui::KeypadPopup& popup, const QString& name)
-{
-    const auto keys = popup.findChildren<QAbstractButton*>();
-    for (QAbstractButton* key : keys) {
-        if (key->accessibleName() == name)
-            return key->click();
-    }
 }
 
 void animate(Animator& animator)
@@ -233,8 +225,10 @@ QVector<Entry> ofKeypads()
         field.setFocus();
         QCoreApplication::processEvents();
     });
-    const auto ok = on<KeypadPopup>([](KeypadPopup& popup) { clickKey(popup, "OK"); });
-    const auto cancel = on<KeypadPopup>([](KeypadPopup& popup) { clickKey(popup, "Cancel"); });
+    const auto ok =
+        on<KeypadPopup>([](KeypadPopup& popup) { test::keypadKey(popup, "OK")->click(); });
+    const auto cancel =
+        on<KeypadPopup>([](KeypadPopup& popup) { test::keypadKey(popup, "Cancel")->click(); });
     return {
         {&KeypadLineEdit::staticMetaObject, "startKeypad()", {"asked for", open, AtOnce}},
         {&KeypadLineEdit::staticMetaObject, "startKeypad()", {"focused", focus, AtOnce}},

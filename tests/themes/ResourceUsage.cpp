@@ -81,8 +81,7 @@ void watchObjects()
 
 ResourceUsage ResourceUsage::now()
 {
-    for (int i = 0; i < 3; ++i)
-        processEvents();
+    waitUntilIdle();
     ResourceUsage result;
     {
         const QMutexLocker lock(&mutex);

@@ -1,6 +1,7 @@
 #include "Workloads.h"
 
 #include "EventLoop.h"
+#include "KeypadKeys.h"
 #include "Tree.h"
 
 #include <BreadCrumbsWidget.h>
@@ -13,8 +14,8 @@
 #include <ui/KeypadPopup.h>
 #include <ui/ScrollIndicatorBar.h>
 
-#include <QAbstractButton>
 #include <QLabel>
+#include <QPushButton>
 
 using ui::KeypadLineEdit;
 using ui::keyboard::KeyboardType;
@@ -72,15 +73,6 @@ Iteration scroll(QWidget& window)
     };
 }
 
-void press(const KeypadLineEdit& field, const char* name)
-{
-    const auto keys = field.keypad()->findChildren<QAbstractButton*>();
-    for (QAbstractButton* key : keys) {
-        if (key->accessibleName() == QLatin1String(name))
-            key->click();
-    }
-}
-
 /// The focus from field to field, with an edit that is committed, cancelled or left.
 Iteration edit(QWidget& window)
 {
@@ -94,7 +86,7 @@ Iteration edit(QWidget& window)
         const bool shown = field->keypad() && field->keypad()->isVisible();
         field->insert(QStringLiteral("1"));
         if (shown && iteration % 3 < 2)
-            press(*field, iteration % 3 == 0 ? "OK" : "Cancel");
+            keypadKey(*field->keypad(), iteration % 3 == 0 ? "OK" : "Cancel")->click();
         else
             field->clearFocus();
         processEvents();

@@ -1,3 +1,4 @@
+#include "KeypadKeys.h"
 #include "LineEditModel.h"
 #include "Models.h"
 
@@ -6,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QPushButton>
 #include <QtTest/qtestmouse.h>
 #include <QWindow>
 
@@ -145,20 +147,17 @@ void KeypadFieldModel::end(const QString& key)
     processEvents();
     if (!isUp())
         return;
-    for (QAbstractButton* button : field().keypad()->findChildren<QAbstractButton*>()) {
-        if (button->accessibleName() != key || !button->isEnabled())
-            continue;
-        const QString text = field().text();
-        const bool acceptable =
-            field().hasAcceptableInput(); // else Qt may let its validator fix it
-        button->click();
-        if (key == QLatin1String("OK") && acceptable)
-            compare("committed text", field().text(), text);
-        processEvents();
-        expect(!isUp(), "the keypad is down once the events after OK or Cancel are processed");
-        expect(!field().hasFocus(), "OK and Cancel give up the focus");
+    QPushButton* button = findKeypadKey(*field().keypad(), key);
+    if (!button || !button->isEnabled())
         return;
-    }
+    const QString text = field().text();
+    const bool acceptable = field().hasAcceptableInput(); // else Qt may let its validator fix it
+    button->click();
+    if (key == QLatin1String("OK") && acceptable)
+        compare("committed text", field().text(), text);
+    processEvents();
+    expect(!isUp(), "the keypad is down once the events after OK or Cancel are processed");
+    expect(!field().hasFocus(), "OK and Cancel give up the focus");
 }
 
 void KeypadFieldModel::tapOutside()

@@ -1,10 +1,11 @@
-#include "Finger.h"
+#include "XPointer.h"
 
 #include <QProcess>
+#include <QStringList>
 #include <QtTest>
 #include <QWidget>
 
-namespace finger {
+namespace test {
 
 namespace {
 
@@ -27,34 +28,52 @@ QStringList moveTo(const QPoint& position)
 
 } // namespace
 
-bool tap(const QPoint& globalPosition)
+bool XPointer::tap(const QPoint& globalPosition)
 {
     return xdotool(moveTo(globalPosition) << QStringLiteral("click") << QStringLiteral("1"));
 }
 
-bool tap(const QWidget* widget)
+bool XPointer::tap(const QWidget& widget)
 {
-    return tap(widget->mapToGlobal(widget->rect().center()));
+    return tap(widget, widget.rect().center());
 }
 
-bool press(const QPoint& globalPosition)
+bool XPointer::tap(const QWidget& widget, const QPoint& position)
+{
+    return tap(widget.mapToGlobal(position));
+}
+
+bool XPointer::press(const QPoint& globalPosition)
 {
     return xdotool(moveTo(globalPosition) << QStringLiteral("mousedown") << QStringLiteral("1"));
 }
 
-bool release()
+bool XPointer::release()
 {
     return xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
 }
 
-bool move(const QPoint& globalPosition)
+bool XPointer::move(const QPoint& globalPosition)
 {
     return xdotool(moveTo(globalPosition));
 }
 
-bool key(const char* name)
+bool XPointer::drag(const QPoint& from, const QPoint& to)
+{
+    constexpr int moves = 10;
+    QStringList arguments = moveTo(from) << QStringLiteral("mousedown") << QStringLiteral("1");
+    for (int i = 1; i <= moves; ++i) {
+        arguments << QStringLiteral("sleep") << QStringLiteral("0.02")
+                  << moveTo(from + (to - from) * i / moves);
+    }
+    // A pause before the end, or what was dragged flies on.
+    arguments << QStringLiteral("sleep") << QStringLiteral("0.02");
+    return xdotool(arguments << QStringLiteral("mouseup") << QStringLiteral("1"));
+}
+
+bool XPointer::key(const char* name)
 {
     return xdotool({QStringLiteral("key"), QString::fromLatin1(name)});
 }
 
-} // namespace finger
+} // namespace test

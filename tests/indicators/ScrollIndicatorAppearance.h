@@ -12,8 +12,10 @@ class ScrollIndicatorBar;
 }
 } // namespace ui
 
+namespace test {
+
 /// The state of a bar, and where its handle has to be.
-struct ScrollIndicatorLook
+struct ScrollIndicatorAppearance
 {
     Qt::Orientation orientation = Qt::Vertical;
     QSize size = QSize(5, 220);
@@ -26,18 +28,20 @@ struct ScrollIndicatorLook
     bool highlighted = false;
     bool enabled = true;
     bool inverted = false;
-    QPalette palette = test::lightPalette();
+    QPalette palette = lightPalette();
     qreal dpr = 1.0;
     Qt::LayoutDirection direction = Qt::LeftToRight;
 
     /// The same bar, lying.
-    ScrollIndicatorLook& horizontal();
+    ScrollIndicatorAppearance& horizontal();
     QColor color(QPalette::ColorRole role) const;
     QColor groove() const;
 };
 
-/// Brings \a bar to the state of \a look, which takes over what the palette inherits.
-void apply(ScrollIndicatorLook& look, ui::widgets::ScrollIndicatorBar& bar);
+/// Brings \a bar to the state of \a appearance, which takes over what the palette inherits.
+void apply(ScrollIndicatorAppearance& appearance, ui::widgets::ScrollIndicatorBar& bar);
 
-/// The picture that follows from \a look.
-QImage expected(const ScrollIndicatorLook& look);
+/// The picture that follows from \a appearance.
+QImage expected(const ScrollIndicatorAppearance& appearance);
+
+} // namespace test
