@@ -3,16 +3,31 @@
 #     [SCREENS WIDTHxHEIGHT...]  on x11, the sizes of the screens that it runs on one after the other
 #     [SOURCES file...]          further sources beside tst_CLASS.cpp
 #     [LIBRARIES target...]      further libraries to link
-#     [LOADS_LIBRARY])           not linked to the widget library, whose path it gets as WIDGETS_LIBRARY
+#     [ALONE]                    a program of its own, tst_CLASS: for a class with a main(), with other
+#                                rules of linking, or with definitions that take another library's place
+#     [LOADS_LIBRARY])           ALONE, and not linked to the widget library, whose path it gets as
+#                                WIDGETS_LIBRARY
 #
-# Builds tst_CLASS and registers it once per platform as PLATFORM.CLASS, and with SCREENS once per
-# screen as x11.CLASS.WIDTHxHEIGHT. A warning that no test
-# announced with QTest::ignoreMessage() fails the run, and so does a skipped test.
+# Links tst_CLASS.cpp to the program of its folder, tests_FOLDER, which runs one of its classes in a
+# process. Registers the class once per platform as PLATFORM.CLASS, and with SCREENS once per screen as
+# x11.CLASS.WIDTHxHEIGHT. A warning that no test announced with QTest::ignoreMessage() fails the run,
+# and so does a skipped test.
 function(platform_add_test class)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "LOADS_LIBRARY" "" "PLATFORMS;SCREENS;SOURCES;LIBRARIES")
-    set(program tst_${class})
-    add_executable(${program} ${program}.cpp ${arg_SOURCES})
-    target_link_libraries(${program} PRIVATE platform_test_support ${arg_LIBRARIES})
+    cmake_parse_arguments(PARSE_ARGV 1 arg "ALONE;LOADS_LIBRARY" "" "PLATFORMS;SCREENS;SOURCES;LIBRARIES")
+    if(arg_ALONE OR arg_LOADS_LIBRARY)
+        set(program tst_${class})
+        set(argument "")
+    else()
+        cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
+        set(program tests_${folder})
+        set(argument ${class})
+    endif()
+    if(NOT TARGET ${program})
+        add_executable(${program})
+        target_link_libraries(${program} PRIVATE platform_test_support)
+    endif()
+    target_sources(${program} PRIVATE tst_${class}.cpp ${arg_SOURCES})
+    target_link_libraries(${program} PRIVATE ${arg_LIBRARIES})
     if(arg_LOADS_LIBRARY)
         add_dependencies(${program} platform_widgets)
         target_compile_definitions(${program} PRIVATE WIDGETS_LIBRARY="$<TARGET_FILE:platform_widgets>")
@@ -30,15 +45,15 @@ function(platform_add_test class)
     endif()
     foreach(platform IN LISTS arg_PLATFORMS)
         if(NOT platform STREQUAL "x11")
-            platform_register_test(${platform}.${class} ${platform} "" ${program})
+            platform_register_test(${platform}.${class} ${platform} "" ${program} ${argument})
             continue()
         endif()
-        set(command "${PROJECT_SOURCE_DIR}/tests/support/with-x-server.sh" $<TARGET_FILE:${program}>)
+        set(in_x_server "${PROJECT_SOURCE_DIR}/tests/support/with-x-server.sh" $<TARGET_FILE:${program}> ${argument})
         if(NOT arg_SCREENS)
-            platform_register_test(x11.${class} xcb "" ${command})
+            platform_register_test(x11.${class} xcb "" ${in_x_server})
         endif()
         foreach(screen IN LISTS arg_SCREENS)
-            platform_register_test(x11.${class}.${screen} xcb "XSERVER_SCREEN=${screen}x24" ${command})
+            platform_register_test(x11.${class}.${screen} xcb "XSERVER_SCREEN=${screen}x24" ${in_x_server})
         endforeach()
     endforeach()
 endfunction()

@@ -324,9 +324,6 @@ void tst_CGridArrangedButton::paintsItsContentBeneathItsWidgets()
     QCOMPARE(button.grab().toImage().convertToFormat(green.format()), green);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CGridArrangedButton>(argc, argv);
-}
+const test::Registration<tst_CGridArrangedButton> registration;
 
 #include "tst_CGridArrangedButton.moc"

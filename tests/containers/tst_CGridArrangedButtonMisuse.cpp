@@ -293,9 +293,6 @@ void tst_CGridArrangedButtonMisuse::survivesAbsurdStretches()
     }
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CGridArrangedButtonMisuse>(argc, argv);
-}
+const test::Registration<tst_CGridArrangedButtonMisuse> registration;
 
 #include "tst_CGridArrangedButtonMisuse.moc"

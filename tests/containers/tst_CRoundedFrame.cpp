@@ -352,9 +352,6 @@ void tst_CRoundedFrame::survivesAbsurdMetricsInLayout()
     QCOMPARE(stage.frame->contentsMargins(), evenMargins(8));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CRoundedFrame>(argc, argv);
-}
+const test::Registration<tst_CRoundedFrame> registration;
 
 #include "tst_CRoundedFrame.moc"

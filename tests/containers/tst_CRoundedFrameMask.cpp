@@ -292,9 +292,6 @@ void tst_CRoundedFrameMask::clipsChildren()
     QCOMPARE(image.pixelColor(60, 40), QColor(Qt::red));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CRoundedFrameMask>(argc, argv);
-}
+const test::Registration<tst_CRoundedFrameMask> registration;
 
 #include "tst_CRoundedFrameMask.moc"

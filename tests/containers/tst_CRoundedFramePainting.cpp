@@ -340,9 +340,6 @@ void tst_CRoundedFramePainting::drawsNoOutlineWithoutMargins()
                             test::canvas(size, 1.0, look.color(QPalette::Window))));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CRoundedFramePainting>(argc, argv);
-}
+const test::Registration<tst_CRoundedFramePainting> registration;
 
 #include "tst_CRoundedFramePainting.moc"

@@ -172,9 +172,6 @@ void tst_DesignerPlugin::formThroughUiLoader()
     verifyForm(*form);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_DesignerPlugin>(argc, argv);
-}
+const test::Registration<tst_DesignerPlugin> registration;
 
 #include "tst_DesignerPlugin.moc"

@@ -184,9 +184,6 @@ void tst_BreadCrumbsMenu::barDeletedLaterWithTheMenuOpen()
     QTRY_VERIFY(m_bar.isNull());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_BreadCrumbsMenu>(argc, argv);
-}
+const test::Registration<tst_BreadCrumbsMenu> registration;
 
 #include "tst_BreadCrumbsMenu.moc"

@@ -497,9 +497,6 @@ void tst_BreadCrumbsWidget::longPath()
     QCOMPARE(crumbs(*bar), names.mid(497));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_BreadCrumbsWidget>(argc, argv);
-}
+const test::Registration<tst_BreadCrumbsWidget> registration;
 
 #include "tst_BreadCrumbsWidget.moc"

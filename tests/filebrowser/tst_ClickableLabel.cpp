@@ -228,9 +228,6 @@ void tst_ClickableLabel::emptyAndTiny()
     paintedBy(label);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ClickableLabel>(argc, argv);
-}
+const test::Registration<tst_ClickableLabel> registration;
 
 #include "tst_ClickableLabel.moc"

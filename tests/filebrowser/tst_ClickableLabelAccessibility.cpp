@@ -144,9 +144,6 @@ void tst_ClickableLabelAccessibility::keepsTheRelationsOfAWidget()
     QCOMPARE(relations.first().second, QAccessible::Relation(QAccessible::Label));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ClickableLabelAccessibility>(argc, argv);
-}
+const test::Registration<tst_ClickableLabelAccessibility> registration;
 
 #include "tst_ClickableLabelAccessibility.moc"

@@ -297,9 +297,6 @@ void tst_FileBrowserDirectories::selectionModeSetOnTheView()
     QCOMPARE(m_browser->selectionMode(), ui::FileBrowserWidget::SingleSelection);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_FileBrowserDirectories>(argc, argv);
-}
+const test::Registration<tst_FileBrowserDirectories> registration;
 
 #include "tst_FileBrowserDirectories.moc"

@@ -131,9 +131,6 @@ void tst_FileBrowserHiddenView::columnsFitInAnotherDirectory()
             > parts.listView->fontMetrics().horizontalAdvance(longName));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_FileBrowserHiddenView>(argc, argv);
-}
+const test::Registration<tst_FileBrowserHiddenView> registration;
 
 #include "tst_FileBrowserHiddenView.moc"

@@ -431,9 +431,6 @@ void tst_FileBrowserSelection::modelEmptiedUnderASelection()
     QCOMPARE(m_browser->currentPath(), m_tree->path());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_FileBrowserSelection>(argc, argv);
-}
+const test::Registration<tst_FileBrowserSelection> registration;
 
 #include "tst_FileBrowserSelection.moc"

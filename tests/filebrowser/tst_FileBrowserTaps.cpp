@@ -179,9 +179,6 @@ void tst_FileBrowserTaps::browserDeletedByACrumb()
     QTRY_VERIFY(m_browser.isNull());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_FileBrowserTaps>(argc, argv);
-}
+const test::Registration<tst_FileBrowserTaps> registration;
 
 #include "tst_FileBrowserTaps.moc"

@@ -435,9 +435,6 @@ void tst_FileBrowserWidget::modelDeleted()
     QCOMPARE(m_browser->currentPath(), QString());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_FileBrowserWidget>(argc, argv);
-}
+const test::Registration<tst_FileBrowserWidget> registration;
 
 #include "tst_FileBrowserWidget.moc"

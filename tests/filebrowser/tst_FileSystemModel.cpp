@@ -266,9 +266,6 @@ void tst_FileSystemModel::staysConsistentWhileTheTreeChanges()
     QTRY_COMPARE(names(), QStringList{"directory"});
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_FileSystemModel>(argc, argv);
-}
+const test::Registration<tst_FileSystemModel> registration;
 
 #include "tst_FileSystemModel.moc"

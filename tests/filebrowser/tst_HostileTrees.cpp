@@ -505,9 +505,6 @@ void tst_HostileTrees::manyEntriesLoadWhileTheInterfaceAnswers()
     QTRY_COMPARE(shownNames(*m_parts->tileView).constFirst(), QStringLiteral("f00000"));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_HostileTrees>(argc, argv);
-}
+const test::Registration<tst_HostileTrees> registration;
 
 #include "tst_HostileTrees.moc"

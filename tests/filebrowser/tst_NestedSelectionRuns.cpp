@@ -318,9 +318,6 @@ void tst_NestedSelectionRuns::thousandDirectoriesWithASlotThatReadsTheSelection(
     QCOMPARE(sizes.count(0), 1000);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_NestedSelectionRuns>(argc, argv);
-}
+const test::Registration<tst_NestedSelectionRuns> registration;
 
 #include "tst_NestedSelectionRuns.moc"

@@ -46,10 +46,7 @@ void tst_AnimationPage::stopsAndStarts()
     QCOMPARE(button->text(), QStringLiteral("Stop"));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_AnimationPage>(argc, argv);
-}
+const test::Registration<tst_AnimationPage> registration;
 
 #include "tst_AnimationPage.moc"
 

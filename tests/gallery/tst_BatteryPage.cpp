@@ -126,10 +126,7 @@ void tst_BatteryPage::controlsMoveTheirBattery()
     QVERIFY(looksLike(battery, 20, false, true));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_BatteryPage>(argc, argv);
-}
+const test::Registration<tst_BatteryPage> registration;
 
 #include "tst_BatteryPage.moc"
 

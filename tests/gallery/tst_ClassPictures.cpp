@@ -181,9 +181,6 @@ void tst_ClassPictures::reportsUnwritableFile()
     QVERIFY(printed.isEmpty());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ClassPictures>(argc, argv);
-}
+const test::Registration<tst_ClassPictures> registration;
 
 #include "tst_ClassPictures.moc"

@@ -192,9 +192,6 @@ void tst_FileBrowserPage::modes()
     }
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_FileBrowserPage>(argc, argv);
-}
+const test::Registration<tst_FileBrowserPage> registration;
 
 #include "tst_FileBrowserPage.moc"

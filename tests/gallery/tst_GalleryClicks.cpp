@@ -146,9 +146,6 @@ void tst_GalleryClicks::choosesFromCombo()
     QTRY_COMPARE(m_properties->target(), m_window->page()->demoWidgets().at(0).widget);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_GalleryClicks>(argc, argv);
-}
+const test::Registration<tst_GalleryClicks> registration;
 
 #include "tst_GalleryClicks.moc"

@@ -244,9 +244,6 @@ void tst_GalleryOptions::reportsUnusableDirectory()
              qPrintable(outcome.error));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_GalleryOptions>(argc, argv);
-}
+const test::Registration<tst_GalleryOptions> registration;
 
 #include "tst_GalleryOptions.moc"

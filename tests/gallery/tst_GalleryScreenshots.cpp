@@ -204,9 +204,6 @@ void tst_GalleryScreenshots::reportsUnwritableFile()
     QVERIFY(printed.isEmpty());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_GalleryScreenshots>(argc, argv);
-}
+const test::Registration<tst_GalleryScreenshots> registration;
 
 #include "tst_GalleryScreenshots.moc"

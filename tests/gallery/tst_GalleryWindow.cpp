@@ -316,9 +316,6 @@ void tst_GalleryWindow::hidesPropertiesOfPageWithoutDemoWidgets()
     QVERIFY(gallery.box("propertiesSwitch")->isEnabled());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_GalleryWindow>(argc, argv);
-}
+const test::Registration<tst_GalleryWindow> registration;
 
 #include "tst_GalleryWindow.moc"

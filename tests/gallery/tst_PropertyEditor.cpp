@@ -296,9 +296,6 @@ void tst_PropertyEditor::clearsWithoutDemoWidgets()
     QCOMPARE(editor.findChild<QComboBox*>(QStringLiteral("widgetChoice"))->count(), 0);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_PropertyEditor>(argc, argv);
-}
+const test::Registration<tst_PropertyEditor> registration;
 
 #include "tst_PropertyEditor.moc"

@@ -77,9 +77,6 @@ void tst_ScrollIndicatorPage::highlightsWhileDragged()
     QVERIFY(!isHighlighted(*indicator));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ScrollIndicatorPage>(argc, argv);
-}
+const test::Registration<tst_ScrollIndicatorPage> registration;
 
 #include "tst_ScrollIndicatorPage.moc"

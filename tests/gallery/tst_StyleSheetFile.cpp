@@ -113,9 +113,6 @@ void tst_StyleSheetFile::exampleHasTouchSize()
     qApp->setStyleSheet(QString());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_StyleSheetFile>(argc, argv);
-}
+const test::Registration<tst_StyleSheetFile> registration;
 
 #include "tst_StyleSheetFile.moc"

@@ -121,9 +121,6 @@ void tst_SystemBattery::followsTheKernel()
     QCOMPARE(battery.read().percent, 49);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SystemBattery>(argc, argv);
-}
+const test::Registration<tst_SystemBattery> registration;
 
 #include "tst_SystemBattery.moc"

@@ -119,10 +119,7 @@ void tst_TextEntryPage::everyKeypadCanTypeIt()
     QCOMPARE(edited->text(), text);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_TextEntryPage>(argc, argv);
-}
+const test::Registration<tst_TextEntryPage> registration;
 
 #include "tst_TextEntryPage.moc"
 

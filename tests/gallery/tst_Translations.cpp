@@ -243,9 +243,6 @@ void tst_Translations::germanPageFits()
         QVERIFY(fits(window.findChild<PropertyEditor*>()->findChild<QScrollArea*>()));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_Translations>(argc, argv);
-}
+const test::Registration<tst_Translations> registration;
 
 #include "tst_Translations.moc"

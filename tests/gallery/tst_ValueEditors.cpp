@@ -501,9 +501,6 @@ void tst_ValueEditors::survivesItsTarget()
     QCOMPARE(control<QSpinBox>(row)->value(), 51); // there is nothing to read it back from
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ValueEditors>(argc, argv);
-}
+const test::Registration<tst_ValueEditors> registration;
 
 #include "tst_ValueEditors.moc"

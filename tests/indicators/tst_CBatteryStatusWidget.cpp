@@ -520,9 +520,6 @@ void tst_CBatteryStatusWidget::tooNarrowDegenerates()
     QCOMPARE(BatteryState(widget).body, BatteryLayout(QRect(0, 0, 3, 80), 4).body);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CBatteryStatusWidget>(argc, argv);
-}
+const test::Registration<tst_CBatteryStatusWidget> registration;
 
 #include "tst_CBatteryStatusWidget.moc"

@@ -162,9 +162,6 @@ void tst_CBatteryStatusWidgetLimits::invalidColor()
     QCOMPARE(image.pixelColor(20, 40), QColor(Qt::black));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CBatteryStatusWidgetLimits>(argc, argv);
-}
+const test::Registration<tst_CBatteryStatusWidgetLimits> registration;
 
 #include "tst_CBatteryStatusWidgetLimits.moc"

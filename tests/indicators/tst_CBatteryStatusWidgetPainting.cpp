@@ -577,9 +577,6 @@ void tst_CBatteryStatusWidgetPainting::paintingKeepsTheState()
     QCOMPARE(after.fillBrush, before.fillBrush);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CBatteryStatusWidgetPainting>(argc, argv);
-}
+const test::Registration<tst_CBatteryStatusWidgetPainting> registration;
 
 #include "tst_CBatteryStatusWidgetPainting.moc"

@@ -166,9 +166,6 @@ void tst_ScrollIndicatorBar::behavesAsScrollBar()
     QCOMPARE(bar.sliderPosition(), -5);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ScrollIndicatorBar>(argc, argv);
-}
+const test::Registration<tst_ScrollIndicatorBar> registration;
 
 #include "tst_ScrollIndicatorBar.moc"

@@ -154,9 +154,6 @@ void tst_ScrollIndicatorBarHandle::survivesAbsurdRanges()
     }
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ScrollIndicatorBarHandle>(argc, argv);
-}
+const test::Registration<tst_ScrollIndicatorBarHandle> registration;
 
 #include "tst_ScrollIndicatorBarHandle.moc"

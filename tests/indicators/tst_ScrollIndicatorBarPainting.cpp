@@ -223,9 +223,6 @@ void tst_ScrollIndicatorBarPainting::fillsBoundingRectangleOfDamage()
     QVERIFY(test::sameImage(test::paintedBy(bar, 1.0, damaged), image));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_ScrollIndicatorBarPainting>(argc, argv);
-}
+const test::Registration<tst_ScrollIndicatorBarPainting> registration;
 
 #include "tst_ScrollIndicatorBarPainting.moc"

@@ -75,9 +75,6 @@ void tst_LibraryBoundary::passesExceptionsOn()
     QVERIFY_EXCEPTION_THROWN(control.checkStateSet(), std::runtime_error);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_LibraryBoundary>(argc, argv);
-}
+const test::Registration<tst_LibraryBoundary> registration;
 
 #include "tst_LibraryBoundary.moc"

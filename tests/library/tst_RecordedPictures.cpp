@@ -169,9 +169,6 @@ void tst_RecordedPictures::icon()
     QVERIFY(test::sameImage(icon.pixmap(size).toImage(), recorded(QStringLiteral("icon-") + row)));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_RecordedPictures>(argc, argv);
-}
+const test::Registration<tst_RecordedPictures> registration;
 
 #include "tst_RecordedPictures.moc"

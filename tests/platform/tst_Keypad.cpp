@@ -288,9 +288,6 @@ void tst_Keypad::deletedByAKey()
     QVERIFY(!parent);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_Keypad>(argc, argv);
-}
+const test::Registration<tst_Keypad> registration;
 
 #include "tst_Keypad.moc"

@@ -286,9 +286,6 @@ void tst_KeypadLayout::translatedKeys()
     QCOMPARE(cancel->text(), QStringLiteral("Cancel"));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadLayout>(argc, argv);
-}
+const test::Registration<tst_KeypadLayout> registration;
 
 #include "tst_KeypadLayout.moc"

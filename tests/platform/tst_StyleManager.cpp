@@ -49,9 +49,6 @@ void tst_StyleManager::unknownFontIsTheApplicationDefault()
     QCOMPARE(StyleManager::getInstance()->getStyleFont(Fonts(-7)), QFont());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_StyleManager>(argc, argv);
-}
+const test::Registration<tst_StyleManager> registration;
 
 #include "tst_StyleManager.moc"

@@ -56,9 +56,6 @@ void tst_RandomUse::scaled()
     qunsetenv("QT_SCALE_FACTOR");
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_RandomUse>(argc, argv);
-}
+const test::Registration<tst_RandomUse> registration;
 
 #include "tst_RandomUse.moc"

@@ -123,9 +123,6 @@ void tst_SoakTools::noSuchModel()
     QVERIFY(!test::search(QStringLiteral(SOAK_PROGRAM), QStringLiteral("none"), 1, 1).isEmpty());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SoakTools>(argc, argv);
-}
+const test::Registration<tst_SoakTools> registration;
 
 #include "tst_SoakTools.moc"

@@ -104,9 +104,6 @@ void tst_Samples::runs()
     QVERIFY(!object); // all that a sample makes belongs to its window
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_Samples>(argc, argv);
-}
+const test::Registration<tst_Samples> registration;
 
 #include "tst_Samples.moc"

@@ -4,6 +4,8 @@
 
 #include <QStyleFactory>
 
+#include <cstdio>
+
 namespace test {
 
 namespace {
@@ -23,6 +25,32 @@ QFont repeatableFont()
     return font;
 }
 
+struct RegisteredTest
+{
+    const QMetaObject* test;
+    Run run;
+
+    const char* name() const
+    {
+        return test->className() + qstrlen("tst_");
+    }
+};
+
+// Filled before main() by objects of other sources, so made when it is first needed.
+QVector<RegisteredTest>& registeredTests()
+{
+    static QVector<RegisteredTest> tests;
+    return tests;
+}
+
+int usage(const char* program)
+{
+    std::fprintf(stderr, "usage: %s CLASS [OPTION OF QT TEST...]\n", program);
+    for (const RegisteredTest& test : qAsConst(registeredTests()))
+        std::fprintf(stderr, "  %s\n", test.name());
+    return 2;
+}
+
 } // namespace
 
 void prepareApplication()
@@ -36,6 +64,20 @@ void settleApplication()
     QApplication::setFont(repeatableFont());
     QApplication::setPalette(lightPalette());
     QApplication::setCursorFlashTime(0);
+}
+
+void registerTest(const QMetaObject& test, Run run)
+{
+    registeredTests().append({&test, run});
+}
+
+int runRegistered(int argc, char** argv)
+{
+    for (const RegisteredTest& test : qAsConst(registeredTests())) {
+        if (argc > 1 && qstrcmp(argv[1], test.name()) == 0)
+            return test.run(argc - 1, argv + 1);
+    }
+    return usage(argv[0]);
 }
 
 } // namespace test

@@ -545,9 +545,6 @@ void tst_KeypadLineEdit::maxLengthIsVirtual()
     QCOMPARE(derived.calls, 1);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadLineEdit>(argc, argv);
-}
+const test::Registration<tst_KeypadLineEdit> registration;
 
 #include "tst_KeypadLineEdit.moc"

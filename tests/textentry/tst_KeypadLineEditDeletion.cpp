@@ -260,9 +260,6 @@ void tst_KeypadLineEditDeletion::popupDeletedWhileShown()
     QVERIFY(openKeypad());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadLineEditDeletion>(argc, argv);
-}
+const test::Registration<tst_KeypadLineEditDeletion> registration;
 
 #include "tst_KeypadLineEditDeletion.moc"

@@ -136,9 +136,6 @@ void tst_KeypadLineEditOrder::cancelledBeforeItIsHidden()
     QTRY_VERIFY(!m_field->keypad()->isVisible());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadLineEditOrder>(argc, argv);
-}
+const test::Registration<tst_KeypadLineEditOrder> registration;
 
 #include "tst_KeypadLineEditOrder.moc"

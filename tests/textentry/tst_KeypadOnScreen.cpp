@@ -70,9 +70,6 @@ void tst_KeypadOnScreen::place()
     QVERIFY(y >= 0 && y + size.height() <= screenSize().height());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadOnScreen>(argc, argv);
-}
+const test::Registration<tst_KeypadOnScreen> registration;
 
 #include "tst_KeypadOnScreen.moc"

@@ -432,9 +432,6 @@ void tst_KeypadPopup::withoutKeypad()
     QCOMPARE(edit.text(), QStringLiteral("ab"));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadPopup>(argc, argv);
-}
+const test::Registration<tst_KeypadPopup> registration;
 
 #include "tst_KeypadPopup.moc"

@@ -113,9 +113,6 @@ void tst_KeypadPopupDeletion::outlivesItsSubtitle()
     QVERIFY(popup.findChildren<QLabel*>().isEmpty());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadPopupDeletion>(argc, argv);
-}
+const test::Registration<tst_KeypadPopupDeletion> registration;
 
 #include "tst_KeypadPopupDeletion.moc"

@@ -389,9 +389,6 @@ void tst_KeypadPopupFocus::keysArePressedByMouse()
     QVERIFY(form.field->hasFocus());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadPopupFocus>(argc, argv);
-}
+const test::Registration<tst_KeypadPopupFocus> registration;
 
 #include "tst_KeypadPopupFocus.moc"

@@ -261,9 +261,6 @@ void tst_KeypadPopupPlacement::sizeFollowsTheHintAtTheNextShowing()
     QCOMPARE(popup.size(), popup.sizeHint());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadPopupPlacement>(argc, argv);
-}
+const test::Registration<tst_KeypadPopupPlacement> registration;
 
 #include "tst_KeypadPopupPlacement.moc"

@@ -371,9 +371,6 @@ void tst_KeypadTaps::deletedWithOpenKeypad()
     QVERIFY(waitUntilShown(m_form->second));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadTaps>(argc, argv);
-}
+const test::Registration<tst_KeypadTaps> registration;
 
 #include "tst_KeypadTaps.moc"

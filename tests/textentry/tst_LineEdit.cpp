@@ -513,9 +513,6 @@ void tst_LineEdit::subclassFunctions()
                           "textEdited()", "editingFinished", "signalCancelKey"}));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_LineEdit>(argc, argv);
-}
+const test::Registration<tst_LineEdit> registration;
 
 #include "tst_LineEdit.moc"

@@ -199,9 +199,6 @@ void tst_LineEditDeletion::focusedAgainByASlot()
                           "signalCancelKey"}));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_LineEditDeletion>(argc, argv);
-}
+const test::Registration<tst_LineEditDeletion> registration;
 
 #include "tst_LineEditDeletion.moc"

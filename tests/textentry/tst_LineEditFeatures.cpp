@@ -235,9 +235,6 @@ void tst_LineEditFeatures::fixup()
     QCOMPARE(form.field->text(), QStringLiteral("old"));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_LineEditFeatures>(argc, argv);
-}
+const test::Registration<tst_LineEditFeatures> registration;
 
 #include "tst_LineEditFeatures.moc"

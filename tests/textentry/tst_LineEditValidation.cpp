@@ -266,9 +266,6 @@ void tst_LineEditValidation::styleSheetFollows()
     QCOMPARE(cornerColor(*edit), QColor(0, 255, 0));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_LineEditValidation>(argc, argv);
-}
+const test::Registration<tst_LineEditValidation> registration;
 
 #include "tst_LineEditValidation.moc"

@@ -195,9 +195,6 @@ void tst_AtRest::nothingIsPaintedAgain()
     }
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_AtRest>(argc, argv);
-}
+const test::Registration<tst_AtRest> registration;
 
 #include "tst_AtRest.moc"

@@ -151,9 +151,6 @@ void tst_Deletion::inSlot()
     QVERIFY(!sender);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_Deletion>(argc, argv);
-}
+const test::Registration<tst_Deletion> registration;
 
 #include "tst_Deletion.moc"

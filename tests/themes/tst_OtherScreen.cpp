@@ -54,9 +54,6 @@ void tst_OtherScreen::goesOn()
     }
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_OtherScreen>(argc, argv);
-}
+const test::Registration<tst_OtherScreen> registration;
 
 #include "tst_OtherScreen.moc"

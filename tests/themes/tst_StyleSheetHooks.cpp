@@ -181,9 +181,6 @@ void tst_StyleSheetHooks::properties()
     QCOMPARE(control.trackOffOpacity(), 0.75);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_StyleSheetHooks>(argc, argv);
-}
+const test::Registration<tst_StyleSheetHooks> registration;
 
 #include "tst_StyleSheetHooks.moc"

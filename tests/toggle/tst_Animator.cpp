@@ -645,9 +645,6 @@ void tst_Animator::destructorStopsFirst()
     QCOMPARE(updates.take(), 0);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_Animator>(argc, argv);
-}
+const test::Registration<tst_Animator> registration;
 
 #include "tst_Animator.moc"

@@ -358,9 +358,6 @@ void tst_CAnimationFwdRevLoop::survivesDeletionInStateChanged()
     QCoreApplication::processEvents();
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_CAnimationFwdRevLoop>(argc, argv);
-}
+const test::Registration<tst_CAnimationFwdRevLoop> registration;
 
 #include "tst_CAnimationFwdRevLoop.moc"

@@ -310,9 +310,6 @@ void tst_SelectionControl::deletedLaterInToggled()
     QVERIFY(!control);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SelectionControl>(argc, argv);
-}
+const test::Registration<tst_SelectionControl> registration;
 
 #include "tst_SelectionControl.moc"

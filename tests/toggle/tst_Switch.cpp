@@ -379,9 +379,6 @@ void tst_Switch::animators()
     QCOMPARE(animators.thumbPos->currentValue(), QVariant());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_Switch>(argc, argv);
-}
+const test::Registration<tst_Switch> registration;
 
 #include "tst_Switch.moc"

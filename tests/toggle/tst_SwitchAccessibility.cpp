@@ -64,9 +64,6 @@ void tst_SwitchAccessibility::pressAction()
     QVERIFY(control.isChecked());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SwitchAccessibility>(argc, argv);
-}
+const test::Registration<tst_SwitchAccessibility> registration;
 
 #include "tst_SwitchAccessibility.moc"

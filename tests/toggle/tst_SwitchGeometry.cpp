@@ -171,9 +171,6 @@ void tst_SwitchGeometry::absurdMeasuresInLayout()
     QVERIFY(layout.sizeHint().height() <= QWIDGETSIZE_MAX);
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SwitchGeometry>(argc, argv);
-}
+const test::Registration<tst_SwitchGeometry> registration;
 
 #include "tst_SwitchGeometry.moc"

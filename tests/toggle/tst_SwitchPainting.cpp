@@ -417,9 +417,6 @@ void tst_SwitchPainting::nothingShowsFocusOrPress()
     QVERIFY(test::sameImage(test::paintedBy(control), test::painted(dressedOff())));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SwitchPainting>(argc, argv);
-}
+const test::Registration<tst_SwitchPainting> registration;
 
 #include "tst_SwitchPainting.moc"

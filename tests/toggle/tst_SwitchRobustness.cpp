@@ -328,9 +328,6 @@ void tst_SwitchRobustness::exclusiveGroup()
     QCOMPARE(test::animatorsOf(second).thumbPos->currentValue(), QVariant(36));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SwitchRobustness>(argc, argv);
-}
+const test::Registration<tst_SwitchRobustness> registration;
 
 #include "tst_SwitchRobustness.moc"

@@ -409,9 +409,6 @@ void tst_SwitchTransition::brushConstructorShowsItsColorWhenOn()
     QCOMPARE(its.trackBrush->currentValue(), QVariant(QColor(10, 20, 30, 128)));
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_SwitchTransition>(argc, argv);
-}
+const test::Registration<tst_SwitchTransition> registration;
 
 #include "tst_SwitchTransition.moc"

@@ -139,8 +139,8 @@ def work(tree, tasks, results, deadline):
     tree.mend()
 
 
-def prepare(tree, names):
-    tree.build_tests(names)
+def prepare(tree, folders, names):
+    tree.build_tests(folders)
     if not tree.passes(names):
         raise SystemExit("mutants: the tests fail with the library as it is; see ./dev test")
 
@@ -150,8 +150,9 @@ def run(tasks, trees, results, minutes):
     for task in tasks:
         waiting.put(task)
     names = sorted({test for task in tasks for test in task.near_tests + task.far_tests})
+    folders = {folder_of(task.name) for task in tasks}
     for tree in trees:
-        prepare(tree, names)
+        prepare(tree, folders, names)
     deadline = time.monotonic() + minutes * 60
     workers = [threading.Thread(target=work, args=(tree, waiting, results, deadline)) for tree in trees]
     for worker in workers:

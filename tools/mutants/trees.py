@@ -17,7 +17,7 @@ def _limit_memory():
     resource.setrlimit(resource.RLIMIT_AS, (_MEMORY_LIMIT, _MEMORY_LIMIT))
 
 
-def program_of(test):
+def class_of(test):
     """The class part of a test's name: platform.CLASS or platform.CLASS.screen."""
     return test.split(".")[1]
 
@@ -62,16 +62,16 @@ class Tree:
                         f"-DPLATFORM_TEST_TIMEOUT={_TEST_TIMEOUT}"])
 
     def tests(self):
-        """The test programs as CTest knows them: their names with the folders that they are in."""
+        """The tests as CTest knows them: their names with the folders that they are in."""
         shown = json.loads(self._must_run(["ctest", "--test-dir", str(self.build), "--show-only=json-v1"]))
         folders = {path.stem[4:]: path.parent.name for path in self.source.glob("tests/*/tst_*.cpp")}
         names = [test["name"] for test in shown["tests"]]
-        return {name: folders[program_of(name)]
+        return {name: folders[class_of(name)]
                 for name in names if name.startswith(("offscreen.", "x11."))}
 
-    def build_tests(self, names):
-        programs = sorted({"tst_" + program_of(name) for name in names})
-        self._must_run(["ninja", "-C", str(self.build), "platform_widgets", *programs])
+    def build_tests(self, folders):
+        targets = [f"tests/{folder}/all" for folder in sorted(folders)]
+        self._must_run(["ninja", "-C", str(self.build), "platform_widgets", *targets])
 
     def set_source(self, name, text):
         """Breaks a source, and mends the one that was broken before."""
