@@ -13,8 +13,8 @@ class KeypadPopup;
  * A ui::LineEdit that opens the device's on-screen keypad while it is being edited.
  *
  * When the field gains the focus, a ui::KeypadPopup opens beside it. The keypad's OK and Cancel end
- * the edit as Return and Escape do; a tap outside both closes the pop-up and reverts the text. The
- * pop-up is made on first use and serves the field for its whole life.
+ * the edit as Return and Escape do; a tap outside both closes the pop-up and reverts the text, and so
+ * does hiding the field. The pop-up is made on first use and serves the field for its whole life.
  *
  * \image html KeypadLineEdit.png "A field for a number, at rest and with its keypad"
  *

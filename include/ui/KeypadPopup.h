@@ -31,7 +31,8 @@ class IKeypad;
  *
  * ui::KeypadLineEdit does all of this by itself. The nearest neighbour in Qt is any QWidget with the
  * window type Qt::Popup, which takes the keyboard from the focused widget instead of feeding it. As
- * there, a press outside the pop-up, but not on the edited widget, closes it.
+ * there, a press outside the pop-up, but not on the edited widget, closes it. It also goes, one turn of
+ * the event loop later, when the edited widget is hidden, with its window or without.
  *
  * \anchor looks_KeypadPopup
  * \par Palette roles and style-sheet hooks
@@ -80,7 +81,7 @@ public:
      */
     void setKeypadSectionVisible(int section, bool visible);
 
-    /// Gives the focus back to the field once after each showing.
+    /// Gives the focus back to the field once after each showing, and hides the pop-up with the field.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:

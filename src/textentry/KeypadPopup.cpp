@@ -7,7 +7,9 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -67,6 +69,17 @@ bool isPassedToTarget(QEvent::Type type)
 {
     return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease
         || type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove;
+}
+
+/// Hides \a popup, as its \a field has been hidden, and ends the edit as any other closing does.
+void goWithField(QWidget* popup, const QPointer<QWidget>& field)
+{
+    if (!popup->isVisible())
+        return;
+    popup->hide(); // may delete both
+    // With a pop-up open, Qt leaves the focus in a window that is hidden: the next tap would be none.
+    if (field && !field->isVisible())
+        field->clearFocus();
 }
 
 } // namespace
@@ -189,6 +202,8 @@ void KeypadPopup::setKeypadSectionVisible(int section, bool visible)
 
 bool KeypadPopup::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == target && event->type() == QEvent::Hide)
+        QTimer::singleShot(0, this, [this] { goWithField(this, target); });
     if (watched != target || event->type() != QEvent::FocusOut || !isVisible() || !refocusPending)
         return false;
     refocusPending = false;
