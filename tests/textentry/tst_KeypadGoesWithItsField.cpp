@@ -1,6 +1,6 @@
-#include "EditForm.h"
 #include "KeypadKeys.h"
 #include "OffscreenMessages.h"
+#include "TestApplication.h"
 
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
@@ -212,9 +212,6 @@ void tst_KeypadGoesWithItsField::otherHidingsAreNoMatter()
     QVERIFY(m_dialog->isKeypadUp());
 }
 
-int main(int argc, char** argv)
-{
-    return test::run<tst_KeypadGoesWithItsField>(argc, argv);
-}
+const test::Registration<tst_KeypadGoesWithItsField> registration;
 
 #include "tst_KeypadGoesWithItsField.moc"
