@@ -65,11 +65,13 @@ bool acceptsWidget(const QWidget* widget, const QWidget& button)
     return false;
 }
 
-/// Whether something else, or the grid itself, is going to delete \a item.
+/// Whether something else is going to delete \a item, or \a grid twice. A layout that is a child of the
+/// grid before it is in a cell is as QGridLayout::addLayout() would leave it.
 bool hasOwner(QLayoutItem& item, const QGridLayout& grid)
 {
     const QLayout* layout = item.layout();
-    return grid.indexOf(&item) >= 0 || (layout && layout->parent());
+    const QObject* parent = layout ? layout->parent() : nullptr;
+    return grid.indexOf(&item) >= 0 || (parent && parent != &grid);
 }
 
 bool acceptsItem(QLayoutItem* item, const QGridLayout& grid, const QWidget& button)

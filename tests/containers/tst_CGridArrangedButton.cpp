@@ -8,6 +8,8 @@
 #include <QMetaMethod>
 #include <QSignalSpy>
 
+#include <memory>
+
 using ui::CGridArrangedButton;
 
 namespace {
@@ -65,6 +67,8 @@ private Q_SLOTS:
     void addsWidgetOverSpans();
     void takesWidgetFromItsParent();
     void addsItem();
+    void addsNestedLayout();
+    void nestedLayoutDeletedFirst();
     void forwardsColumns();
     void forwardsRows();
     void forwardsSpacings();
@@ -221,6 +225,44 @@ void tst_CGridArrangedButton::addsItem()
     QLabel label(&parent);
     button.addItem(new QWidgetItem(&label), 0, 0);
     QCOMPARE(label.parentWidget(), &parent);
+}
+
+/// As QGridLayout::addLayout() leaves it: a child of the grid, which deletes it once.
+void tst_CGridArrangedButton::addsNestedLayout()
+{
+    auto button = std::make_unique<CGridArrangedButton>();
+    QPointer<QHBoxLayout> nested(new QHBoxLayout);
+    nested->setParent(gridOf(*button));
+    QPointer<QLabel> label(new QLabel(QStringLiteral("nested")));
+    nested->addWidget(label);
+    button->addItem(nested, 2, 1, 1, 2);
+    QCOMPARE(gridOf(*button)->count(), 1);
+    QCOMPARE(gridOf(*button)->itemAt(0)->layout(), nested.data());
+    QCOMPARE(onlyCell(*button), QRect(1, 2, 2, 1));
+    QCOMPARE(nested->parent(), gridOf(*button));
+    QCOMPARE(label->parentWidget(), button.get());
+
+    label->setFixedSize(300, 200);
+    QVERIFY(button->sizeHint().width() >= 300);
+    button->resize(button->sizeHint());
+    gridOf(*button)->activate();
+    QCOMPARE(label->size(), QSize(300, 200));
+
+    button.reset();
+    QVERIFY(!nested);
+    QVERIFY(!label);
+}
+
+void tst_CGridArrangedButton::nestedLayoutDeletedFirst()
+{
+    CGridArrangedButton button;
+    auto* nested = new QVBoxLayout;
+    nested->setParent(gridOf(button));
+    button.addItem(nested, 0, 0);
+    delete nested;
+    QCOMPARE(gridOf(button)->count(), 0);
+    button.addItem(new QSpacerItem(1, 1), 0, 0);
+    QCOMPARE(gridOf(button)->count(), 1);
 }
 
 void tst_CGridArrangedButton::forwardsColumns()

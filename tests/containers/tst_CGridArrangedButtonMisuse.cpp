@@ -172,6 +172,12 @@ void tst_CGridArrangedButtonMisuse::refusesItemsWithOwners_data()
     QTest::addColumn<Find>("find");
     QTest::newRow("in the grid already")
         << Find([](CGridArrangedButton& button, QWidget&) { return gridOf(button)->itemAt(0); });
+    QTest::newRow("layout in the grid already")
+        << Find([](CGridArrangedButton& button, QWidget&) { return gridOf(button)->itemAt(1); });
+    QTest::newRow("layout in a layout of the grid")
+        << Find([](CGridArrangedButton& button, QWidget&) {
+               return gridOf(button)->itemAt(1)->layout()->itemAt(0);
+           });
     QTest::newRow("the grid itself")
         << Find([](CGridArrangedButton& button, QWidget&) { return button.layout(); });
     QTest::newRow("layout of a widget")
@@ -185,6 +191,10 @@ void tst_CGridArrangedButtonMisuse::refusesItemsWithOwners()
     QFETCH(const Find, find);
     CGridArrangedButton button;
     button.addItem(new QSpacerItem(1, 1), 0, 0);
+    auto* nested = new QHBoxLayout;
+    nested->setParent(gridOf(button));
+    nested->addLayout(new QHBoxLayout);
+    button.addItem(nested, 0, 1);
     QWidget widget;
     auto* column = new QVBoxLayout(&widget);
     column->addLayout(new QHBoxLayout);
@@ -192,9 +202,9 @@ void tst_CGridArrangedButtonMisuse::refusesItemsWithOwners()
     QTest::ignoreMessage(QtWarningMsg,
                          "CGridArrangedButton::addItem: cannot add an item that has an owner");
     button.addItem(find(button, widget), 1, 1);
-    QCOMPARE(gridOf(button)->count(), 1);
-    button.addItem(new QHBoxLayout, 1, 1); // this one has none
     QCOMPARE(gridOf(button)->count(), 2);
+    button.addItem(new QHBoxLayout, 1, 1); // this one has none
+    QCOMPARE(gridOf(button)->count(), 3);
 }
 
 void tst_CGridArrangedButtonMisuse::survivesLossOfItsGrid_data()

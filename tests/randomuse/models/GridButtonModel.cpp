@@ -3,6 +3,7 @@
 #include <ui/CGridArrangedButton.h>
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 
 using ui::CGridArrangedButton;
@@ -153,10 +154,19 @@ void GridButtonModel::addItem(Values& values)
 {
     const int row = index(values);
     const int column = index(values);
-    auto* item = new QSpacerItem(values.below(30), values.below(30));
+    auto* spacer = new QSpacerItem(values.below(30), values.below(30));
+    QLayoutItem* item = spacer;
+    if (row % 2) {
+        auto* nested = new QHBoxLayout;
+        nested->setParent(button().layout());
+        nested->addItem(spacer);
+        item = nested;
+    }
     const int before = button().layout()->count();
     button().addItem(item, row, column);
-    if (button().layout()->count() == before)
+    const bool added = isIndex(row) && isIndex(column);
+    compare("items", button().layout()->count(), before + added);
+    if (!added)
         delete item;
 }
 
