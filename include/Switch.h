@@ -265,7 +265,7 @@ public:
 protected:
     /// Paints track, shadow, thumb and label, in this order.
     void paintEvent(QPaintEvent* event) override;
-    /// Makes the image of the thumb's shadow anew.
+    /// Takes the image of the thumb's shadow anew, which is the same at every size.
     void resizeEvent(QResizeEvent* event) override;
 
 private:

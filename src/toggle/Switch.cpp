@@ -23,8 +23,9 @@ void rest(Animator* animator, const QColor& color)
 {
     if (!animator)
         return;
-    animator->setStartValue(color);
-    animator->setEndValue(color);
+    const QVariant value(color); // made once for both
+    animator->setStartValue(value);
+    animator->setEndValue(value);
 }
 
 void interpolate(Animator* animator, const QVariant& start, const QVariant& end)

@@ -28,10 +28,16 @@ QRectF disc(const QPointF& centre, double diameter)
     return {centre.x() - diameter / 2.0, centre.y() - diameter / 2.0, diameter, diameter};
 }
 
-QPixmap sharpShadow()
+QImage transparentImage()
 {
-    QPixmap shadow(shadowSize, shadowSize);
-    shadow.fill(Qt::transparent);
+    QImage image(shadowSize, shadowSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+QImage sharpShadow()
+{
+    QImage shadow = transparentImage();
     QPainter painter(&shadow);
     painter.setPen(Qt::NoPen);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -40,28 +46,14 @@ QPixmap sharpShadow()
     return shadow;
 }
 
-QImage transparentImage(const QPixmap& like)
+QImage blurred(QImage image)
 {
-    QImage image(like.size(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(like.devicePixelRatio());
-    image.fill(0);
-    return image;
-}
-
-QPixmap blurred(const QPixmap& pixmap)
-{
-    QImage source = transparentImage(pixmap);
-    QPainter copy(&source);
-    copy.setCompositionMode(QPainter::CompositionMode_Source);
-    copy.drawPixmap(0, 0, pixmap);
-    copy.end();
-
-    QImage result = transparentImage(pixmap);
-    QPainter blur(&result);
-    qt_blurImage(&blur, source, shadowBlurRadius, true, false);
-    blur.end();
+    QImage result = transparentImage();
+    QPainter painter(&result);
+    qt_blurImage(&painter, image, shadowBlurRadius, true, false);
+    painter.end();
     // An image that has been painted on keeps its paint engine, nearly as large as this picture.
-    return QPixmap::fromImage(result.copy());
+    return result.copy();
 }
 
 } // namespace
@@ -76,7 +68,9 @@ QColor withOpacity(const QColor& color, double opacity)
 
 QPixmap thumbShadow()
 {
-    return blurred(sharpShadow());
+    // An image, unlike a pixmap, outlives the application object.
+    static const QImage shadow = blurred(sharpShadow());
+    return QPixmap::fromImage(shadow);
 }
 
 QPointF thumbCentre(const QRectF& track, double shift)

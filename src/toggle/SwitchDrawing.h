@@ -18,7 +18,7 @@ namespace SwitchDrawing {
  */
 QColor withOpacity(const QColor& color, double opacity);
 
-/// The blurred disc that lies beneath the thumb.
+/// The blurred disc that lies beneath the thumb: always the same, and blurred only once.
 QPixmap thumbShadow();
 
 /// The centre of the thumb in \a track when the left edge of its room is moved by \a shift.

@@ -36,10 +36,8 @@ QPixmap shadow()
 
 } // namespace
 
-QImage painted(const SwitchPicture& picture, qreal devicePixelRatio, const QColor& background)
+void paint(QPainter& painter, const SwitchPicture& picture)
 {
-    QImage image = canvas(picture.size, devicePixelRatio, background);
-    QPainter painter(&image);
     painter.setPen(Qt::NoPen);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(picture.trackOpacity);
@@ -61,6 +59,13 @@ QImage painted(const SwitchPicture& picture, qreal devicePixelRatio, const QColo
     painter.setPen(picture.textColor);
     painter.setFont(picture.font);
     painter.drawText(picture.textArea, Qt::AlignLeft | Qt::AlignVCenter, picture.text);
+}
+
+QImage painted(const SwitchPicture& picture, qreal devicePixelRatio, const QColor& background)
+{
+    QImage image = canvas(picture.size, devicePixelRatio, background);
+    QPainter painter(&image);
+    paint(painter, picture);
     return image;
 }
 

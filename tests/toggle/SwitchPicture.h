@@ -6,6 +6,10 @@
 #include <QMargins>
 #include <QRect>
 
+QT_BEGIN_NAMESPACE
+class QPainter;
+QT_END_NAMESPACE
+
 namespace test {
 
 /// What a switch is expected to look like, measured by hand from its rules.
@@ -25,7 +29,10 @@ struct SwitchPicture
     double textOpacity = 1.0;
 };
 
-/// The picture painted without any code of the library.
+/// Paints the picture without any code of the library.
+void paint(QPainter& painter, const SwitchPicture& picture);
+
+/// The picture on a canvas.
 QImage painted(const SwitchPicture& picture, qreal devicePixelRatio = 1.0,
                const QColor& background = Qt::white);
 
