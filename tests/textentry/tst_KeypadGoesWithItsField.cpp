@@ -152,9 +152,11 @@ void tst_KeypadGoesWithItsField::hidden()
         QTRY_VERIFY(!m_dialog->field->hasFocus());
         QCOMPARE(m_dialog->field->text(), QStringLiteral("15"));
 
-        // As a window manager does; the offscreen plugin does not of its own.
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.data()));
+        if (!m_dialog->isVisible()) {
+            // As a window manager does; the offscreen plugin does not of its own.
+            m_window->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(m_window.data()));
+        }
         QVERIFY(m_dialog->showAgain());
     }
     QVERIFY(m_dialog->openKeypad());
