@@ -42,6 +42,7 @@ private:
     void edit();
     void end(const QString& key);
     void tapOutside();
+    void hideField(Values& values);
 
     QPointer<LineEditWatcher> m_watcher;
     QPointer<KeypadPopup> m_seen;
@@ -69,6 +70,7 @@ KeypadFieldModel::KeypadFieldModel(const std::shared_ptr<TestWindows>& windows)
     add("ok", 2, [this](Values&) { end(QStringLiteral("OK")); });
     add("cancelByKeypad", 2, [this](Values&) { end(QStringLiteral("Cancel")); });
     add("tapOutside", 2, [this](Values&) { tapOutside(); });
+    add("hideField", 2, [this](Values& v) { hideField(v); });
     addLineEditCommands(*this);
     addAllCommands(*this);
 }
@@ -177,6 +179,21 @@ void KeypadFieldModel::tapOutside()
     processEvents();
     expect(!isUp(), "a tap outside closes the keypad");
     expect(!field().hasFocus(), "a tap outside ends the edit");
+}
+
+/// The keypad goes with its field, alone or with the window.
+void KeypadFieldModel::hideField(Values& values)
+{
+    processEvents();
+    if (!isUp() || !field().isVisible())
+        return;
+    const QPointer<QWidget> hidden = values.boolean() ? &field() : field().window();
+    hidden->hide();
+    processEvents();
+    expect(!isUp(), "the keypad is down once the field is hidden and the events are processed");
+    expect(!field().hasFocus(), "a hidden field ends the edit");
+    if (hidden)
+        hidden->show();
 }
 
 void KeypadFieldModel::checkState()

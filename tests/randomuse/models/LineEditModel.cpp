@@ -5,9 +5,12 @@
 #include <ui/KeypadPopup.h>
 #include <ui/LineEdit.h>
 
+#include <QAccessible>
 #include <QDoubleValidator>
 #include <QFocusEvent>
 #include <QRegularExpressionValidator>
+
+#include <algorithm>
 
 namespace test {
 
@@ -35,6 +38,23 @@ void setValidator(ui::LineEdit& edit, Values& values)
     default:
         edit.setValidator(nullptr);
     }
+}
+
+/// The dynamic properties, but for Qt's own.
+QByteArrayList propertiesOf(const QObject& object)
+{
+    QByteArrayList names = object.dynamicPropertyNames();
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [](const QByteArray& name) { return name.startsWith("_q_"); }),
+                names.end());
+    return names;
+}
+
+bool isCalledInvalid(ui::LineEdit* field)
+{
+    return QAccessible::queryAccessibleInterface(field)
+        ->text(QAccessible::Description)
+        .startsWith(QLatin1String("Invalid input"));
 }
 
 class LineEditModel : public WidgetModel
@@ -89,6 +109,8 @@ void LineEditWatcher::setHasKeypad()
 void LineEditWatcher::check()
 {
     m_model->compare("inputValid", m_field->property("inputValid"), QVariant(m_valid));
+    m_model->compare("dynamic properties", propertiesOf(*m_field), QByteArrayList{"inputValid"});
+    m_model->compare("invalid for a screen reader", isCalledInvalid(m_field), !m_valid);
     m_model->compare("focus policy", m_field->focusPolicy(), Qt::ClickFocus);
 }
 
