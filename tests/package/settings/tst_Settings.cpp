@@ -1,9 +1,10 @@
-#include "Finger.h"
+#include "Contrast.h"
 #include "KeypadArea.h"
 #include "KeypadKeys.h"
 #include "SettingsPanel.h"
 #include "TestApplication.h"
 #include "Theme.h"
+#include "XPointer.h"
 
 #include <Switch.h>
 #include <ui/FileBrowserWidget.h>
@@ -21,8 +22,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include <cmath>
-
+using test::XPointer;
 using ui::KeypadLineEdit;
 using ui::KeypadPopup;
 
@@ -47,7 +47,7 @@ bool waitUntilClosed(const KeypadLineEdit* field)
 bool tapKey(const KeypadLineEdit* field, const QString& name)
 {
     const QPushButton* key = test::keypadKey(*field->keypad(), name);
-    return key && finger::tap(key) && QTest::qWaitFor([=] { return !key->isDown(); });
+    return key && XPointer::tap(*key) && QTest::qWaitFor([=] { return !key->isDown(); });
 }
 
 QRect onScreen(const QWidget* widget)
@@ -55,50 +55,15 @@ QRect onScreen(const QWidget* widget)
     return {widget->mapToGlobal(QPoint(0, 0)), widget->size()};
 }
 
-/// Moves the pressed finger by \a distance pixels downwards, in steps as a finger makes them.
+/// Moves the pressed pointer by \a distance pixels downwards, in steps as a hand makes them.
 bool drag(const QPoint& from, int distance)
 {
     constexpr int steps = 8;
     for (int step = 1; step <= steps; ++step) {
-        if (!finger::move(from + QPoint(0, distance * step / steps)))
+        if (!XPointer::move(from + QPoint(0, distance * step / steps)))
             return false;
     }
     return true;
-}
-
-double luminance(QRgb color)
-{
-    const auto linear = [](int channel) {
-        const double value = channel / 255.0;
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color))
-        + 0.0722 * linear(qBlue(color));
-}
-
-double contrast(QRgb a, QRgb b)
-{
-    const double first = luminance(a) + 0.05;
-    const double second = luminance(b) + 0.05;
-    return qMax(first, second) / qMin(first, second);
-}
-
-/// Between the colour that most of \a rect has and the one that stands out most from it.
-double contrastIn(const QImage& picture, const QRect& rect)
-{
-    QHash<QRgb, int> counts;
-    for (int y = rect.top(); y <= rect.bottom(); ++y) {
-        for (int x = rect.left(); x <= rect.right(); ++x)
-            ++counts[picture.pixel(x, y)];
-    }
-    const auto colors = counts.keys();
-    const QRgb ground = *std::max_element(colors.begin(), colors.end(), [&](QRgb a, QRgb b) {
-        return counts.value(a) < counts.value(b);
-    });
-    double best = 1;
-    for (const QRgb color : colors)
-        best = qMax(best, contrast(ground, color));
-    return best;
 }
 
 } // namespace
@@ -161,7 +126,7 @@ void tst_Settings::init()
     m_panel->showFullScreen();
     m_panel->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_panel.data()));
-    QVERIFY(finger::move(onScreen(label("title")).center()));
+    QVERIFY(XPointer::move(onScreen(label("title")).center()));
 }
 
 void tst_Settings::cleanup()
@@ -178,7 +143,7 @@ void tst_Settings::scrollTo(int value)
 void tst_Settings::edits()
 {
     KeypadLineEdit* overrun = field("overrun");
-    QVERIFY(finger::tap(overrun));
+    QVERIFY(XPointer::tap(*overrun));
     QVERIFY(waitUntilOpen(overrun));
     QCOMPARE(overrun->keypad()->findChild<QLabel*>()->text(), overrun->accessibleName());
     QTRY_COMPARE(overrun->selectedText(), QStringLiteral("15"));
@@ -193,7 +158,7 @@ void tst_Settings::edits()
 void tst_Settings::refusesWhatIsNotAcceptable()
 {
     KeypadLineEdit* overrun = field("overrun");
-    QVERIFY(finger::tap(overrun));
+    QVERIFY(XPointer::tap(*overrun));
     QVERIFY(waitUntilOpen(overrun));
     QTRY_COMPARE(overrun->selectedText(), QStringLiteral("15"));
     QVERIFY(tapKey(overrun, QStringLiteral("0")));
@@ -205,23 +170,23 @@ void tst_Settings::refusesWhatIsNotAcceptable()
     QCOMPARE(label("report")->text(), QString());
 }
 
-/// The finger rests on a field until its keypad opens, moves off it and lifts.
+/// The pointer rests on a field until its keypad opens, moves off it and is released.
 void tst_Settings::scrollsAfterADragBeganOnAField()
 {
     KeypadLineEdit* overrun = field("overrun");
     const QPoint start = onScreen(overrun).center();
-    QVERIFY(finger::press(start));
+    QVERIFY(XPointer::press(start));
     QVERIFY(waitUntilOpen(overrun));
     QVERIFY(drag(start, -100));
-    QVERIFY(finger::release());
-    QVERIFY(finger::tap(onScreen(label("title")).center())); // closes the keypad
+    QVERIFY(XPointer::release());
+    QVERIFY(XPointer::tap(onScreen(label("title")).center())); // closes the keypad
     QVERIFY(waitUntilClosed(overrun));
     scrollTo(0);
 
     const QPoint empty = onScreen(m_area).center() - QPoint(200, 0);
-    QVERIFY(finger::press(empty));
+    QVERIFY(XPointer::press(empty));
     QVERIFY(drag(empty, -150));
-    QVERIFY(finger::release());
+    QVERIFY(XPointer::release());
     QTRY_VERIFY(m_area->verticalScrollBar()->value() > 50);
     QTRY_COMPARE(QScroller::scroller(m_area->viewport())->state(), QScroller::Inactive);
     QVERIFY(!isOpen(overrun));
@@ -262,7 +227,7 @@ void tst_Settings::bringsFieldIntoView()
     }
     scrollTo(onScreen(edited).bottom() - viewport.top() - bottom);
     QCOMPARE(viewport.contains(onScreen(edited)), inside);
-    QVERIFY(finger::tap(onScreen(edited).intersected(viewport).center()));
+    QVERIFY(XPointer::tap(onScreen(edited).intersected(viewport).center()));
     QVERIFY(waitUntilOpen(edited));
 
     const QRect keypad = onScreen(edited->keypad());
@@ -283,13 +248,13 @@ void tst_Settings::highlightsIndicatorWhileDragged()
     const auto isLit = [&] { return indicator->grab().toImage().pixel(0, 20) == accent; };
     const QScroller* scroller = QScroller::scroller(m_area->viewport());
     const QPoint empty = onScreen(m_area).center() - QPoint(200, 0);
-    QVERIFY(finger::press(empty));
+    QVERIFY(XPointer::press(empty));
     QTRY_COMPARE(scroller->state(), QScroller::Pressed);
     QVERIFY(!isLit());
     QVERIFY(drag(empty, -30));
     QTRY_COMPARE(scroller->state(), QScroller::Dragging);
     QVERIFY(isLit());
-    QVERIFY(finger::release());
+    QVERIFY(XPointer::release());
     QTRY_COMPARE(scroller->state(), QScroller::Inactive);
     QVERIFY(!isLit());
 }
@@ -310,7 +275,7 @@ void tst_Settings::showsStatesInTheColorsOfTheTheme()
 
     Switch* dark = toggle("dark");
     m_area->ensureWidgetVisible(dark);
-    QVERIFY(finger::tap(dark));
+    QVERIFY(XPointer::tap(*dark));
     QTRY_VERIFY(dark->isChecked());
     QTRY_VERIFY(heating->thumbOnBrush() != light);
     m_area->ensureWidgetVisible(heating);
@@ -322,7 +287,7 @@ void tst_Settings::choosesAnUpdate()
 {
     auto* button = m_panel->findChild<QPushButton*>(QStringLiteral("chooseUpdate"));
     m_area->ensureWidgetVisible(button);
-    QVERIFY(finger::tap(button));
+    QVERIFY(XPointer::tap(*button));
     QDialog* dialog = nullptr;
     QTRY_VERIFY(dialog = m_panel->findChild<QDialog*>());
     QVERIFY(QTest::qWaitForWindowActive(dialog));
@@ -337,7 +302,7 @@ void tst_Settings::choosesAnUpdate()
         return found.value(0);
     };
     const auto tap = [&](const QModelIndex& index) {
-        return finger::tap(tiles->viewport()->mapToGlobal(tiles->visualRect(index).center()));
+        return XPointer::tap(tiles->viewport()->mapToGlobal(tiles->visualRect(index).center()));
     };
     QTRY_VERIFY(entry("older").isValid());
     QTRY_VERIFY(entry("panel-1.5.img").isValid());
@@ -354,7 +319,7 @@ void tst_Settings::choosesAnUpdate()
     QVERIFY(tap(entry("panel-1.5.img")));
     QTRY_VERIFY(open->isEnabled());
     const QPointer<QDialog> closed(dialog);
-    QVERIFY(finger::tap(open));
+    QVERIFY(XPointer::tap(*open));
     QTRY_VERIFY(!closed);
     QCOMPARE(label("update")->text(), QStringLiteral("panel-1.5.img"));
 }
@@ -384,7 +349,7 @@ void tst_Settings::canBeRead()
         const QImage picture = m_panel->grab().toImage();
         const QRect rect(widget->mapTo(m_panel.data(), QPoint(0, 0)), widget->size());
         const double found =
-            contrastIn(picture, rect.intersected(picture.rect()).adjusted(0, 6, 0, -6));
+            test::contrastIn(picture, rect.intersected(picture.rect()).adjusted(0, 6, 0, -6));
         QVERIFY2(found >= (text ? 4.5 : 3.0),
                  qPrintable(QStringLiteral("%1: %2").arg(widget->objectName()).arg(found)));
         ++texts;
