@@ -1,45 +1,26 @@
 #include "Rest.h"
 
-#include <BreadCrumbsWidget.h>
-#include <ClickableLabel.h>
-#include <Switch.h>
-#include <ui/CBatteryStatusWidget.h>
-#include <ui/CGridArrangedButton.h>
-#include <ui/CRoundedFrame.h>
-#include <ui/FileBrowserWidget.h>
-#include <ui/KeypadLineEdit.h>
-#include <ui/ScrollIndicatorBar.h>
+#include "AllClasses.h"
 
 #include <QAbstractEventDispatcher>
-#include <QDir>
 #include <QTextStream>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWidget>
 
 namespace bench {
 
 namespace {
 
-constexpr int settling = 1000; // milliseconds until the directory is read and everything painted
+constexpr int startTime = 1000; // milliseconds until the directory is read and everything painted
 
 void fill(QWidget* window)
 {
     auto* layout = new QVBoxLayout(window);
-    auto* battery = new ui::CBatteryStatusWidget;
-    battery->setBatteryCharging(true);
-    auto* on = new Switch(QStringLiteral("On"));
-    on->setChecked(true);
-    auto* browser = new ui::FileBrowserWidget;
-    browser->setAllowedDirs({QDir::rootPath()});
-    for (QWidget* widget : {static_cast<QWidget*>(battery), static_cast<QWidget*>(on),
-                            static_cast<QWidget*>(browser)})
-        layout->addWidget(widget);
-    layout->addWidget(new ui::CRoundedFrame);
-    layout->addWidget(new ui::CGridArrangedButton);
-    layout->addWidget(new ui::LineEdit);
-    layout->addWidget(new ui::KeypadLineEdit(window));
-    layout->addWidget(new ClickableLabel(window));
-    layout->addWidget(new ui::widgets::ScrollIndicatorBar);
+    for (const test::ClassInfo& info : test::allClasses()) {
+        if (QWidget* widget = info.createTypicalWidget(window))
+            layout->addWidget(widget);
+    }
 }
 
 void runEventLoop(int milliseconds)
@@ -52,7 +33,7 @@ void runEventLoop(int milliseconds)
 int wakeUpsOf(QWidget& window, int milliseconds)
 {
     window.show();
-    runEventLoop(settling);
+    runEventLoop(startTime);
     int wakeUps = 0;
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
                      &window, [&wakeUps] { ++wakeUps; });

@@ -1,26 +1,14 @@
 #include "Rows.h"
 
+#include "AllClasses.h"
 #include "Crowd.h"
 #include "PlainPopup.h"
 
-#include <BreadCrumbsWidget.h>
-#include <ClickableLabel.h>
-#include <Switch.h>
-#include <ui/CBatteryStatusWidget.h>
-#include <ui/CGridArrangedButton.h>
-#include <ui/CRoundedFrame.h>
 #include <ui/FileBrowserWidget.h>
-#include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
-#include <ui/ScrollIndicatorBar.h>
+#include <ui/LineEdit.h>
 
-#include <QCheckBox>
-#include <QFileDialog>
-#include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
-#include <QScrollBar>
-#include <QToolBar>
 
 #include <memory>
 
@@ -37,33 +25,10 @@ struct Kind
 {
     const char* name;
     Crowd::Maker ours;
-    const char* stockName;
-    Crowd::Maker stock;
+    const char* counterpartName;
+    Crowd::Maker counterpart;
     int count = many;
 };
-
-template <typename Widget>
-QWidget* make(QWidget* parent)
-{
-    return new Widget(parent);
-}
-
-/// With an outline, as the rounded frame has one.
-QWidget* makeBox(QWidget* parent)
-{
-    auto* frame = new QFrame(parent);
-    frame->setFrameShape(QFrame::Box);
-    return frame;
-}
-
-/// As a part of a window, not as a dialog.
-QWidget* makeFileDialog(QWidget* parent)
-{
-    auto* dialog = new QFileDialog(parent);
-    dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setWindowFlags(Qt::Widget);
-    return dialog;
-}
 
 QWidget* makeFieldWithPopup(QWidget* parent)
 {
@@ -79,24 +44,23 @@ QWidget* makeFieldWithPlainPopup(QWidget* parent)
     return field;
 }
 
+/// All widgets to which Qt has a counterpart.
 QVector<Kind> kinds()
 {
-    using ui::widgets::ScrollIndicatorBar;
-    return {
-        {"CRoundedFrame", make<ui::CRoundedFrame>, "QFrame", makeBox},
-        {"CGridArrangedButton", make<ui::CGridArrangedButton>, "QPushButton", make<QPushButton>},
-        {"CBatteryStatusWidget", make<ui::CBatteryStatusWidget>, "QProgressBar",
-         make<QProgressBar>},
-        {"ScrollIndicatorBar", make<ScrollIndicatorBar>, "QScrollBar", make<QScrollBar>},
-        {"LineEdit", make<ui::LineEdit>, "QLineEdit", make<QLineEdit>},
-        {"KeypadLineEdit", make<ui::KeypadLineEdit>, "QLineEdit", make<QLineEdit>},
-        {"LineEdit with a hidden KeypadPopup", makeFieldWithPopup,
-         "QLineEdit with the keypad in a plain pop-up", makeFieldWithPlainPopup, some},
-        {"Switch", make<Switch>, "QCheckBox", make<QCheckBox>},
-        {"ClickableLabel", make<ClickableLabel>, "QLabel", make<QLabel>},
-        {"BreadCrumbsWidget", make<BreadCrumbsWidget>, "QToolBar", make<QToolBar>},
-        {"FileBrowserWidget", make<ui::FileBrowserWidget>, "QFileDialog", makeFileDialog, few},
-    };
+    QVector<Kind> result{{"LineEdit with a hidden KeypadPopup", makeFieldWithPopup,
+                          "QLineEdit with the keypad in a plain pop-up", makeFieldWithPlainPopup,
+                          some}};
+    for (const test::ClassInfo& info : test::allClasses()) {
+        if (!info.counterpart.create)
+            continue;
+        const auto make = [info](QWidget* parent) {
+            return static_cast<QWidget*>(info.create(parent));
+        };
+        const bool isBrowser = info.metaObject == &ui::FileBrowserWidget::staticMetaObject;
+        result.append({info.name, make, info.counterpart.name, info.counterpart.create,
+                       isBrowser ? few : many});
+    }
+    return result;
 }
 
 /// What is measured of a life, and what comes before it.
@@ -135,8 +99,8 @@ Row phaseRow(const Kind& kind, const Phase& phase)
     const QString name = QStringLiteral("%1 of %2, %3");
     return {name.arg(kind.count).arg(QLatin1String(kind.name), QLatin1String(phase.name)),
             live(kind.ours, kind.count, phase),
-            QLatin1String(kind.stockName),
-            live(kind.stock, kind.count, phase),
+            QLatin1String(kind.counterpartName),
+            live(kind.counterpart, kind.count, phase),
             {},
             kind.count};
 }

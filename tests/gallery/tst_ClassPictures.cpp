@@ -1,3 +1,4 @@
+#include "AllClasses.h"
 #include "Appearance.h"
 #include "OffscreenMessages.h"
 #include "reference/ClassPictures.h"
@@ -93,10 +94,7 @@ void tst_ClassPictures::everyClassHasPicture()
     const QVector<StateGallery> galleries = stategalleries::all();
     for (const StateGallery& gallery : galleries)
         names.append(gallery.className);
-    names.sort();
-    QStringList expected = QStringLiteral(PUBLIC_CLASSES).split(QLatin1Char('|'));
-    expected.sort();
-    QCOMPARE(names, expected);
+    QCOMPARE(test::uncovered(names), QStringList());
 }
 
 void tst_ClassPictures::everyStateLooksDifferent_data()

@@ -11,6 +11,7 @@ class tst_RandomUse : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyClassHasModel();
     void model_data();
     void model();
     void scaled_data();
@@ -26,6 +27,11 @@ void tst_RandomUse::play(const QString& model, int commands)
     constexpr quint32 seed = 20; // any will do, as long as a failure can be repeated
     const QString report = test::search(QStringLiteral(SOAK_PROGRAM), model, seed, commands);
     QVERIFY2(report.isEmpty(), qPrintable(report));
+}
+
+void tst_RandomUse::everyClassHasModel()
+{
+    QCOMPARE(test::classesWithoutModel(), QStringList());
 }
 
 void tst_RandomUse::model_data()

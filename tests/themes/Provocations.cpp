@@ -7,15 +7,10 @@
 #include <BreadCrumbsWidget.h>
 #include <ClickableLabel.h>
 #include <Switch.h>
-#include <ui/CAnimationFwdRevLoop.h>
-#include <ui/CBatteryStatusWidget.h>
-#include <ui/CGridArrangedButton.h>
-#include <ui/CRoundedFrame.h>
 #include <ui/FileBrowserWidget.h>
 #include <ui/FileSystemModel.h>
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
-#include <ui/ScrollIndicatorBar.h>
 
 #include <QAbstractButton>
 #include <QContextMenuEvent>
@@ -24,10 +19,7 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QPersistentModelIndex>
-
-#include <cstring>
-
-using ui::keyboard::KeyboardType;
+#include <QPushButton>
 
 namespace test {
 
@@ -286,63 +278,7 @@ const QVector<Entry>& allEntries()
     return all;
 }
 
-/// A control without a look of its own.
-class Control : public SelectionControl
-{
-public:
-    using SelectionControl::SelectionControl;
-    using SelectionControl::toggle;
-    void toggle(Qt::CheckState) override { }
-
-protected:
-    void paintEvent(QPaintEvent*) override { }
-};
-
-template <typename Class>
-QObject* create(QWidget* window)
-{
-    return new Class(window);
-}
-
-template <typename Class>
-Subject subject(QObject* (*create)(QWidget*) = test::create<Class>)
-{
-    return {&Class::staticMetaObject, create};
-}
-
 } // namespace
-
-QVector<Subject> subjects()
-{
-    return {
-        subject<ui::CRoundedFrame>(),
-        subject<ui::CGridArrangedButton>(),
-        subject<ui::CBatteryStatusWidget>(),
-        subject<ui::widgets::ScrollIndicatorBar>(),
-        subject<ui::LineEdit>(),
-        subject<ui::KeypadLineEdit>([](QWidget* window) -> QObject* {
-            return new ui::KeypadLineEdit(window, KeyboardType::Integer);
-        }),
-        subject<ui::KeypadPopup>([](QWidget* window) -> QObject* {
-            auto* field = new ui::LineEdit(window);
-            return new ui::KeypadPopup(field, QString(), KeyboardType::Integer, -1);
-        }),
-        subject<Animator>([](QWidget* window) -> QObject* { return new Animator(window, window); }),
-        subject<SelectionControl>(create<Control>),
-        subject<Switch>(),
-        subject<ui::CAnimationFwdRevLoop>([](QWidget* window) -> QObject* {
-            return new ui::CAnimationFwdRevLoop(new Animator(window, window));
-        }),
-        subject<ui::FileSystemModel>(),
-        subject<ClickableLabel>(),
-        subject<BreadCrumbsWidget>([](QWidget* window) -> QObject* {
-            auto* bar = new BreadCrumbsWidget(window);
-            bar->changeDir(QStringLiteral("/a/b"));
-            return bar;
-        }),
-        subject<ui::FileBrowserWidget>(),
-    };
-}
 
 QVector<Provocation> provocations(const QMetaObject& metaObject, const QMetaMethod& signal)
 {

@@ -5,22 +5,7 @@
 
 #include <functional>
 
-QT_BEGIN_NAMESPACE
-class QWidget;
-QT_END_NAMESPACE
-
 namespace test {
-
-/// A class of the library whose objects are to be deleted in slots of their signals.
-struct Subject
-{
-    const QMetaObject* metaObject;
-    /// An object that dies with \a window.
-    QObject* (*create)(QWidget* window);
-};
-
-/// Every class of the library that can emit signals.
-QVector<Subject> subjects();
 
 /// A way to make an object emit a signal.
 struct Provocation

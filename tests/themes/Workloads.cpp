@@ -1,11 +1,13 @@
 #include "Workloads.h"
 
+#include "AllClasses.h"
 #include "EventLoop.h"
 #include "KeypadKeys.h"
 #include "Tree.h"
 
 #include <BreadCrumbsWidget.h>
 #include <Switch.h>
+#include <ui/CAnimationFwdRevLoop.h>
 #include <ui/CBatteryStatusWidget.h>
 #include <ui/CGridArrangedButton.h>
 #include <ui/CRoundedFrame.h>
@@ -16,6 +18,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QVariantAnimation>
 
 using ui::KeypadLineEdit;
 using ui::keyboard::KeyboardType;
@@ -123,6 +126,23 @@ Iteration followCrumbs(QWidget& window)
     };
 }
 
+/// An animation that reaches its end, and turns round.
+Iteration loop(QWidget& window)
+{
+    auto* animation = new QVariantAnimation(&window);
+    animation->setStartValue(0);
+    animation->setEndValue(100);
+    new ui::CAnimationFwdRevLoop(animation);
+    animation->start();
+    return [animation](int) {
+        const auto before = animation->direction();
+        const bool forward = before == QAbstractAnimation::Forward;
+        animation->setCurrentTime(forward ? animation->duration() : 0);
+        processEvents();
+        return animation->direction() != before;
+    };
+}
+
 /// Windows that are opened, filled and closed.
 Iteration open(QWidget&)
 {
@@ -148,9 +168,24 @@ Iteration open(QWidget&)
 
 QVector<Workload> workloads()
 {
-    return {{"toggles", toggle},     {"charge updates", charge},    {"scrolling", scroll},
-            {"focus cycles", edit},  {"directory changes", browse}, {"crumbs", followCrumbs},
-            {"windows opened", open}};
+    return {
+        {"toggles", "Switch SelectionControl Animator", toggle},
+        {"charge updates", "CBatteryStatusWidget", charge},
+        {"scrolling", "ScrollIndicatorBar", scroll},
+        {"focus cycles", "LineEdit KeypadLineEdit KeypadPopup", edit},
+        {"directory changes", "FileBrowserWidget FileSystemModel", browse},
+        {"crumbs", "BreadCrumbsWidget ClickableLabel", followCrumbs},
+        {"animation loops", "CAnimationFwdRevLoop", loop},
+        {"windows opened", "CRoundedFrame CGridArrangedButton", open},
+    };
+}
+
+QStringList classesWithoutWorkload()
+{
+    QStringList covered;
+    for (const Workload& workload : workloads())
+        covered += QString::fromLatin1(workload.classes).split(QLatin1Char(' '));
+    return uncovered(covered);
 }
 
 } // namespace test

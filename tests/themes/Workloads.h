@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMetaType>
+#include <QStringList>
 #include <QVector>
 
 #include <functional>
@@ -15,11 +16,15 @@ namespace test {
 struct Workload
 {
     const char* name;
+    const char* classes; ///< That it uses, separated by spaces.
     /// Fills a window, and returns what to do in each iteration; that is false if it did not happen.
     std::function<bool(int iteration)> (*begin)(QWidget& window);
 };
 
 QVector<Workload> workloads();
+
+/// The classes that no workload uses.
+QStringList classesWithoutWorkload();
 
 } // namespace test
 

@@ -1,18 +1,11 @@
+#include "AllClasses.h"
 #include "OffscreenMessages.h"
 #include "PaintRecorder.h"
 #include "TestApplication.h"
 
-#include <BreadCrumbsWidget.h>
-#include <ClickableLabel.h>
 #include <Switch.h>
-#include <ui/CBatteryStatusWidget.h>
-#include <ui/CGridArrangedButton.h>
-#include <ui/CRoundedFrame.h>
-#include <ui/FileBrowserWidget.h>
-#include <ui/FileSystemModel.h>
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
-#include <ui/ScrollIndicatorBar.h>
 
 #include <QAbstractEventDispatcher>
 #include <QAbstractItemView>
@@ -20,37 +13,9 @@
 
 #include <memory>
 
+using test::ClassInfo;
+
 namespace {
-
-using MakeWidget = QWidget* (*)(QWidget* parent);
-
-template <typename Widget>
-QWidget* make(QWidget* parent)
-{
-    return new Widget(parent);
-}
-
-QWidget* makeChargingBattery(QWidget* parent)
-{
-    auto* battery = new ui::CBatteryStatusWidget(parent);
-    battery->setChargePercentage(50);
-    battery->setBatteryCharging(true);
-    return battery;
-}
-
-QWidget* makeButton(QWidget* parent)
-{
-    auto* button = new ui::CGridArrangedButton(parent);
-    button->addWidget(new QLabel(QStringLiteral("1")), 0, 0);
-    return button;
-}
-
-QWidget* makeBrowser(QWidget* parent)
-{
-    auto* browser = new ui::FileBrowserWidget(parent);
-    browser->setAllowedDirs({QDir::rootPath()});
-    return browser;
-}
 
 /// The timers of \a object and all that it owns, and of the models of its views, which it may not own.
 QVector<int> timers(QObject* object)
@@ -93,8 +58,6 @@ private:
     std::unique_ptr<QWidget> m_window;
 };
 
-Q_DECLARE_METATYPE(MakeWidget)
-
 void tst_AtRest::initTestCase()
 {
     test::dropOffscreenMessages();
@@ -109,23 +72,15 @@ void tst_AtRest::init()
 
 void tst_AtRest::addWidgets()
 {
-    QTest::addColumn<MakeWidget>("make");
-    QTest::newRow("CRoundedFrame") << MakeWidget(make<ui::CRoundedFrame>);
-    QTest::newRow("CGridArrangedButton") << MakeWidget(makeButton);
-    QTest::newRow("CBatteryStatusWidget") << MakeWidget(makeChargingBattery);
-    QTest::newRow("ScrollIndicatorBar") << MakeWidget(make<ui::widgets::ScrollIndicatorBar>);
-    QTest::newRow("LineEdit") << MakeWidget(make<ui::LineEdit>);
-    QTest::newRow("KeypadLineEdit") << MakeWidget(make<ui::KeypadLineEdit>);
-    QTest::newRow("Switch") << MakeWidget(make<Switch>);
-    QTest::newRow("ClickableLabel") << MakeWidget(make<ClickableLabel>);
-    QTest::newRow("BreadCrumbsWidget") << MakeWidget(make<BreadCrumbsWidget>);
-    QTest::newRow("FileBrowserWidget") << MakeWidget(makeBrowser);
+    QTest::addColumn<ClassInfo>("info");
+    for (const ClassInfo& info : test::allWidgetClasses())
+        QTest::newRow(info.name) << info;
 }
 
 QWidget* tst_AtRest::showWidget()
 {
-    QFETCH(MakeWidget, make);
-    QWidget* widget = make(m_window.get());
+    QFETCH(ClassInfo, info);
+    auto* widget = static_cast<QWidget*>(info.createTypical(m_window.get()));
     widget->resize(400, 200);
     m_window->show();
     return QTest::qWaitForWindowActive(m_window.get()) ? widget : nullptr;

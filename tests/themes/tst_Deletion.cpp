@@ -1,3 +1,4 @@
+#include "AllClasses.h"
 #include "EventLoop.h"
 #include "OffscreenMessages.h"
 #include "Provocations.h"
@@ -8,8 +9,8 @@
 
 #include <utility>
 
+using test::ClassInfo;
 using test::Provocation;
-using test::Subject;
 
 namespace {
 
@@ -59,7 +60,6 @@ QVector<QMetaMethod> signalsOf(const QMetaObject& metaObject)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Subject)
 Q_DECLARE_METATYPE(Provocation)
 
 /**
@@ -89,34 +89,33 @@ void tst_Deletion::initTestCase()
 
 void tst_Deletion::everySignalIsProvoked_data()
 {
-    QTest::addColumn<Subject>("subject");
-    for (const Subject& subject : test::subjects())
-        QTest::newRow(subject.metaObject->className()) << subject;
+    QTest::addColumn<ClassInfo>("info");
+    for (const ClassInfo& info : test::allClasses())
+        QTest::newRow(info.name) << info;
 }
 
 void tst_Deletion::everySignalIsProvoked()
 {
-    QFETCH(Subject, subject);
-    for (const QMetaMethod& signal : signalsOf(*subject.metaObject)) {
-        QVERIFY2(!test::provocations(*subject.metaObject, signal).isEmpty(),
+    QFETCH(ClassInfo, info);
+    for (const QMetaMethod& signal : signalsOf(*info.metaObject)) {
+        QVERIFY2(!test::provocations(*info.metaObject, signal).isEmpty(),
                  signal.methodSignature().constData());
     }
 }
 
 void tst_Deletion::inSlot_data()
 {
-    QTest::addColumn<Subject>("subject");
+    QTest::addColumn<ClassInfo>("info");
     QTest::addColumn<int>("signalIndex");
     QTest::addColumn<Provocation>("provocation");
     QTest::addColumn<bool>("deleteWindow");
-    for (const Subject& subject : test::subjects()) {
-        for (const QMetaMethod& signal : signalsOf(*subject.metaObject)) {
-            for (const Provocation& way : test::provocations(*subject.metaObject, signal)) {
+    for (const ClassInfo& info : test::allClasses()) {
+        for (const QMetaMethod& signal : signalsOf(*info.metaObject)) {
+            for (const Provocation& way : test::provocations(*info.metaObject, signal)) {
                 for (const bool deleteWindow : {false, true}) {
-                    QTest::addRow("%s::%s, %s, %s", subject.metaObject->className(),
-                                  signal.name().constData(), way.name,
+                    QTest::addRow("%s::%s, %s, %s", info.name, signal.name().constData(), way.name,
                                   deleteWindow ? "window" : "sender")
-                        << subject << signal.methodIndex() << way << deleteWindow;
+                        << info << signal.methodIndex() << way << deleteWindow;
                 }
             }
         }
@@ -125,15 +124,15 @@ void tst_Deletion::inSlot_data()
 
 void tst_Deletion::inSlot()
 {
-    QFETCH(Subject, subject);
+    QFETCH(ClassInfo, info);
     QFETCH(int, signalIndex);
     QFETCH(Provocation, provocation);
     QFETCH(bool, deleteWindow);
 
     const QPointer<QWidget> window = new QWidget;
     window->resize(400, 300);
-    const QPointer<QObject> sender = subject.create(window);
-    const QMetaMethod signal = subject.metaObject->method(signalIndex);
+    const QPointer<QObject> sender = info.createTypical(window);
+    const QMetaMethod signal = info.metaObject->method(signalIndex);
     window->show();
     window->activateWindow();
     test::processEvents();

@@ -1,58 +1,19 @@
+#include "AllClasses.h"
 #include "TestApplication.h"
 
-#include <BreadCrumbsWidget.h>
-#include <Switch.h>
-#include <ui/CBatteryStatusWidget.h>
-#include <ui/CGridArrangedButton.h>
 #include <ui/CRoundedFrame.h>
-#include <ui/FileBrowserWidget.h>
-#include <ui/KeypadLineEdit.h>
-#include <ui/ScrollIndicatorBar.h>
 
-#include <QPointer>
 #include <QProcess>
 
-#include <memory>
+#include <algorithm>
 #include <sys/resource.h>
+
+using test::ClassInfo;
 
 namespace {
 
 constexpr int hugeLength = 30000; // pixels; their square takes 3.6 gigabytes
 constexpr rlim_t addressSpace = rlim_t(2) * 1024 * 1024 * 1024;
-
-struct Entry
-{
-    const char* name;
-    QWidget* (*create)();
-};
-
-template <typename Widget>
-QWidget* create()
-{
-    return new Widget;
-}
-
-constexpr Entry entries[] = {
-    {"frame",
-     [] {
-         auto* frame = new ui::CRoundedFrame;
-         frame->enableFillContents(true);
-         frame->enableWidgetMask(true);
-         return static_cast<QWidget*>(frame);
-     }},
-    {"grid button", create<ui::CGridArrangedButton>},
-    {"battery", create<ui::CBatteryStatusWidget>},
-    {"indicator", create<ui::widgets::ScrollIndicatorBar>},
-    {"switch", create<Switch>},
-    {"line edit", create<ui::LineEdit>},
-    {"keypad line edit",
-     [] {
-         return static_cast<QWidget*>(
-             new ui::KeypadLineEdit(nullptr, ui::keyboard::KeyboardType::Integer));
-     }},
-    {"crumbs", [] { return static_cast<QWidget*>(new BreadCrumbsWidget(nullptr)); }},
-    {"browser", create<ui::FileBrowserWidget>},
-};
 
 /// Memory for a picture of the huge size is refused to this process from now on.
 bool limitMemory()
@@ -71,20 +32,32 @@ bool isPictureRefused()
 }
 
 /// Whether the widget can be painted as usual after it was as large as no picture can be.
-bool survives(const Entry& entry)
+bool survives(const ClassInfo& info)
 {
     QWidget window;
     window.resize(400, 300);
-    QWidget* widget = entry.create();
-    widget->setParent(&window);
+    auto* widget = static_cast<QWidget*>(info.createTypical(&window));
+    if (auto* frame = qobject_cast<ui::CRoundedFrame*>(widget)) {
+        frame->enableFillContents(true);
+        frame->enableWidgetMask(true);
+    }
     window.show();
     widget->resize(hugeLength, hugeLength);
     QCoreApplication::processEvents();
     widget->grab();
     window.repaint();
-    widget->resize(200, 100);
+    const QSize usual = widget->isWindow() ? QSize(200, 100).expandedTo(widget->minimumSizeHint())
+                                           : QSize(200, 100);
+    widget->resize(usual);
     QCoreApplication::processEvents();
-    return widget->grab().size() == QSize(200, 100);
+    return widget->grab().size() == usual;
+}
+
+ClassInfo classNamed(const char* name)
+{
+    const QVector<ClassInfo>& all = test::allClasses();
+    return *std::find_if(all.begin(), all.end(),
+                         [name](const ClassInfo& info) { return qstrcmp(info.name, name) == 0; });
 }
 
 } // namespace
@@ -101,21 +74,20 @@ private Q_SLOTS:
 
 void tst_HugeSizes::memoryRefused_data()
 {
-    QTest::addColumn<int>("entry");
-    int index = 0;
-    for (const Entry& entry : entries)
-        QTest::newRow(entry.name) << index++;
+    QTest::addColumn<QString>("name");
+    for (const ClassInfo& info : test::allWidgetClasses())
+        QTest::newRow(info.name) << QString::fromLatin1(info.name);
 }
 
 void tst_HugeSizes::memoryRefused()
 {
-    QFETCH(int, entry);
+    QFETCH(QString, name);
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("ASAN_OPTIONS", "allocator_may_return_null=1:max_allocation_size_mb=2048");
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(), {"--huge", QString::number(entry)});
+    process.start(QCoreApplication::applicationFilePath(), {"--huge", name});
     QVERIFY(process.waitForFinished(-1));
     QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
              process.readAll().constData());
@@ -127,7 +99,7 @@ int main(int argc, char** argv)
         test::prepareApplication();
         const QApplication application(argc, argv);
         test::settleApplication();
-        return limitMemory() && isPictureRefused() && survives(entries[atoi(argv[2])]) ? 0 : 1;
+        return limitMemory() && isPictureRefused() && survives(classNamed(argv[2])) ? 0 : 1;
     }
     return test::run<tst_HugeSizes>(argc, argv);
 }

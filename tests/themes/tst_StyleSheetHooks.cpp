@@ -1,3 +1,4 @@
+#include "AllClasses.h"
 #include "OffscreenMessages.h"
 #include "TestApplication.h"
 
@@ -94,6 +95,43 @@ int redPixels(const QImage& image)
     return count;
 }
 
+struct Hook
+{
+    const char* className;
+    const char* rule;
+    Make make;
+};
+
+const Hook hooks[] = {
+    {"CRoundedFrame", "ui--CRoundedFrame { color: red }", makeFrame},
+    {"CRoundedFrame", "ui--CRoundedFrame { background-color: red }", makeFrame},
+    {"CBatteryStatusWidget", "ui--CBatteryStatusWidget { color: red }",
+     make<ui::CBatteryStatusWidget>},
+    {"ScrollIndicatorBar", "ui--widgets--ScrollIndicatorBar { selection-background-color: red }",
+     makeIndicator},
+    {"Switch", "#Switch { color: red }", makeSwitch},
+    {"SelectionControl", "SelectionControl { qproperty-thumbOffBrush: red }", makeSwitch},
+    {"Switch", "Switch { qproperty-thumbOffBrush: red }", makeSwitch},
+    {"ClickableLabel", "ClickableLabel { color: red }", makeLabel},
+    {"BreadCrumbsWidget", "#breadcrumb { color: red }", makeBar},
+    {"BreadCrumbsWidget", "[directory=\"/data/H/HH\"] { color: red }", makeBar},
+    {"BreadCrumbsWidget", "BreadCrumbsWidget QLabel { color: red }", makeBar},
+    {"BreadCrumbsWidget", "BreadCrumbsWidget QPushButton { border: 2px solid red }", makeBar},
+    {"CGridArrangedButton", "ui--CGridArrangedButton { border: 2px solid red }", makeButton},
+    {"CGridArrangedButton", "ui--CGridArrangedButton QLabel { color: red }", makeButton},
+    {"LineEdit", "ui--LineEdit[inputValid=\"false\"] { background: red }", makeField<ui::LineEdit>},
+    {"LineEdit", "ui--LineEdit { background: red }", makeField<ui::KeypadLineEdit>},
+    {"KeypadLineEdit", "ui--KeypadLineEdit[inputValid=\"false\"] { background: red }",
+     makeField<ui::KeypadLineEdit>},
+    {"KeypadPopup", "ui--KeypadPopup QFrame { background-color: red }", makePopup},
+    {"KeypadPopup", "ui--KeypadPopup QLabel { color: red }", makePopup},
+    {"KeypadPopup", "ui--KeypadPopup QPushButton { border: 2px solid red }", makePopup},
+    {"FileBrowserWidget", "#FileBrowser QComboBox { border: 2px solid red }",
+     make<ui::FileBrowserWidget>},
+    {"FileBrowserWidget", "#FileBrowser #toolbarButton { border: 2px solid red }",
+     make<ui::FileBrowserWidget>},
+};
+
 int redPixels(Make make, const QString& styleSheet)
 {
     qApp->setStyleSheet(styleSheet);
@@ -114,6 +152,7 @@ class tst_StyleSheetHooks : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void everyWidgetHasHook();
     void colors_data();
     void colors();
     void properties();
@@ -124,36 +163,21 @@ void tst_StyleSheetHooks::initTestCase()
     test::dropOffscreenMessages();
 }
 
+void tst_StyleSheetHooks::everyWidgetHasHook()
+{
+    QStringList covered;
+    for (const Hook& hook : hooks)
+        covered.append(QString::fromLatin1(hook.className));
+    QCOMPARE(test::uncovered(covered, test::allWidgetClasses()), QStringList());
+}
+
 void tst_StyleSheetHooks::colors_data()
 {
     QTest::addColumn<Make>("make");
     QTest::addColumn<QString>("rule");
 
-    const auto row = [](const char* rule, Make make) {
-        QTest::newRow(rule) << make << QString::fromLatin1(rule);
-    };
-    row("ui--CRoundedFrame { color: red }", makeFrame);
-    row("ui--CRoundedFrame { background-color: red }", makeFrame);
-    row("ui--CBatteryStatusWidget { color: red }", make<ui::CBatteryStatusWidget>);
-    row("ui--widgets--ScrollIndicatorBar { selection-background-color: red }", makeIndicator);
-    row("#Switch { color: red }", makeSwitch);
-    row("Switch { qproperty-thumbOffBrush: red }", makeSwitch);
-    row("ClickableLabel { color: red }", makeLabel);
-    row("#breadcrumb { color: red }", makeBar);
-    row("[directory=\"/data/H/HH\"] { color: red }", makeBar);
-    row("BreadCrumbsWidget QLabel { color: red }", makeBar);
-    row("BreadCrumbsWidget QPushButton { border: 2px solid red }", makeBar);
-    row("ui--CGridArrangedButton { border: 2px solid red }", makeButton);
-    row("ui--CGridArrangedButton QLabel { color: red }", makeButton);
-    row("ui--LineEdit[inputValid=\"false\"] { background: red }", makeField<ui::LineEdit>);
-    row("ui--LineEdit { background: red }", makeField<ui::KeypadLineEdit>);
-    row("ui--KeypadLineEdit[inputValid=\"false\"] { background: red }",
-        makeField<ui::KeypadLineEdit>);
-    row("ui--KeypadPopup QFrame { background-color: red }", makePopup);
-    row("ui--KeypadPopup QLabel { color: red }", makePopup);
-    row("ui--KeypadPopup QPushButton { border: 2px solid red }", makePopup);
-    row("#FileBrowser QComboBox { border: 2px solid red }", make<ui::FileBrowserWidget>);
-    row("#FileBrowser #toolbarButton { border: 2px solid red }", make<ui::FileBrowserWidget>);
+    for (const Hook& hook : hooks)
+        QTest::newRow(hook.rule) << hook.make << QString::fromLatin1(hook.rule);
 }
 
 void tst_StyleSheetHooks::colors()

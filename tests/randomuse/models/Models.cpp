@@ -1,5 +1,7 @@
 #include "Models.h"
 
+#include "AllClasses.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -10,15 +12,20 @@ namespace {
 struct Entry
 {
     const char* name;
+    const char* classes; ///< That the model uses, separated by spaces.
     std::unique_ptr<WidgetModel> (*create)(const std::shared_ptr<TestWindows>& windows);
 };
 
 constexpr Entry widgets[] = {
-    {"frame", newFrameModel},         {"gridbutton", newGridButtonModel},
-    {"indicator", newIndicatorModel}, {"battery", newBatteryModel},
-    {"switch", newSwitchModel},       {"lineedit", newLineEditModel},
-    {"keypad", newKeypadFieldModel},  {"crumbs", newCrumbsModel},
-    {"browser", newBrowserModel},
+    {"frame", "CRoundedFrame", newFrameModel},
+    {"gridbutton", "CGridArrangedButton", newGridButtonModel},
+    {"indicator", "ScrollIndicatorBar", newIndicatorModel},
+    {"battery", "CBatteryStatusWidget", newBatteryModel},
+    {"switch", "Switch SelectionControl Animator", newSwitchModel},
+    {"lineedit", "LineEdit", newLineEditModel},
+    {"keypad", "KeypadLineEdit KeypadPopup", newKeypadFieldModel},
+    {"crumbs", "BreadCrumbsWidget ClickableLabel", newCrumbsModel},
+    {"browser", "FileBrowserWidget FileSystemModel", newBrowserModel},
 };
 
 constexpr char loop[] = "loop";
@@ -91,6 +98,14 @@ QStringList modelNames()
     for (const Entry& entry : widgets)
         names.append(QLatin1String(entry.name));
     return names << QLatin1String(loop) << QLatin1String(together);
+}
+
+QStringList classesWithoutModel()
+{
+    QStringList covered{QStringLiteral("CAnimationFwdRevLoop")};
+    for (const Entry& entry : widgets)
+        covered += QString::fromLatin1(entry.classes).split(QLatin1Char(' '));
+    return uncovered(covered);
 }
 
 std::unique_ptr<Model> newModel(const QString& name)

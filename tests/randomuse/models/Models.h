@@ -12,6 +12,9 @@ namespace test {
 /// One for each widget, and "together" for all of them in one window.
 QStringList modelNames();
 
+/// The classes of the library that no model uses.
+QStringList classesWithoutModel();
+
 /// Null if there is none of that name.
 std::unique_ptr<Model> newModel(const QString& name);
 
