@@ -1,15 +1,24 @@
 #include "SelectionHandler.h"
 
+#include "DeselectionOrder.h"
 #include "SelectionSnapshot.h"
 #include "ui/FileBrowserWidget.h"
 #include "ui/FileSystemModel.h"
 
 #include <QItemSelectionModel>
 #include <QListView>
+#include <QSignalBlocker>
 
 #include <utility>
 
 namespace ui {
+
+namespace {
+
+// A level takes a kilobyte or two of the stack, of which a slot of the application needs the rest.
+constexpr int maxNestedRuns = 256;
+
+} // namespace
 
 SelectionHandler::SelectionHandler(FileBrowserWidget* browser, FileSystemModel* model,
                                    QListView* tileView, OpenDirectory openDirectory)
@@ -22,85 +31,69 @@ SelectionHandler::SelectionHandler(FileBrowserWidget* browser, FileSystemModel* 
 
 void SelectionHandler::run()
 {
-    if (m_deselecting) {
-        ++m_nestedRuns; // made as soon as the deselection returns
-        return;
-    }
-    std::vector<Run> runs{startRun()};
-    // A slot may delete the browser: what is left to do is dropped then.
-    while (m_browser && !runs.empty()) {
-        Run& current = runs.back();
-        if (current.nestedRuns > 0) {
-            --current.nestedRuns;
-            runs.push_back(startRun());
-        } else if (!deselectNext(current)) {
-            if (runs.size() == 1)
-                forgetLastCommand(current);
-            runs.pop_back();
-            Q_EMIT m_browser->selectionChanged();
-        }
-    }
+    if (!std::exchange(m_nothingLeft, false))
+        deselect(openOrCollect());
+    if (m_browser) // a slot may have deleted it
+        Q_EMIT m_browser->selectionChanged();
 }
 
-SelectionHandler::Run SelectionHandler::startRun() const
+/// Opens the selected directory if it is the only row; else returns the directories among the rows.
+SelectionHandler::Directories SelectionHandler::openOrCollect() const
 {
-    Run run;
-    if (!m_tileView)
-        return run;
-    const QModelIndexList rows = SelectionSnapshot(m_tileView->selectionModel(), m_model).rows();
+    Directories directories;
+    const QModelIndexList rows = SelectionSnapshot(selectionModel(), m_model).rows();
     if (rows.size() == 1 && m_model->isDir(rows.first())) {
         const QString path = m_model->filePath(rows.first());
         if (!path.isEmpty())
             m_openDirectory(path);
-        return run;
+        return directories;
     }
     for (const QModelIndex& row : rows) {
         if (m_model->isDir(row))
-            run.directories.append(row);
+            directories.append(row);
     }
-    return run;
+    return directories;
 }
 
-/// Deselects the next directory of \a run that is still selected; false if there is none left.
-bool SelectionHandler::deselectNext(Run& run)
+void SelectionHandler::deselect(const Directories& directories)
 {
-    if (run.next == run.directories.size() || !m_tileView)
-        return false;
-    // A run that has only just begun found all of its directories selected.
-    const bool justBegun = run.next == 0;
-    const SelectionSnapshot snapshot(justBegun ? nullptr : m_tileView->selectionModel(), m_model);
-    while (run.next < run.directories.size()) {
-        const QModelIndex directory = run.directories.at(run.next++);
-        if (!directory.isValid() || !m_model->isDir(directory))
+    deselectWithoutNesting(directories.size() - maxNestedRuns);
+    SelectionSnapshot snapshot(selectionModel(), m_model);
+    for (int i = 0; i < directories.size() && selectionModel(); ++i) {
+        // The nested runs deselect what follows. To do so here once more changes nothing, but for the
+        // last one: the selection model's last command is what Shift and a tap take back.
+        const QModelIndex directory = directories.at(i);
+        const bool last = i == directories.size() - 1;
+        if (!directory.isValid() || !m_model->isDir(directory)
+            || !(last || snapshot.contains(directory)))
             continue;
-        run.lastSkipped = !justBegun && !snapshot.contains(directory);
-        if (!run.lastSkipped) {
-            run.nestedRuns = deselect(directory);
-            return true;
-        }
+        selectionModel()->select(directory, QItemSelectionModel::Deselect);
+        snapshot = SelectionSnapshot(selectionModel(), m_model);
     }
-    return false;
 }
 
-/**
- * The selection model does not settle its last command until the next, and Shift and a tap take it
- * back. The nested runs deselected what was left to \a run; deselecting it here once more, though
- * it changes nothing, settles that.
- */
-void SelectionHandler::forgetLastCommand(const Run& run)
+/// Takes the first \a count directories out, then reports them as nested runs do when they return.
+void SelectionHandler::deselectWithoutNesting(int count)
 {
-    if (run.lastSkipped && m_tileView)
-        deselect(run.directories.last());
+    if (count <= 0)
+        return;
+    const DeselectionOrder order(*selectionModel(), *m_model, count);
+    {
+        const QSignalBlocker blocker(selectionModel());
+        selectionModel()->select(order.left(), QItemSelectionModel::ClearAndSelect);
+    }
+    for (int i = order.directories().size() - 1; i >= 0 && selectionModel(); --i) {
+        const QModelIndex directory = order.directories().at(i);
+        // The first report runs the handler for all that is still selected.
+        m_nothingLeft = i < order.directories().size() - 1;
+        Q_EMIT selectionModel()->selectionChanged({}, QItemSelection(directory, directory));
+    }
 }
 
-/// Returns how many runs of the handler the deselection asked for.
-int SelectionHandler::deselect(const QModelIndex& index)
+/// The tile view's, of our model; null if there is none any more.
+QItemSelectionModel* SelectionHandler::selectionModel() const
 {
-    m_nestedRuns = 0;
-    m_deselecting = true;
-    m_tileView->selectionModel()->select(index, QItemSelectionModel::Deselect);
-    m_deselecting = false;
-    return m_nestedRuns;
+    return m_tileView && m_model ? m_tileView->selectionModel() : nullptr;
 }
 
 } // namespace ui

@@ -5,9 +5,9 @@
 #include <QVector>
 
 #include <functional>
-#include <vector>
 
 QT_BEGIN_NAMESPACE
+class QItemSelectionModel;
 class QListView;
 QT_END_NAMESPACE
 
@@ -23,8 +23,8 @@ class FileSystemModel;
  * directory among the rows is deselected. Each deselection changes the selection, and so runs the
  * handler again before the run under way goes on. At its end each run emits selectionChanged().
  *
- * Those nested runs are not function calls, one inside the other: a thousand selected directories
- * would nest as deeply. The runs under way are kept in a list instead, and advanced in the same order.
+ * A run with more directories than can nest on the stack leaves the last of them to nested runs. The
+ * others it takes out first and reports afterwards, in the order in which those runs would return.
  */
 class SelectionHandler
 {
@@ -38,25 +38,18 @@ public:
     void run();
 
 private:
-    struct Run
-    {
-        QVector<QPersistentModelIndex> directories; ///< To deselect, as found at the run's start.
-        int next = 0; ///< The first one not dealt with yet.
-        int nestedRuns = 0; ///< To be made before the run goes on.
-        bool lastSkipped = false; ///< Whether the last directory was deselected by another run.
-    };
+    using Directories = QVector<QPersistentModelIndex>;
 
-    Run startRun() const;
-    bool deselectNext(Run& run);
-    void forgetLastCommand(const Run& run);
-    int deselect(const QModelIndex& index);
+    Directories openOrCollect() const;
+    void deselect(const Directories& directories);
+    void deselectWithoutNesting(int count);
+    QItemSelectionModel* selectionModel() const;
 
     QPointer<FileBrowserWidget> m_browser;
     QPointer<FileSystemModel> m_model;
     QPointer<QListView> m_tileView;
     OpenDirectory m_openDirectory;
-    bool m_deselecting = false;
-    int m_nestedRuns = 0; ///< Runs asked for by the deselection under way.
+    bool m_nothingLeft = false; ///< Whether the next run finds what the last one has left.
 };
 
 } // namespace ui

@@ -1,6 +1,10 @@
 #include "SelectionSnapshot.h"
 
 #include <QItemSelectionModel>
+#include <QPair>
+#include <QSet>
+
+#include <algorithm>
 
 namespace ui {
 
@@ -24,35 +28,63 @@ SelectionSnapshot::SelectionSnapshot(const QItemSelectionModel* selectionModel,
         return;
     for (const QItemSelectionRange& range : selectionModel->selection()) {
         if (range.topLeft().isValid()) // range.isValid() compares parents, which take time to find
-            add(range);
+            m_ranges.append({range.parent(), range.top(), range.bottom(),
+                             columnBits(range.left(), range.right())});
     }
 }
 
 QModelIndexList SelectionSnapshot::rows() const
 {
     QModelIndexList result;
-    for (const Row& row : m_rows) {
-        if (m_columns.value(row) == columnBits(0, m_model->columnCount(row.first) - 1))
-            result.append(m_model->index(row.second, 0, row.first));
+    QSet<QPair<QModelIndex, int>> seen;
+    const bool split = rowsAreSplit();
+    for (const Range& range : m_ranges) {
+        const quint64 all = allColumns(range.parent);
+        const bool whole = range.columns == all;
+        if (!whole && !split)
+            continue;
+        for (int row = range.top; row <= range.bottom; ++row) {
+            const QPair<QModelIndex, int> key(range.parent, row);
+            if ((whole || columnsOf(range.parent, row) == all) && !seen.contains(key)) {
+                seen.insert(key);
+                result.append(m_model->index(row, 0, range.parent));
+            }
+        }
     }
     return result;
 }
 
 bool SelectionSnapshot::contains(const QModelIndex& index) const
 {
-    return m_columns.value({index.parent(), index.row()}) & columnBits(0, 0);
+    return columnsOf(index.parent(), index.row()) & columnBits(index.column(), index.column());
 }
 
-void SelectionSnapshot::add(const QItemSelectionRange& range)
+bool SelectionSnapshot::containsRow(const QModelIndex& index) const
 {
-    const QModelIndex parent = range.parent();
-    const quint64 columns = columnBits(range.left(), range.right());
-    for (int row = range.top(); row <= range.bottom(); ++row) {
-        quint64& selected = m_columns[{parent, row}];
-        if (!selected)
-            m_rows.append({parent, row});
-        selected |= columns;
+    return columnsOf(index.parent(), index.row()) == allColumns(index.parent());
+}
+
+quint64 SelectionSnapshot::allColumns(const QModelIndex& parent) const
+{
+    return columnBits(0, m_model->columnCount(parent) - 1);
+}
+
+quint64 SelectionSnapshot::columnsOf(const QModelIndex& parent, int row) const
+{
+    quint64 columns = 0;
+    for (const Range& range : m_ranges) {
+        if (range.top <= row && row <= range.bottom && range.parent == parent)
+            columns |= range.columns;
     }
+    return columns;
+}
+
+/// Whether several ranges may make up a row, which takes one with its first column but not all.
+bool SelectionSnapshot::rowsAreSplit() const
+{
+    return std::any_of(m_ranges.cbegin(), m_ranges.cend(), [this](const Range& range) {
+        return (range.columns & columnBits(0, 0)) && range.columns != allColumns(range.parent);
+    });
 }
 
 } // namespace ui

@@ -2,7 +2,6 @@
 
 #include "BreadCrumbsWidget.h"
 #include "ClickableLabel.h"
-#include "ui/FileBrowserWidget.h"
 #include "ui/FileSystemModel.h"
 
 #include <QComboBox>
@@ -14,7 +13,7 @@
 
 namespace test {
 
-BrowserParts::BrowserParts(ui::FileBrowserWidget& browser)
+BrowserParts::BrowserParts(QWidget& browser)
     : combo(browser.findChild<QComboBox*>(QString(), Qt::FindDirectChildrenOnly))
     , bar(browser.findChild<BreadCrumbsWidget*>(QString(), Qt::FindDirectChildrenOnly))
     , tileView(browser.findChild<QListView*>(QString(), Qt::FindDirectChildrenOnly))

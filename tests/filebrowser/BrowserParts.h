@@ -12,19 +12,19 @@ class QComboBox;
 class QListView;
 class QPushButton;
 class QTreeView;
+class QWidget;
 QT_END_NAMESPACE
 
 namespace ui {
-class FileBrowserWidget;
 class FileSystemModel;
 } // namespace ui
 
 namespace test {
 
-/// The child widgets of a file browser, found as an application or a user finds them.
+/// The child widgets of a FileBrowserWidget or RecursiveBrowser, found as an application finds them.
 struct BrowserParts
 {
-    explicit BrowserParts(ui::FileBrowserWidget& browser);
+    explicit BrowserParts(QWidget& browser);
 
     QComboBox* combo;
     BreadCrumbsWidget* bar;

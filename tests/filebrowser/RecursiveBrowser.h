@@ -1,37 +1,57 @@
 #pragma once
 
-#include "ui/FileSystemModel.h"
+#include <QWidget>
 
-#include <QListView>
+QT_BEGIN_NAMESPACE
+class QComboBox;
+class QHBoxLayout;
+class QListView;
+class QPushButton;
+class QTreeView;
+class QVBoxLayout;
+QT_END_NAMESPACE
 
-#include <functional>
+class BreadCrumbsWidget;
+
+namespace ui {
+class FileSystemModel;
+} // namespace ui
 
 namespace test {
 
 /**
- * The selection handling of the file browser written down as plainly as can be: with function calls
- * that nest as deeply as directories are selected. The browser has to match it step by step.
+ * The file browser written down as plainly as can be: with function calls that nest as deeply as
+ * directories are selected, with views that are simply shown and hidden, and without any thought for
+ * programs that delete parts of it. The browser has to match it step by step.
  */
-class RecursiveBrowser
+class RecursiveBrowser : public QWidget
 {
+    Q_OBJECT
+
 public:
-    explicit RecursiveBrowser(const QString& rootPath);
+    explicit RecursiveBrowser(QWidget* parent = nullptr);
+    ~RecursiveBrowser() override;
 
-    QListView tileView;
-    /// Called in place of the signal selectionChanged().
-    std::function<void()> selectionChanged = [] {};
-    /// Called for each change that the selection model reports, before it is handled.
-    std::function<void(const QItemSelection& deselected)> deselected = [](const QItemSelection&) {};
-
+    void setAllowedDirs(const QStringList& dirs);
+    void setRootPath(const QString& path);
     QString currentPath() const;
-    /// The path that the path bar was given by the last directory opened.
-    QString barPath() const;
+    QStringList selectedFiles() const;
+
+Q_SIGNALS:
+    void selectionChanged();
 
 private:
+    QHBoxLayout* createNavBar();
+    QVBoxLayout* createFileView();
+    QPushButton* newToolbarButton(const QString& icon);
+    void openDirectory(const QString& path);
     void handleSelection();
 
-    ui::FileSystemModel m_model;
-    QString m_barPath;
+    ui::FileSystemModel* m_model;
+    BreadCrumbsWidget* m_breadCrumbs = nullptr;
+    QComboBox* m_rootCombo;
+    QListView* m_tileView;
+    QTreeView* m_listView;
 };
 
 } // namespace test

@@ -5,7 +5,9 @@
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"
 
+#include <QFileSystemModel>
 #include <QItemSelectionModel>
+#include <QListView>
 #include <QRandomGenerator>
 #include <QTreeView>
 
@@ -18,9 +20,20 @@ using Ranges = QVector<QPair<int, int>>; ///< First and last row of each.
 /// What an application does in a slot of selectionChanged(), given the number of the emission.
 using Slot = std::function<void(QListView& tileView, int emission)>;
 
+/// What it does in a slot of the tile view's selection model, connected to a finished browser.
+using ChangeSlot = std::function<void(const BrowserParts& parts)>;
+
 constexpr auto selectRows = QItemSelectionModel::Select | QItemSelectionModel::Rows;
 
 void doNothing(QListView&, int) { }
+
+void leaveAlone(const BrowserParts&) { }
+
+void mirrorInListView(const BrowserParts& parts)
+{
+    parts.listView->selectionModel()->select(parts.tileView->selectionModel()->selection(),
+                                             QItemSelectionModel::ClearAndSelect);
+}
 
 QItemSelection selectionOf(const Ranges& ranges, const QModelIndex& root)
 {
@@ -31,26 +44,35 @@ QItemSelection selectionOf(const Ranges& ranges, const QModelIndex& root)
     return selection;
 }
 
-struct Log
+/// The cells of \a selection, by name and column.
+QString cells(const QItemSelection& selection)
 {
-    QStringList emissions; ///< What an application sees whenever selectionChanged() is emitted.
-    QStringList deselections; ///< What the selection model reports as gone, in order.
+    QStringList result;
+    const QModelIndexList indexes = selection.indexes();
+    for (const QModelIndex& index : indexes)
+        result.append(QStringLiteral("%1:%2")
+                          .arg(index.siblingAtColumn(0).data().toString())
+                          .arg(index.column()));
+    return result.join(QLatin1Char(' '));
+}
 
-    void addEmission(const QListView& tileView, const QString& currentPath, const QString& barPath)
-    {
-        emissions.append(
-            QStringLiteral("%1, bar %2: %3")
-                .arg(currentPath, barPath, selectedNames(tileView).join(QLatin1Char(' '))));
+/// The whole rows of \a selectionModel in its order, and how many cells are selected.
+QString rows(const QItemSelectionModel& selectionModel)
+{
+    QItemSelection whole;
+    int count = 0;
+    for (const QItemSelectionRange& range : selectionModel.selection()) {
+        count += range.width() * range.height();
+        if (range.width() == selectionModel.model()->columnCount(range.parent()))
+            whole.append(range);
     }
+    return QStringLiteral("%1 of %2").arg(cells(whole)).arg(count);
+}
 
-    void addDeselections(const QItemSelection& deselected)
-    {
-        const QModelIndexList indexes = deselected.indexes();
-        for (const QModelIndex& index : indexes)
-            deselections.append(
-                QStringLiteral("%1:%2").arg(index.data().toString()).arg(index.column()));
-    }
-};
+QString ranges(const QItemSelectionModel& selectionModel)
+{
+    return cells(selectionModel.selection());
+}
 
 /// Makes the selections \a steps, one after the other.
 void play(QListView& tileView, const QVector<Ranges>& steps)
@@ -72,38 +94,43 @@ bool loaded(const QAbstractItemView& view, int count)
     });
 }
 
-Log browserLog(const QString& path, int count, const QVector<Ranges>& steps, const Slot& slot)
+struct Program
 {
-    Log log;
-    ui::FileBrowserWidget browser;
-    const BrowserParts parts(browser);
-    browser.setAllowedDirs({path});
-    if (!loaded(*parts.tileView, count))
-        return log;
-    QObject::connect(&browser, &ui::FileBrowserWidget::selectionChanged, &browser, [&] {
-        log.addEmission(*parts.tileView, browser.currentPath(), lastCrumbPath(*parts.bar));
-        slot(*parts.tileView, log.emissions.size());
-    });
-    QObject::connect(
-        parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged, &browser,
-        [&](const QItemSelection&, const QItemSelection& gone) { log.addDeselections(gone); });
-    play(*parts.tileView, steps);
-    return log;
-}
+    QString path;
+    int count; ///< Entries of the directory.
+    QVector<Ranges> steps; ///< Selected one after the other.
+    Slot slot = doNothing;
+    ChangeSlot changeSlot = leaveAlone;
+    QString (*state)(const QItemSelectionModel&) = ranges;
+};
 
-Log recursiveLog(const QString& path, int count, const QVector<Ranges>& steps, const Slot& slot)
+/// In order, what the slots of an application see while \a program runs.
+template <class Browser>
+QStringList log(const Program& program)
 {
-    Log log;
-    RecursiveBrowser browser(path);
-    if (!loaded(browser.tileView, count))
-        return log;
-    browser.selectionChanged = [&] {
-        log.addEmission(browser.tileView, browser.currentPath(), browser.barPath());
-        slot(browser.tileView, log.emissions.size());
-    };
-    browser.deselected = [&](const QItemSelection& gone) { log.addDeselections(gone); };
-    play(browser.tileView, steps);
-    return log;
+    Browser browser;
+    const BrowserParts parts(browser);
+    const QItemSelectionModel* selectionModel = parts.tileView->selectionModel();
+    browser.setAllowedDirs({program.path});
+    if (!loaded(*parts.tileView, program.count))
+        return {};
+    QStringList result;
+    int emissions = 0;
+    QObject::connect(&browser, &Browser::selectionChanged, &browser, [&] {
+        result.append(QStringLiteral("%1, bar %2: %3")
+                          .arg(browser.currentPath(), lastCrumbPath(*parts.bar),
+                               program.state(*selectionModel)));
+        program.slot(*parts.tileView, ++emissions);
+    });
+    QObject::connect(selectionModel, &QItemSelectionModel::selectionChanged, &browser,
+                     [&](const QItemSelection& selected, const QItemSelection& deselected) {
+                         result.append(QStringLiteral("+%1 -%2: %3")
+                                           .arg(cells(selected), cells(deselected),
+                                                program.state(*selectionModel)));
+                         program.changeSlot(parts);
+                     });
+    play(*parts.tileView, program.steps);
+    return result;
 }
 
 /// One to four ranges, in any order, of the rows 0 to \a count - 1.
@@ -137,8 +164,11 @@ Slot randomSlot(quint32 seed, const QString& path)
         const QItemSelection selection =
             selectionOf(randomRanges(random, model->rowCount(root)), root);
         const QVector<QItemSelectionModel::SelectionFlags> commands{
-            QItemSelectionModel::NoUpdate, QItemSelectionModel::Clear, selectRows,
+            QItemSelectionModel::NoUpdate,
+            QItemSelectionModel::Clear,
+            selectRows,
             selectRows | QItemSelectionModel::Clear,
+            selectRows | QItemSelectionModel::Current,
             QItemSelectionModel::Deselect | QItemSelectionModel::Rows};
         tileView.selectionModel()->select(selection, commands.at(random.bounded(commands.size())));
     };
@@ -158,16 +188,24 @@ private Q_SLOTS:
     void matchPlainRecursionWhateverSlotsDo();
     void onceForEachDirectoryAndOnceMore_data();
     void onceForEachDirectoryAndOnceMore();
-    void thousandDirectories();
-    void thousandDirectoriesWithASlotThatReadsTheSelection();
+    void mirroredSelection();
+    void matchPlainRecursionForManyDirectories_data();
+    void matchPlainRecursionForManyDirectories();
+    void allOfManyDirectories_data();
+    void allOfManyDirectories();
+    void slotThatReadsTheSelectionOfManyDirectories();
+    void browserDeletedAmongManyDirectories_data();
+    void browserDeletedAmongManyDirectories();
 
 private:
     static constexpr int directoryCount = 12;
     static constexpr int fileCount = 8;
+    static constexpr int manyDirectories = 10000;
+    static constexpr int stackForNesting = 2 << 20; // bytes; of eight million
 
     Tree m_directories; ///< Directories alone.
     Tree m_mixed; ///< Directories first, as the model sorts, then files.
-    Tree m_large; ///< A thousand directories.
+    Tree m_large; ///< Many directories, then a file.
 };
 
 void tst_NestedSelectionRuns::initTestCase()
@@ -180,9 +218,10 @@ void tst_NestedSelectionRuns::initTestCase()
     const QStringList files = Tree::names(QStringLiteral("f"), fileCount);
     for (const QString& name : files)
         m_mixed.makeFile(name);
-    const QStringList many = Tree::names(QStringLiteral("d"), 1000);
+    const QStringList many = Tree::names(QStringLiteral("d"), manyDirectories);
     for (const QString& name : many)
         m_large.makeDir(name);
+    m_large.makeFile(QStringLiteral("file"));
 }
 
 void tst_NestedSelectionRuns::matchPlainRecursion_data()
@@ -207,14 +246,13 @@ void tst_NestedSelectionRuns::matchPlainRecursion_data()
 void tst_NestedSelectionRuns::matchPlainRecursion()
 {
     QFETCH(QVector<Ranges>, steps);
-    const QString path = m_mixed.path();
-    constexpr int count = directoryCount + fileCount;
-
-    const Log expected = recursiveLog(path, count, steps, doNothing);
-    const Log actual = browserLog(path, count, steps, doNothing);
-    QVERIFY(!expected.emissions.isEmpty());
-    QCOMPARE(actual.emissions, expected.emissions);
-    QCOMPARE(actual.deselections, expected.deselections);
+    for (const auto& changeSlot : {leaveAlone, mirrorInListView}) {
+        const Program program{m_mixed.path(), directoryCount + fileCount, steps, doNothing,
+                              changeSlot};
+        const QStringList expected = log<RecursiveBrowser>(program);
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
+    }
 }
 
 void tst_NestedSelectionRuns::matchPlainRecursionForAnySelection()
@@ -222,14 +260,13 @@ void tst_NestedSelectionRuns::matchPlainRecursionForAnySelection()
     QRandomGenerator random(1);
     for (int round = 0; round < 30; ++round) {
         const bool mixed = round % 2;
-        const QString path = mixed ? m_mixed.path() : m_directories.path();
         const int count = directoryCount + (mixed ? fileCount : 0);
-        const QVector<Ranges> steps{randomRanges(random, count), randomRanges(random, count)};
-
-        const Log expected = recursiveLog(path, count, steps, doNothing);
-        const Log actual = browserLog(path, count, steps, doNothing);
-        QVERIFY(!expected.emissions.isEmpty());
-        QCOMPARE(actual.emissions, expected.emissions);
+        const Program program{mixed ? m_mixed.path() : m_directories.path(),
+                              count,
+                              {randomRanges(random, count), randomRanges(random, count)}};
+        const QStringList expected = log<RecursiveBrowser>(program);
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
     }
 }
 
@@ -238,19 +275,16 @@ void tst_NestedSelectionRuns::matchPlainRecursionWhateverSlotsDo()
     QRandomGenerator random(2);
     for (quint32 round = 0; round < 50; ++round) {
         const bool mixed = round % 2;
-        const QString path = mixed ? m_mixed.path() : m_directories.path();
         const int count = directoryCount + (mixed ? fileCount : 0);
-        const QVector<Ranges> steps{randomRanges(random, count)};
-        const Slot slot = randomSlot(round * 100, path);
-
-        Log expected = recursiveLog(path, count, steps, slot);
-        Log actual = browserLog(path, count, steps, slot);
-        QVERIFY(!expected.emissions.isEmpty());
-        QCOMPARE(actual.emissions, expected.emissions);
-        // A slot's own change is reported to this test after the runs that it brings about.
-        expected.deselections.sort();
-        actual.deselections.sort();
-        QCOMPARE(actual.deselections, expected.deselections);
+        const QString path = mixed ? m_mixed.path() : m_directories.path();
+        const Program program{path,
+                              count,
+                              {randomRanges(random, count)},
+                              randomSlot(round * 100, path),
+                              round % 3 ? ChangeSlot(leaveAlone) : ChangeSlot(mirrorInListView)};
+        const QStringList expected = log<RecursiveBrowser>(program);
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
     }
 }
 
@@ -282,40 +316,137 @@ void tst_NestedSelectionRuns::onceForEachDirectoryAndOnceMore()
     QCOMPARE(changed.count(), emissions);
 }
 
-void tst_NestedSelectionRuns::thousandDirectories()
+/// Three directories and two files: four runs, and one for the list view's only change.
+void tst_NestedSelectionRuns::mirroredSelection()
 {
     ui::FileBrowserWidget browser;
     const BrowserParts parts(browser);
-    browser.setSelectionMode(ui::FileBrowserWidget::MultiSelection);
-    browser.setAllowedDirs({m_large.path()});
-    QVERIFY(loaded(*parts.tileView, 1000));
-
+    browser.setAllowedDirs({m_mixed.path()});
+    QVERIFY(loaded(*parts.tileView, directoryCount + fileCount));
     QSignalSpy changed(&browser, &ui::FileBrowserWidget::selectionChanged);
-    QSignalSpy changes(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged);
-    parts.tileView->selectAll(); // plain recursion takes minutes, and the stack
-    QCOMPARE(changed.count(), 1001);
-    QCOMPARE(changes.count(), 1001); // the selection and each deselection
-    QCOMPARE(browser.currentPath(), m_large.path(QStringLiteral("d00999")));
-    QCOMPARE(browser.selectedFiles(), QStringList());
+    QStringList seen;
+    connect(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [&](const QItemSelection&, const QItemSelection& deselected) {
+                seen.append(cells(deselected) + QLatin1String(" gone, left: ")
+                            + selectedNames(*parts.tileView).join(QLatin1Char(' ')));
+                mirrorInListView(parts);
+            });
+    parts.tileView->selectionModel()->select(selectionOf({{9, 13}}, parts.tileView->rootIndex()),
+                                             selectRows);
+    QCOMPARE(changed.count(), 5);
+    QCOMPARE(
+        seen,
+        (QStringList{"d00011:0 gone, left: f00000 f00001", "d00010:0 gone, left: f00000 f00001",
+                     "d00009:0 gone, left: f00000 f00001", " gone, left: f00000 f00001"}));
 }
 
-void tst_NestedSelectionRuns::thousandDirectoriesWithASlotThatReadsTheSelection()
+void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories_data()
+{
+    QTest::addColumn<Ranges>("ranges");
+    QTest::newRow("directories that nest") << Ranges{{0, 255}};
+    QTest::newRow("with a file") << Ranges{{manyDirectories, manyDirectories}, {0, 255}};
+    QTest::newRow("one more than nest") << Ranges{{0, 256}};
+    QTest::newRow("more, in several ranges")
+        << Ranges{{9000, 9100}, {manyDirectories - 1, manyDirectories}, {3, 3}, {5, 180}};
+    QTest::newRow("directories alone, in several ranges")
+        << Ranges{{9000, 9100}, {7000, 7001}, {3, 3}, {5, 180}, {300, 301}};
+}
+
+void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories()
+{
+    QFETCH(Ranges, ranges);
+    const Program program{m_large.path(), manyDirectories + 1, {ranges},
+                          doNothing,      mirrorInListView,    rows};
+    const QStringList expected = log<RecursiveBrowser>(program);
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
+}
+
+void tst_NestedSelectionRuns::allOfManyDirectories_data()
+{
+    QTest::addColumn<Ranges>("ranges");
+    QTest::addColumn<QString>("opened");
+    QTest::addColumn<int>("mirrored"); // emissions that follow from the copy in the list view
+    const QString last = Tree::names(QStringLiteral("d"), manyDirectories).constLast();
+    QTest::newRow("directories alone") << Ranges{{0, manyDirectories - 1}} << last << 2;
+    QTest::newRow("with a file") << Ranges{{0, manyDirectories}} << QString() << 1;
+}
+
+/// Plain recursion takes minutes, and the stack.
+void tst_NestedSelectionRuns::allOfManyDirectories()
+{
+    QFETCH(Ranges, ranges);
+    QFETCH(QString, opened);
+    QFETCH(int, mirrored);
+    ui::FileBrowserWidget browser;
+    const BrowserParts parts(browser);
+    browser.setAllowedDirs({m_large.path()});
+    QVERIFY(loaded(*parts.tileView, manyDirectories + 1));
+
+    std::ptrdiff_t deepest = 0;
+    const char here = 0;
+    QSignalSpy changed(&browser, &ui::FileBrowserWidget::selectionChanged);
+    QSignalSpy changes(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged);
+    connect(&browser, &ui::FileBrowserWidget::selectionChanged, this, [&] {
+        const char there = 0;
+        deepest = qMax(deepest, std::abs(&here - &there));
+    });
+    connect(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [&] { mirrorInListView(parts); });
+    parts.tileView->selectionModel()->select(selectionOf(ranges, parts.tileView->rootIndex()),
+                                             selectRows);
+    QCOMPARE(changes.count(), manyDirectories + 1); // the selection and each deselection
+    QCOMPARE(changed.count(), manyDirectories + 1 + mirrored);
+    QCOMPARE(browser.currentPath(), m_large.path(opened));
+    QCOMPARE(selectedNames(*parts.tileView).size(), opened.isEmpty() ? 1 : 0);
+    QVERIFY2(deepest < stackForNesting, qPrintable(QString::number(deepest)));
+}
+
+void tst_NestedSelectionRuns::slotThatReadsTheSelectionOfManyDirectories()
 {
     QWidget window;
     ui::FileBrowserWidget browser(&window);
     const BrowserParts parts(browser);
-    browser.setSelectionMode(ui::FileBrowserWidget::MultiSelection);
     browser.setAllowedDirs({m_large.path()});
     window.show();
-    QVERIFY(loaded(*parts.tileView, 1000));
+    QVERIFY(loaded(*parts.tileView, manyDirectories + 1));
 
     QVector<int> sizes;
     connect(&browser, &ui::FileBrowserWidget::selectionChanged, this,
             [&] { sizes.append(browser.selectedFiles().size()); });
-    parts.tileView->selectAll();
-    QCOMPARE(sizes.size(), 1001);
+    parts.tileView->selectionModel()->select(
+        selectionOf({{0, manyDirectories - 1}}, parts.tileView->rootIndex()), selectRows);
+    QCOMPARE(sizes.size(), manyDirectories + 1);
     QCOMPARE(sizes.mid(0, 2), (QVector<int>{1, 0})); // the one that was opened, then nothing
-    QCOMPARE(sizes.count(0), 1000);
+    QCOMPARE(sizes.count(0), manyDirectories);
+}
+
+void tst_NestedSelectionRuns::browserDeletedAmongManyDirectories_data()
+{
+    QTest::addColumn<int>("emission");
+    QTest::newRow("first") << 1;
+    QTest::newRow("on the way back through the nested runs") << 100;
+    QTest::newRow("first of those that do not nest") << 258;
+    QTest::newRow("one of those that do not nest") << 5000;
+    QTest::newRow("last") << manyDirectories + 1;
+}
+
+void tst_NestedSelectionRuns::browserDeletedAmongManyDirectories()
+{
+    QFETCH(int, emission);
+    QPointer<ui::FileBrowserWidget> browser = new ui::FileBrowserWidget;
+    const BrowserParts parts(*browser);
+    browser->setAllowedDirs({m_large.path()});
+    QVERIFY(loaded(*parts.tileView, manyDirectories + 1));
+    int emissions = 0;
+    connect(browser, &ui::FileBrowserWidget::selectionChanged, this, [&] {
+        if (++emissions == emission)
+            delete browser;
+    });
+    parts.tileView->selectionModel()->select(
+        selectionOf({{0, manyDirectories}}, parts.tileView->rootIndex()), selectRows);
+    QVERIFY(!browser);
+    QCOMPARE(emissions, emission);
 }
 
 const test::Registration<tst_NestedSelectionRuns> registration;

@@ -1,0 +1,87 @@
+#include "DeselectionOrder.h"
+
+#include "SelectionSnapshot.h"
+
+#include <QFileSystemModel>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+constexpr int noRow = -1;
+
+QItemSelectionRange rowsOf(const QItemSelectionRange& range, int top, int bottom)
+{
+    return {range.topLeft().sibling(top, range.left()),
+            range.topLeft().sibling(bottom, range.right())};
+}
+
+} // namespace
+
+DeselectionOrder::DeselectionOrder(const QItemSelectionModel& selectionModel,
+                                   const QFileSystemModel& model, int count)
+    : m_model(model)
+{
+    const SelectionSnapshot snapshot(&selectionModel, &model);
+    QItemSelection ranges = selectionModel.selection();
+    for (int i = 0; i < ranges.size(); ++i) {
+        const QItemSelectionRange range = ranges.at(i);
+        const int row = m_directories.size() < count ? firstDirectory(range, snapshot) : noRow;
+        if (row == noRow) {
+            m_left.append(range);
+            continue;
+        }
+        m_directories.append(range.topLeft().sibling(row, 0));
+        if (row > range.top())
+            ranges.append(rowsOf(range, range.top(), row - 1));
+        if (row < range.bottom())
+            ranges.append(rowsOf(range, row + 1, range.bottom()));
+        if (range.right() > 0)
+            leaveOtherColumns(range, row);
+    }
+    m_left += m_otherColumns;
+}
+
+const QVector<QPersistentModelIndex>& DeselectionOrder::directories() const
+{
+    return m_directories;
+}
+
+const QItemSelection& DeselectionOrder::left() const
+{
+    return m_left;
+}
+
+/// The first row of \a range that is selected in all columns and a directory.
+int DeselectionOrder::firstDirectory(const QItemSelectionRange& range,
+                                     const SelectionSnapshot& snapshot) const
+{
+    if (range.left() > 0)
+        return noRow;
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+        const QModelIndex index = range.topLeft().sibling(row, 0);
+        if (m_model.isDir(index) && snapshot.containsRow(index))
+            return row;
+    }
+    return noRow;
+}
+
+/// In as few ranges as possible, as every range takes time at each further deselection.
+void DeselectionOrder::leaveOtherColumns(const QItemSelectionRange& range, int row)
+{
+    const QModelIndex first = range.topLeft().sibling(row, 1);
+    const QModelIndex last = range.topLeft().sibling(row, range.right());
+    const auto above = std::find_if(
+        m_otherColumns.begin(), m_otherColumns.end(), [&](const QItemSelectionRange& other) {
+            return other.bottom() + 1 == row && other.right() == range.right()
+                && other.parent() == first.parent();
+        });
+    if (above == m_otherColumns.end())
+        m_otherColumns.append(QItemSelectionRange(first, last));
+    else
+        *above = QItemSelectionRange(above->topLeft(), last);
+}
+
+} // namespace ui
