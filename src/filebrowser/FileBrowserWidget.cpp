@@ -46,23 +46,6 @@ void setUpHeader(QHeaderView* header)
     header->setMaximumSectionSize(maxSectionSize);
 }
 
-// A header measures up to a thousand rows whenever the directory changes, hidden or not: with many
-// files that is a tenth of the work of opening a directory. It does so anew when it is shown.
-
-void hideListView(QTreeView* view)
-{
-    constexpr int visibleRows = 0;
-    view->header()->setResizeContentsPrecision(visibleRows);
-    view->hide();
-}
-
-void showListView(QTreeView* view)
-{
-    constexpr int manyRows = 1000; // Qt's default
-    view->header()->setResizeContentsPrecision(manyRows);
-    view->show();
-}
-
 } // namespace
 
 FileBrowserWidget::FileBrowserWidget(QWidget* parent)
@@ -114,14 +97,14 @@ QHBoxLayout* FileBrowserWidget::createNavBar()
     auto* tileButton = newToolbarButton(QStringLiteral(":/icons/tile_view.svg"), this);
     connect(tileButton, &QPushButton::clicked, this, [this] {
         m_tileView->show();
-        hideListView(m_listView);
+        m_listView->hide();
     });
     layout->addWidget(tileButton);
 
     auto* listButton = newToolbarButton(QStringLiteral(":/icons/list_view.svg"), this);
     connect(listButton, &QPushButton::clicked, this, [this] {
         m_tileView->hide();
-        showListView(m_listView);
+        m_listView->show();
     });
     layout->addWidget(listButton);
     return layout;
@@ -160,7 +143,7 @@ QVBoxLayout* FileBrowserWidget::createFileView()
     connect(m_listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [handler] { handler->run(); });
     layout->addWidget(m_listView);
-    hideListView(m_listView);
+    m_listView->hide();
     return layout;
 }
 

@@ -1,14 +1,17 @@
 #include "BrowserParts.h"
 #include "OffscreenMessages.h"
+#include "RecursiveBrowser.h"
 #include "TestApplication.h"
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"
+#include "ui/FileSystemModel.h"
 
+#include <QHeaderView>
 #include <QListView>
 #include <QPushButton>
-#include <QSet>
-#include <QStyledItemDelegate>
 #include <QTreeView>
+
+#include <functional>
 
 using namespace test;
 
@@ -18,41 +21,73 @@ constexpr int manyFiles = 200; // more than a view shows at once
 
 const QString longName = QString(20, QLatin1Char('w'));
 
-/// Notes of which rows a view measures the items.
-class RecordingDelegate : public QStyledItemDelegate
-{
-public:
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        m_rows.insert(index.row());
-        return QStyledItemDelegate::sizeHint(option, index);
-    }
-    QSet<int> rows() const
-    {
-        return m_rows;
-    }
+using Use = std::function<void(const BrowserParts&)>;
 
-private:
-    mutable QSet<int> m_rows;
-};
+/// The widths of the columns shown.
+QVector<int> columnWidths(const QTreeView& view)
+{
+    return {view.columnWidth(0), view.columnWidth(1), view.columnWidth(3)};
+}
+
+/// Opens \a path and waits until the entries of it are there.
+template <class Browser>
+bool open(Browser& browser, const BrowserParts& parts, const QString& path)
+{
+    browser.setAllowedDirs({path});
+    const int count = QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size();
+    const bool there = QTest::qWaitFor([&] { return shownNames(*parts.tileView).size() == count; });
+    QCoreApplication::processEvents();
+    return there;
+}
+
+/// What the list view of a \a Browser is like after each of \a uses.
+template <class Browser>
+QVector<QVector<int>> states(const QStringList& paths, const Use& use)
+{
+    Browser browser;
+    const BrowserParts parts(browser);
+    browser.resize(700, 400);
+    browser.show();
+    QVector<QVector<int>> result;
+    for (const QString& path : paths) {
+        if (!open(browser, parts, path))
+            return {};
+        use(parts);
+        const QTreeView& view = *parts.listView;
+        const int precision = view.header()->resizeContentsPrecision();
+        result << columnWidths(view) << QVector<int>{precision, view.isVisible()};
+        QCoreApplication::processEvents();
+        result << columnWidths(view);
+    }
+    return result;
+}
+
+void showByItself(const BrowserParts& parts)
+{
+    parts.listView->show();
+}
 
 } // namespace
 
-/// What the view that is not shown costs, and that the user does not notice.
+/// The view that is not shown is as ready as the other, whoever shows it, and in whatever way.
 class tst_FileBrowserHiddenView : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void hiddenListViewMeasuresFewRows();
-    void columnsFitWhenTheListViewIsShown();
+    void listViewIsAsIfShownByItself_data();
+    void listViewIsAsIfShownByItself();
+    void hiddenColumnsFitTheContents();
+    void precisionIsTheApplications();
+    void savedStateIsTheHeadersOwn();
     void columnsFitInAnotherDirectory();
 
 private:
-    /// Opens \a directory and waits until \a view shows \a count entries of it.
-    void open(ui::FileBrowserWidget& browser, const QAbstractItemView& view,
-              const QString& directory, int count) const;
+    QString path(const char* directory) const
+    {
+        return m_tree.path(QString::fromLatin1(directory));
+    }
 
     Tree m_tree;
 };
@@ -65,53 +100,98 @@ void tst_FileBrowserHiddenView::initTestCase()
     m_tree.makeDir(QStringLiteral("many"));
     for (const QString& name : Tree::names(QStringLiteral("f"), manyFiles))
         m_tree.makeFile(QStringLiteral("many/") + name);
+    m_tree.makeFile(QStringLiteral("many/g") + longName); // far from what a view shows first
     m_tree.makeFile(QStringLiteral("short/a"));
     m_tree.makeFile(QStringLiteral("long/a"));
     m_tree.makeFile(QStringLiteral("long/") + longName);
 }
 
-void tst_FileBrowserHiddenView::open(ui::FileBrowserWidget& browser, const QAbstractItemView& view,
-                                     const QString& directory, int count) const
+void tst_FileBrowserHiddenView::listViewIsAsIfShownByItself_data()
 {
-    browser.setAllowedDirs({m_tree.path(directory)});
-    QTRY_COMPARE(shownNames(view).size(), count);
-    QCoreApplication::processEvents();
+    const auto newRow = [](const char* name, const Use& use) { QTest::newRow(name) << use; };
+    QTest::addColumn<Use>("use");
+    newRow("stays hidden", [](const BrowserParts&) {});
+    newRow("its own button", [](const BrowserParts& parts) { parts.listButton->click(); });
+    newRow("both buttons", [](const BrowserParts& parts) {
+        parts.listButton->click();
+        parts.tileButton->click();
+    });
+    newRow("show()", showByItself);
+    newRow("setVisible()", [](const BrowserParts& parts) { parts.listView->setVisible(true); });
+    newRow("beside the tiles and hidden again", [](const BrowserParts& parts) {
+        parts.listView->show();
+        parts.listView->hide();
+    });
+    newRow("own precision, all rows", [](const BrowserParts& parts) {
+        parts.listView->header()->setResizeContentsPrecision(-1);
+        parts.listButton->click();
+    });
+    newRow("own precision, visible rows", [](const BrowserParts& parts) {
+        parts.listView->header()->setResizeContentsPrecision(0);
+        parts.listButton->click();
+        parts.tileButton->click();
+        parts.listButton->click();
+    });
+    newRow("saved state", [](const BrowserParts& parts) {
+        const QByteArray state = parts.listView->header()->saveState();
+        parts.listButton->click();
+        parts.listView->header()->restoreState(state);
+    });
+    newRow("scrolled", [](const BrowserParts& parts) {
+        parts.listButton->click();
+        parts.listView->scrollToBottom();
+    });
 }
 
-void tst_FileBrowserHiddenView::hiddenListViewMeasuresFewRows()
+void tst_FileBrowserHiddenView::listViewIsAsIfShownByItself()
+{
+    QFETCH(Use, use);
+    const QStringList paths{path("short"), path("long"), path("many"), path("short")};
+    const QVector<QVector<int>> expected = states<RecursiveBrowser>(paths, use);
+    const QVector<QVector<int>> actual = states<ui::FileBrowserWidget>(paths, use);
+    QCOMPARE(expected.size(), 3 * paths.size());
+    QCOMPARE(actual, expected);
+}
+
+void tst_FileBrowserHiddenView::hiddenColumnsFitTheContents()
 {
     ui::FileBrowserWidget browser;
     const BrowserParts parts(browser);
-    RecordingDelegate delegate;
-    parts.listView->setItemDelegate(&delegate);
     browser.show();
-    open(browser, *parts.tileView, QStringLiteral("many"), manyFiles);
-    QVERIFY(
-        !parts.tileView->visualRect(entry(*parts.tileView, QStringLiteral("f00000"))).isEmpty());
-    QVERIFY2(delegate.rows().size() < manyFiles / 2,
-             qPrintable(QString::number(delegate.rows().size())));
-
-    parts.listButton->click();
-    QTRY_COMPARE(delegate.rows().size(), manyFiles);
+    QVERIFY(open(browser, parts, path("many")));
+    QVERIFY(!parts.listView->isVisible());
+    const int width = parts.listView->fontMetrics().horizontalAdvance(longName);
+    QTRY_VERIFY(parts.listView->columnWidth(0) > qMin(width, 349));
 }
 
-void tst_FileBrowserHiddenView::columnsFitWhenTheListViewIsShown()
+void tst_FileBrowserHiddenView::precisionIsTheApplications()
 {
-    ui::FileBrowserWidget shownBefore;
-    const BrowserParts expected(shownBefore);
-    expected.listButton->click();
-    shownBefore.show();
-    open(shownBefore, *expected.listView, QStringLiteral("long"), 2);
-
+    constexpr int qtDefault = 1000;
     ui::FileBrowserWidget browser;
     const BrowserParts parts(browser);
     browser.show();
-    open(browser, *parts.tileView, QStringLiteral("long"), 2);
-    parts.listButton->click();
-    QTRY_COMPARE(parts.listView->columnWidth(0), expected.listView->columnWidth(0));
-    QCOMPARE(parts.listView->columnWidth(1), expected.listView->columnWidth(1));
-    QVERIFY(parts.listView->columnWidth(0)
-            > parts.listView->fontMetrics().horizontalAdvance(longName));
+    const QHeaderView& header = *parts.listView->header();
+    QCOMPARE(header.resizeContentsPrecision(), qtDefault);
+    for (const int precision : {qtDefault, -1, 0, 17}) {
+        parts.listView->header()->setResizeContentsPrecision(precision);
+        for (QPushButton* button : {parts.listButton, parts.tileButton, parts.tileButton}) {
+            button->click();
+            QCOMPARE(header.resizeContentsPrecision(), precision);
+        }
+    }
+}
+
+void tst_FileBrowserHiddenView::savedStateIsTheHeadersOwn()
+{
+    ui::FileBrowserWidget browser;
+    const BrowserParts parts(browser);
+    browser.show();
+    const QByteArray state = parts.listView->header()->saveState();
+    QTreeView other;
+    other.setModel(parts.model);
+    QVERIFY(other.header()->restoreState(state));
+    QCOMPARE(other.header()->resizeContentsPrecision(),
+             QTreeView().header()->resizeContentsPrecision());
 }
 
 void tst_FileBrowserHiddenView::columnsFitInAnotherDirectory()
@@ -120,16 +200,18 @@ void tst_FileBrowserHiddenView::columnsFitInAnotherDirectory()
     const BrowserParts parts(browser);
     browser.show();
     parts.listButton->click();
-    open(browser, *parts.listView, QStringLiteral("short"), 1);
+    QVERIFY(open(browser, parts, path("short")));
     const int narrow = parts.listView->columnWidth(0);
 
     parts.tileButton->click();
-    open(browser, *parts.tileView, QStringLiteral("long"), 2);
+    QVERIFY(open(browser, parts, path("long")));
     parts.listButton->click();
     QTRY_VERIFY(parts.listView->columnWidth(0) > narrow);
     QVERIFY(parts.listView->columnWidth(0)
             > parts.listView->fontMetrics().horizontalAdvance(longName));
 }
+
+Q_DECLARE_METATYPE(Use)
 
 const test::Registration<tst_FileBrowserHiddenView> registration;
 
