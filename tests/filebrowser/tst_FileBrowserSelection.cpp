@@ -358,7 +358,7 @@ void tst_FileBrowserSelection::browserDeletedWhileDirectoriesAreDeselected()
             [this] { delete m_browser; });
     select({"alpha", "one", "beta"});
     QVERIFY(m_browser.isNull());
-    QCOMPARE(m_changes, 0);
+    QCOMPARE(m_changes, 1); // the innermost run's: it comes before the slot
 }
 
 void tst_FileBrowserSelection::browserDeletedLaterByAClick()

@@ -200,11 +200,13 @@ private Q_SLOTS:
 private:
     static constexpr int directoryCount = 12;
     static constexpr int fileCount = 8;
+    static constexpr int someDirectories = 300;
     static constexpr int manyDirectories = 10000;
     static constexpr int stackForNesting = 2 << 20; // bytes; of eight million
 
     Tree m_directories; ///< Directories alone.
     Tree m_mixed; ///< Directories first, as the model sorts, then files.
+    Tree m_some; ///< More directories than nest, then a file.
     Tree m_large; ///< Many directories, then a file.
 };
 
@@ -218,6 +220,10 @@ void tst_NestedSelectionRuns::initTestCase()
     const QStringList files = Tree::names(QStringLiteral("f"), fileCount);
     for (const QString& name : files)
         m_mixed.makeFile(name);
+    const QStringList some = Tree::names(QStringLiteral("d"), someDirectories);
+    for (const QString& name : some)
+        m_some.makeDir(name);
+    m_some.makeFile(QStringLiteral("file"));
     const QStringList many = Tree::names(QStringLiteral("d"), manyDirectories);
     for (const QString& name : many)
         m_large.makeDir(name);
@@ -343,20 +349,20 @@ void tst_NestedSelectionRuns::mirroredSelection()
 void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories_data()
 {
     QTest::addColumn<Ranges>("ranges");
-    QTest::newRow("directories that nest") << Ranges{{0, 255}};
-    QTest::newRow("with a file") << Ranges{{manyDirectories, manyDirectories}, {0, 255}};
+    QTest::newRow("as many as nest, and a file")
+        << Ranges{{someDirectories, someDirectories}, {0, 255}};
     QTest::newRow("one more than nest") << Ranges{{0, 256}};
     QTest::newRow("more, in several ranges")
-        << Ranges{{9000, 9100}, {manyDirectories - 1, manyDirectories}, {3, 3}, {5, 180}};
+        << Ranges{{200, 290}, {someDirectories - 1, someDirectories}, {3, 3}, {5, 175}};
     QTest::newRow("directories alone, in several ranges")
-        << Ranges{{9000, 9100}, {7000, 7001}, {3, 3}, {5, 180}, {300, 301}};
+        << Ranges{{200, 290}, {295, 296}, {3, 3}, {5, 175}};
 }
 
 void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories()
 {
     QFETCH(Ranges, ranges);
-    const Program program{m_large.path(), manyDirectories + 1, {ranges},
-                          doNothing,      mirrorInListView,    rows};
+    const Program program{m_some.path(), someDirectories + 1, {ranges},
+                          doNothing,     mirrorInListView,    rows};
     const QStringList expected = log<RecursiveBrowser>(program);
     QVERIFY(!expected.isEmpty());
     QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
