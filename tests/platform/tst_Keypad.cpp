@@ -39,6 +39,8 @@ private Q_SLOTS:
 
     void factory();
     void unknownType();
+    void isNeverMirrored_data();
+    void isNeverMirrored();
     void slotCanBeConnectedBySignature();
     void keysSendKeyEvents_data();
     void keysSendKeyEvents();
@@ -75,6 +77,33 @@ void tst_Keypad::unknownType()
     QWidget parent;
     QVERIFY(!IKeypad::create(KeyboardType(99), &parent));
     QVERIFY(parent.children().isEmpty());
+}
+
+void tst_Keypad::isNeverMirrored_data()
+{
+    QTest::addColumn<KeyboardType>("type");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("integer") << KeyboardType::Integer << "789";
+    QTest::newRow("decimal") << KeyboardType::Decimal << "123";
+    QTest::newRow("text") << KeyboardType::Text << "qwertyuiop";
+}
+
+void tst_Keypad::isNeverMirrored()
+{
+    QFETCH(KeyboardType, type);
+    QFETCH(QString, row);
+    QWidget window;
+    window.setLayoutDirection(Qt::RightToLeft);
+    IKeypad* keypad = IKeypad::create(type, &window);
+    keypad->resize(keypad->sizeHint());
+    window.show();
+
+    for (int i = 1; i < row.size(); ++i) {
+        const QPushButton* key = test::keypadKey(*keypad, row.at(i));
+        const QPushButton* before = test::keypadKey(*keypad, row.at(i - 1));
+        QVERIFY2(key->x() > before->x(), qPrintable(row.at(i)));
+        QCOMPARE(key->y(), before->y());
+    }
 }
 
 void tst_Keypad::slotCanBeConnectedBySignature()

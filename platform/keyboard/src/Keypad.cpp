@@ -26,6 +26,7 @@ Keypad::Keypad(KeyboardType type, const QVector<KeyDescription>& keys, QWidget* 
     , m_type(type)
 {
     setFocusPolicy(Qt::NoFocus);
+    setLayoutDirection(Qt::LeftToRight); // rows of letters and number pads are never mirrored
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(keySpacing);
