@@ -12,6 +12,7 @@ void Appearance::applyToApplication() const
         // Widgets under a style sheet would keep the palette that they have.
         qApp->setStyleSheet(QString());
         QApplication::setPalette(palette);
+        QApplication::setPalette(indicatorPalette(palette), "ui::widgets::ScrollIndicatorBar");
     }
     // Setting a style sheet polishes every widget anew, even if it is the same one.
     if (qApp->styleSheet() != styleSheet)
@@ -47,5 +48,13 @@ QPalette Appearance::darkPalette()
         palette.setColor(QPalette::Disabled, role, QColor(122, 126, 133));
     }
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 83, 86));
+    return palette;
+}
+
+QPalette Appearance::indicatorPalette(QPalette palette)
+{
+    const bool isDark = palette.color(QPalette::Window).lightness()
+        < palette.color(QPalette::WindowText).lightness();
+    palette.setColor(QPalette::Button, isDark ? QColor(182, 184, 188) : QColor(186, 186, 186));
     return palette;
 }

@@ -25,4 +25,8 @@ struct Appearance
 
     static QPalette lightPalette();
     static QPalette darkPalette();
+
+    /// \a palette with a button colour that an idle scroll indicator can be seen with, which is a
+    /// shade of it: light on what is dark and dark on what is light.
+    static QPalette indicatorPalette(QPalette palette);
 };

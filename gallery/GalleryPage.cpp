@@ -19,3 +19,13 @@ void GalleryPage::addDemoWidget(QWidget* widget, const QString& name)
 {
     m_demoWidgets.append({widget, name});
 }
+
+const QList<GalleryPage::Source>& GalleryPage::sources() const
+{
+    return m_sources;
+}
+
+void GalleryPage::addSource(QObject* object, const QString& name)
+{
+    m_sources.append({object, name});
+}

@@ -23,13 +23,30 @@ public:
     };
     const QList<DemoWidget>& demoWidgets() const;
 
+    /// What has signals beside the demo widgets.
+    struct Source
+    {
+        QObject* object;
+        QString name;
+    };
+    const QList<Source>& sources() const;
+
     /// Whether the page shows what it is to show; true unless something is still being read.
     virtual bool isReady() const;
+
+Q_SIGNALS:
+    /// The user wants to see the page \a id.
+    void pageRequested(const QString& id);
 
 protected:
     /// Offers \a widget, which stays owned by the page, in the property editor.
     void addDemoWidget(QWidget* widget, const QString& name);
 
+    /// Shows the signals of \a object, which stays owned by the page, with those of the demo
+    /// widgets.
+    void addSource(QObject* object, const QString& name);
+
 private:
     QList<DemoWidget> m_demoWidgets;
+    QList<Source> m_sources;
 };

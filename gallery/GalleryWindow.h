@@ -3,21 +3,31 @@
 #include "Appearance.h"
 #include "pages/Pages.h"
 
+#include <QPointer>
 #include <QWidget>
 
+class CodeView;
 class DemoWidgetPicker;
 class GalleryPage;
 class PropertyEditor;
+class SignalLog;
+class StyleSheetEditor;
+class Switch;
+class TargetMark;
 QT_BEGIN_NAMESPACE
 class QBoxLayout;
-class QCheckBox;
+class QComboBox;
 class QListWidget;
 class QScrollArea;
+class QStackedWidget;
 QT_END_NAMESPACE
 
 /**
- * The gallery's window, made for a touch screen of 800 x 480: switches above, the list of pages at
- * its start, the page in the middle and an editor of its widgets' properties at the end.
+ * The gallery's window, made for touch screens of 800 x 480 and 480 x 800.
+ *
+ * Switches are above, the list of pages is at the start, the page in the middle, and beside or
+ * below it one of the tools: an editor of its widgets' properties, the code behind them, a log of
+ * their signals, and the style sheet. On a screen that is higher than wide the list is a combo box.
  */
 class GalleryWindow : public QWidget
 {
@@ -35,25 +45,42 @@ public:
     /// Shows the page \a id, made anew; nothing happens if there is none of that id.
     void showPage(const QString& id);
 
+    /// As the screens that it is made for.
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
-    QCheckBox* addSwitch(const QString& text, const QString& name, bool on);
-    void addAppearanceSwitch(const QString& text, const QString& name, bool Appearance::*member);
-    QLayout* makeSwitches();
+    QWidget* makeBar();
     QLayout* makeColumns();
-    void setUpList();
-    void setUpPageArea();
-    void setUpProperties();
+    Switch* addSwitch(const QString& text, const QString& name, bool on);
+    void addAppearanceSwitch(const QString& text, const QString& name, bool Appearance::*member);
+    void setUpPageChoices();
+    void setUpTools();
     void makePage(int index);
     void applyAppearance();
-    void updateProperties();
+    void applyStyleSheet(bool on);
+    void chooseTool();
+    void updateTool();
+    void listen();
 
     QVector<PageEntry> m_pages;
     QString m_styleSheet;
     Appearance m_appearance;
-    QBoxLayout* m_switches;
+    QLayout* m_bar = nullptr;
+    QComboBox* m_pageChoice;
     QListWidget* m_list;
     QScrollArea* m_pageArea;
+    QPointer<GalleryPage> m_page;
+    QBoxLayout* m_content = nullptr; ///< The page and the tool.
+    Switch* m_styleSheetSwitch = nullptr;
+    QComboBox* m_toolChoice;
+    QStackedWidget* m_tools;
     PropertyEditor* m_properties;
-    QCheckBox* m_propertiesSwitch;
+    CodeView* m_code;
+    SignalLog* m_log;
+    StyleSheetEditor* m_styleSheetEditor;
+    TargetMark* m_mark;
     DemoWidgetPicker* m_picker;
 };

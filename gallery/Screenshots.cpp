@@ -2,6 +2,7 @@
 
 #include "Appearance.h"
 #include "GalleryPage.h"
+#include "PageView.h"
 #include "Rendering.h"
 
 #include <QCoreApplication>
@@ -31,12 +32,12 @@ QVector<Variant> variants(const QString& styleSheet)
             {QStringLiteral("disabled"), {false, false, true, styleSheet}, 1.0}};
 }
 
-QSize sizeOf(const QWidget& page)
+QSize sizeOf(const QWidget& view)
 {
-    QSize size = page.minimumSizeHint().expandedTo(leastSize);
-    size.setHeight(qMax(size.height(), page.sizeHint().height()));
-    if (page.hasHeightForWidth())
-        size.setHeight(qMax(leastSize.height(), page.heightForWidth(size.width())));
+    QSize size = view.minimumSizeHint().expandedTo(leastSize);
+    size.setHeight(qMax(size.height(), view.sizeHint().height()));
+    if (view.hasHeightForWidth())
+        size.setHeight(qMax(leastSize.height(), view.heightForWidth(size.width())));
     return size;
 }
 
@@ -44,11 +45,12 @@ QImage picture(const PageEntry& entry, const Variant& variant)
 {
     variant.appearance.applyToApplication();
     QWidget stage; // the page stands on it as it does in the window, as a child
-    GalleryPage* page = entry.create(&stage);
+    auto* view = new PageView(entry, &stage);
+    GalleryPage* page = view->page();
     variant.appearance.applyToPage(*page);
-    page->ensurePolished();
-    page->resize(sizeOf(*page));
-    stage.resize(page->size());
+    view->ensurePolished();
+    view->resize(sizeOf(*view));
+    stage.resize(view->size());
     rendering::showUnseen(&stage);
     rendering::waitUntil([page] { return page->isReady(); });
     return rendering::pictureOf(&stage, variant.devicePixelRatio);

@@ -1,11 +1,20 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
 /// The application style sheet that the gallery brings along.
 QString exampleStyleSheet();
+
+/// Whether Qt takes \a styleSheet as that of an application.
+bool isWellFormed(const QString& styleSheet);
+
+/**
+ * What is wrong with \a styleSheet, for the user: the rules that Qt does not understand, and the
+ * properties that it does not know, each with its line. A well-formed one may have the latter.
+ */
+QStringList styleSheetErrors(const QString& styleSheet);
 
 /**
  * The application style sheet in the file \a path.

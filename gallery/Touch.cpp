@@ -1,47 +1,39 @@
 #include "Touch.h"
 
+#include "properties/HiddenValues.h"
+
+#include <Switch.h>
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+#include <ui/ScrollIndicatorBar.h>
+
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
-#include <QMouseEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
 #include <QScroller>
 #include <QSlider>
-#include <QStyledItemDelegate>
-#include <QStyleOption>
-#include <QStylePainter>
+#include <QStyle>
 #include <QToolButton>
+
+using ui::KeypadLineEdit;
+using ui::widgets::ScrollIndicatorBar;
 
 namespace touch {
 
 namespace {
 
-/// Between a text and what surrounds it.
-constexpr int margin = 8;
+constexpr int textMargin = 6;
 
-class TallItemDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+/// Of a switch, which makes its track 16 pixels high and 44 wide.
+constexpr QMargins switchMargins(10, 12, 10, 12);
 
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        const QSize hint = QStyledItemDelegate::sizeHint(option, index) + QSize(2 * margin, 0);
-        return hint.expandedTo(QSize(0, touchSize));
-    }
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override
-    {
-        QStyleOptionViewItem inset = option;
-        initStyleOption(&inset, index);
-        const QStyle* style = inset.widget ? inset.widget->style() : QApplication::style();
-        style->drawPrimitive(QStyle::PE_PanelItemViewItem, &inset, painter, inset.widget);
-        inset.rect.adjust(margin, 0, -margin, 0);
-        style->drawControl(QStyle::CE_ItemViewItem, &inset, painter, inset.widget);
-    }
-};
+/// Seconds that a press on an item may last before it becomes one: longer than any drag takes to
+/// begin.
+constexpr double longestPress = 5.0;
 
 class WheelFilter : public QObject
 {
@@ -57,64 +49,108 @@ public:
     }
 };
 
-/// The style's indicator is as small as a mouse pointer is precise.
-class TallCheckBox : public QCheckBox
+class PaletteFollower : public QObject
 {
 public:
-    using QCheckBox::QCheckBox;
-
-    QSize sizeHint() const override
+    explicit PaletteFollower(Switch* control)
+        : QObject(control)
+        , m_control(control)
     {
-        const int textWidth =
-            text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text()) + margin;
-        return QSize(touchSize + textWidth, touchSize);
+        control->installEventFilter(this);
+        follow();
     }
 
-protected:
-    bool hitButton(const QPoint& position) const override
+    bool eventFilter(QObject*, QEvent* event) override
     {
-        return rect().contains(position);
-    }
-
-    void paintEvent(QPaintEvent*) override
-    {
-        QStyleOptionButton option;
-        initStyleOption(&option);
-        QStylePainter painter(this);
-
-        const QRect text = option.rect.adjusted(touchSize, 0, 0, 0);
-        painter.drawItemText(
-            QStyle::visualRect(option.direction, rect(), text),
-            int(Qt::AlignVCenter | QStyle::visualAlignment(option.direction, Qt::AlignLeft)),
-            option.palette, isEnabled(), option.text, QPalette::WindowText);
-
-        QRect indicator(0, 0, indicatorSize, indicatorSize);
-        indicator.moveCenter(QRect(0, 0, touchSize, height()).center());
-        option.rect = QStyle::visualRect(option.direction, rect(), indicator);
-        painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, option);
+        if (event->type() == QEvent::PaletteChange)
+            follow();
+        return false;
     }
 
 private:
-    static constexpr int indicatorSize = 24;
+    void follow()
+    {
+        QPalette palette = m_control->palette();
+        const QBrush label = QApplication::palette().windowText();
+        if (palette.buttonText() == label)
+            return;
+        palette.setBrush(QPalette::ButtonText, label);
+        m_control->setPalette(palette);
+    }
+
+    Switch* m_control;
 };
 
-/// Goes where it is pressed, since its handle is too small to be hit.
-class TouchSlider : public QSlider
+/// Brings a field into view as soon as it has the focus, and stops what is still moving it later
+/// on.
+class FieldKeeper : public QObject
 {
 public:
-    using QSlider::QSlider;
+    explicit FieldKeeper(KeypadLineEdit* field)
+        : QObject(field)
+        , m_field(field)
+    {
+        field->installEventFilter(this);
+        connect(field, &KeypadLineEdit::startKeypad, this, &FieldKeeper::stopScrollers);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            bringIntoView();
+        return false;
+    }
+
+private:
+    void bringIntoView()
+    {
+        for (QWidget* widget = m_field->parentWidget(); widget; widget = widget->parentWidget()) {
+            if (auto* area = qobject_cast<QScrollArea*>(widget))
+                area->ensureWidgetVisible(m_field);
+        }
+    }
+
+    void stopScrollers()
+    {
+        for (QWidget* widget = m_field->parentWidget(); widget; widget = widget->parentWidget()) {
+            if (QScroller::hasScroller(widget))
+                QScroller::scroller(widget)->stop();
+        }
+    }
+
+    KeypadLineEdit* m_field;
+};
+
+class ElidedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
 
 protected:
-    void mousePressEvent(QMouseEvent* event) override
+    void paintEvent(QPaintEvent*) override
     {
-        QStyleOptionSlider option;
-        initStyleOption(&option);
-        const int handle = style()->pixelMetric(QStyle::PM_SliderLength, &option, this);
-        setValue(QStyle::sliderValueFromPosition(minimum(), maximum(), event->x() - handle / 2,
-                                                 width() - handle, option.upsideDown));
-        QSlider::mousePressEvent(event); // takes hold of the handle, which is there now
+        QPainter painter(this);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        style()->drawItemText(&painter, rect(),
+                              int(QStyle::visualAlignment(layoutDirection(), alignment())),
+                              palette(), isEnabled(), shown, foregroundRole());
     }
 };
+
+void addIndicators(QAbstractScrollArea* area)
+{
+    auto* vertical = new ScrollIndicatorBar(Qt::Vertical);
+    auto* horizontal = new ScrollIndicatorBar(Qt::Horizontal);
+    area->setVerticalScrollBar(vertical);
+    area->setHorizontalScrollBar(horizontal);
+    QObject::connect(QScroller::scroller(area->viewport()), &QScroller::stateChanged, area,
+                     [vertical, horizontal](QScroller::State state) {
+                         const bool moves =
+                             state == QScroller::Dragging || state == QScroller::Scrolling;
+                         hiddenvalues::set(vertical, "highlightBar", moves);
+                         hiddenvalues::set(horizontal, "highlightBar", moves);
+                     });
+}
 
 } // namespace
 
@@ -122,6 +158,7 @@ void makeScrollable(QAbstractScrollArea* area)
 {
     // The mouse gesture serves touch screens as well: Qt makes mouse events of unused touches.
     QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
+    addIndicators(area);
 
     // Contents that bounce beyond their end leave a gap that a software renderer is slow to close.
     QScroller* scroller = QScroller::scroller(area->viewport());
@@ -130,17 +167,17 @@ void makeScrollable(QAbstractScrollArea* area)
                                QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff));
     properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy,
                                QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff));
+    if (auto* view = qobject_cast<QAbstractItemView*>(area)) {
+        view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+        properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, longestPress);
+    }
     scroller->setScrollerProperties(properties);
 }
 
 void stopScrolling(QAbstractScrollArea* area)
 {
     QScroller::scroller(area->viewport())->stop();
-}
-
-void makeItemsTall(QAbstractItemView* view)
-{
-    view->setItemDelegate(new TallItemDelegate(view));
 }
 
 void leaveWheelToScrollArea(QWidget* control)
@@ -150,9 +187,7 @@ void leaveWheelToScrollArea(QWidget* control)
 
 void adapt(QComboBox* box)
 {
-    box->setMinimumHeight(touchSize);
     box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    box->setItemDelegate(new TallItemDelegate(box));
     leaveWheelToScrollArea(box);
 }
 
@@ -163,17 +198,35 @@ QComboBox* makeComboBox()
     return box;
 }
 
-QCheckBox* makeCheckBox(const QString& text)
+Switch* makeSwitch(const QString& text)
 {
-    auto* box = new TallCheckBox(text);
-    box->setMinimumSize(touchSize, touchSize);
-    return box;
+    auto* control = new Switch(text, QColor(33, 150, 243));
+    control->setThumbOffBrush(QColor(250, 250, 250));
+    control->setTrackOffBrush(Qt::gray);
+    control->setTrackOffOpacity(0.6);
+    control->setHeight(targetSize);
+    control->setIndicatorMargin(switchMargins);
+    followPalette(control);
+    return control;
+}
+
+void followPalette(Switch* control)
+{
+    new PaletteFollower(control);
+}
+
+QLabel* makeElidedLabel(const QString& text)
+{
+    auto* label = new ElidedLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return label;
 }
 
 QSlider* makeSlider()
 {
-    auto* slider = new TouchSlider(Qt::Horizontal);
-    slider->setMinimumHeight(touchSize);
+    auto* slider = new QSlider(Qt::Horizontal);
+    slider->setMinimumHeight(targetSize);
     leaveWheelToScrollArea(slider);
     return slider;
 }
@@ -186,12 +239,29 @@ QToolButton* makeFoldButton(const QString& text)
     button->setAutoRaise(true);
     button->setArrowType(Qt::DownArrow);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setMinimumHeight(touchSize);
+    button->setMinimumHeight(targetSize);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     QObject::connect(button, &QToolButton::toggled, button, [button](bool unfolded) {
         button->setArrowType(unfolded ? Qt::UpArrow : Qt::DownArrow);
     });
     return button;
+}
+
+KeypadLineEdit* makeField(ui::keyboard::KeyboardType type, const QString& title)
+{
+    auto* field = new KeypadLineEdit(nullptr, type);
+    field->setAccessibleName(title);
+    field->setMinimumHeight(targetSize);
+    field->setTextMargins(textMargin, 0, textMargin, 0);
+    QObject::connect(field, &KeypadLineEdit::startKeypad, field,
+                     [field, title] { field->keypad()->setSubtitleLabel(title); });
+    prepareForScrolling(field);
+    return field;
+}
+
+void prepareForScrolling(KeypadLineEdit* field)
+{
+    new FieldKeeper(field);
 }
 
 } // namespace touch

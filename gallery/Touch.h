@@ -1,47 +1,61 @@
 #pragma once
 
+#include <ui/keyboard/KeyboardType.h>
+
 #include <QString>
 
+class Switch;
+namespace ui {
+class KeypadLineEdit;
+}
 QT_BEGIN_NAMESPACE
-class QAbstractItemView;
 class QAbstractScrollArea;
-class QCheckBox;
 class QComboBox;
+class QLabel;
 class QSlider;
 class QToolButton;
 class QWidget;
 QT_END_NAMESPACE
 
-/// Standard controls in touch size.
+/// Controls for touch screens. Their sizes are those of TouchStyle.
 namespace touch {
 
-/// Least extent in pixels of what a finger shall hit: about 9 mm on a 7 inch screen of 800 x 480.
-constexpr int touchSize = 44;
+/// Least extent in pixels of what is tapped: about 9 mm on a 7 inch screen of 800 x 480.
+constexpr int targetSize = 44;
 
-/// Lets a finger, or the left mouse button, drag and flick the contents of \a area.
+/// Lets a touch, or the left mouse button, drag and flick the contents of \a area, with indicators
+/// in place of its scroll bars. A drag that begins on an item of a view selects nothing.
 void makeScrollable(QAbstractScrollArea* area);
 
 /// Ends the movement that a flick has left, before \a area gets other contents.
 void stopScrolling(QAbstractScrollArea* area);
 
-/// Gives the items of \a view touch size.
-void makeItemsTall(QAbstractItemView* view);
-
 /// Turning the wheel over \a control scrolls what it stands on instead of changing its value.
 void leaveWheelToScrollArea(QWidget* control);
 
-/// Gives \a box and its items touch size and lets it shrink to any width.
+/// Lets \a box shrink to any width, and leaves the wheel to what it stands on.
 void adapt(QComboBox* box);
 QComboBox* makeComboBox();
 
-/// A check box that can be hit all over.
-QCheckBox* makeCheckBox(const QString& text = QString());
+/// A switch in the colours of the application's palette, whatever it becomes.
+Switch* makeSwitch(const QString& text = QString());
 
-/// A horizontal slider that goes where it is pressed.
+/// Gives the label of \a control the colour of the application's texts, whatever it becomes.
+void followPalette(Switch* control);
+
 QSlider* makeSlider();
 
-/// A button as wide as it may be that is checked to unfold something below it, with an arrow that
-/// tells so.
+/// A label of plain text in one line, which is elided where there is no room for all of it.
+QLabel* makeElidedLabel(const QString& text = QString());
+
+/// A button as wide as it may be that is checked to unfold something below it; an arrow tells so.
 QToolButton* makeFoldButton(const QString& text = QString());
+
+/// A field whose keypad is titled \a title.
+ui::KeypadLineEdit* makeField(ui::keyboard::KeyboardType type, const QString& title);
+
+/// Prepares \a field for an area that is dragged: it comes into view before its keypad opens, which
+/// ends the drag that the press on the field has begun.
+void prepareForScrolling(ui::KeypadLineEdit* field);
 
 } // namespace touch

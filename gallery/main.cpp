@@ -5,11 +5,13 @@
 #include "reference/ClassPictures.h"
 #include "reference/StateGalleries.h"
 #include "Screenshots.h"
+#include "TouchStyle.h"
 #include "Translations.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLocale>
+#include <QScreen>
 #include <QTextStream>
 
 #include <algorithm>
@@ -90,7 +92,12 @@ int openWindow(const GalleryOptions& options)
     GalleryWindow window(allPages(options.directories), options.styleSheet);
     if (!options.page.isEmpty())
         window.showPage(options.page);
-    window.show();
+    // On a small screen a window's frame would take from the little that there is.
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    if (screen.width() <= window.width() || screen.height() <= window.height())
+        window.showMaximized();
+    else
+        window.show();
     return QApplication::exec();
 }
 
@@ -119,6 +126,7 @@ int main(int argc, char* argv[])
         return listPages();
     if (!options.classPictures.isEmpty())
         return renderClasses(options.classPictures);
+    TouchStyle::install();
     if (!options.screenshots.isEmpty())
         return renderPages(options, options.screenshots);
     if (canOpenWindow)

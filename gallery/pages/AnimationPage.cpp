@@ -40,13 +40,14 @@ private:
     QLayout* makePulse();
     QLayout* makeSweep();
     static QPushButton* makeSwitch(QVariantAnimation* animation);
-    static QLabel* makeDirection(QVariantAnimation* animation);
+    static QLabel* makeState(QVariantAnimation* animation);
+    static QString stateText(const QVariantAnimation& animation);
 };
 
 AnimationPage::AnimationPage(QWidget* parent)
     : GalleryPage(parent)
 {
-    auto* hint = new QLabel(tr("Each animation runs to its end, turns round and runs back."));
+    auto* hint = new QLabel(tr("Each animation runs to its end and back again."));
     hint->setWordWrap(true);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
@@ -64,12 +65,13 @@ QLayout* AnimationPage::makePulse()
     QPropertyAnimation* pulse = makeAnimation(beacon, "brightness", pulseDuration);
     pulse->setStartValue(1.0);
     pulse->setEndValue(0.0);
+    addSource(pulse, tr("Pulse"));
     pulse->start();
 
     auto* controls = new QVBoxLayout;
     controls->setSpacing(spacing);
     controls->addStretch();
-    controls->addWidget(makeDirection(pulse));
+    controls->addWidget(makeState(pulse));
     controls->addWidget(makeSwitch(pulse));
     controls->addStretch();
 
@@ -89,12 +91,13 @@ QLayout* AnimationPage::makeSweep()
     QPropertyAnimation* sweep = makeAnimation(bar, "value", sweepDuration);
     sweep->setStartValue(bar->minimum());
     sweep->setEndValue(bar->maximum());
+    addSource(sweep, tr("Sweep"));
     sweep->start();
 
     auto* column = new QVBoxLayout;
     column->setSpacing(spacing);
     column->addWidget(bar);
-    column->addWidget(makeDirection(sweep));
+    column->addWidget(makeState(sweep));
     column->addWidget(makeSwitch(sweep));
     return column;
 }
@@ -102,7 +105,7 @@ QLayout* AnimationPage::makeSweep()
 QPushButton* AnimationPage::makeSwitch(QVariantAnimation* animation)
 {
     auto* button = new QPushButton(tr("Stop"));
-    button->setMinimumHeight(touch::touchSize);
+    button->setMinimumHeight(touch::targetSize);
     connect(button, &QPushButton::clicked, animation, [animation] {
         if (animation->state() == QAbstractAnimation::Running)
             animation->stop();
@@ -116,15 +119,23 @@ QPushButton* AnimationPage::makeSwitch(QVariantAnimation* animation)
     return button;
 }
 
-QLabel* AnimationPage::makeDirection(QVariantAnimation* animation)
+QLabel* AnimationPage::makeState(QVariantAnimation* animation)
 {
-    auto* label = new QLabel(tr("Running forwards"));
-    connect(animation, &QAbstractAnimation::directionChanged, label,
-            [label](QAbstractAnimation::Direction direction) {
-                label->setText(direction == QAbstractAnimation::Forward ? tr("Running forwards")
-                                                                        : tr("Running backwards"));
-            });
+    auto* label = new QLabel;
+    label->setObjectName(QStringLiteral("state"));
+    const auto showState = [animation, label] { label->setText(stateText(*animation)); };
+    connect(animation, &QAbstractAnimation::stateChanged, label, showState);
+    connect(animation, &QAbstractAnimation::directionChanged, label, showState);
+    showState();
     return label;
+}
+
+QString AnimationPage::stateText(const QVariantAnimation& animation)
+{
+    if (animation.state() != QAbstractAnimation::Running)
+        return tr("Stopped");
+    return animation.direction() == QAbstractAnimation::Forward ? tr("Running forwards")
+                                                                : tr("Running backwards");
 }
 
 } // namespace

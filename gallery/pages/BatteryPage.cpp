@@ -1,11 +1,13 @@
 #include "GalleryPage.h"
 #include "Pages.h"
+#include "properties/HiddenValues.h"
 #include "SystemBattery.h"
+#include "Touch.h"
 
+#include <Switch.h>
 #include <ui/CBatteryStatusWidget.h>
 
 #include <QBasicTimer>
-#include <QCheckBox>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QSlider>
@@ -81,7 +83,7 @@ CBatteryStatusWidget* BatteryPage::addBattery(QBoxLayout* row, const QString& na
 {
     auto* battery = new CBatteryStatusWidget(this);
     battery->setFixedSize(usualSize);
-    battery->setChargePercentage(percent);
+    hiddenvalues::set(battery, "chargePercentage", percent);
     addDemoWidget(battery, name);
 
     auto* cell = new QVBoxLayout;
@@ -97,18 +99,19 @@ void BatteryPage::fillCharges(QBoxLayout* row)
 {
     for (const int percent : {0, 10, 50, 80, 100})
         addBattery(row, tr("%1 %").arg(percent), percent);
-    addBattery(row, tr("Absent"), usualPercent)->setBatteryPresent(false);
+    hiddenvalues::set(addBattery(row, tr("Absent"), usualPercent), "batteryPresent", false);
     m_systemWidget = addBattery(row, tr("This device"), 0);
-    m_systemWidget->setBatteryPresent(false);
+    hiddenvalues::set(m_systemWidget, "batteryPresent", false);
 }
 
 void BatteryPage::fillLooks(QBoxLayout* row)
 {
-    addBattery(row, tr("Charging"), usualPercent)->setBatteryCharging(true);
-    addBattery(row, tr("Green"), usualPercent)->setFillColor(QColor(0, 140, 60));
-    addBattery(row, tr("Red"), 15)->setFillColor(QColor(200, 0, 0));
+    hiddenvalues::set(addBattery(row, tr("Charging"), usualPercent), "batteryCharging", true);
+    hiddenvalues::set(addBattery(row, tr("Green"), usualPercent), "fillColor", QColor(0, 140, 60));
+    hiddenvalues::set(addBattery(row, tr("Red"), 15), "fillColor", QColor(200, 0, 0));
     for (const int frameWidth : {1, 2, 6})
-        addBattery(row, tr("Frame %1").arg(frameWidth), usualPercent)->setFrameWidth(frameWidth);
+        hiddenvalues::set(addBattery(row, tr("Frame %1").arg(frameWidth), usualPercent),
+                          "frameWidth", frameWidth);
 }
 
 void BatteryPage::fillSizes(QBoxLayout* row)
@@ -123,7 +126,7 @@ void BatteryPage::fillSizes(QBoxLayout* row)
 QWidget* BatteryPage::makeColumn()
 {
     auto* battery = new CBatteryStatusWidget;
-    battery->setChargePercentage(usualPercent);
+    hiddenvalues::set(battery, "chargePercentage", usualPercent);
     const QString name = tr("Height for width");
     addDemoWidget(battery, name);
 
@@ -143,17 +146,20 @@ QWidget* BatteryPage::makeColumn()
 
 QWidget* BatteryPage::makeControls(CBatteryStatusWidget* battery)
 {
-    auto* charge = new QSlider(Qt::Horizontal);
+    QSlider* charge = touch::makeSlider();
     charge->setRange(0, 100);
     charge->setValue(usualPercent);
-    connect(charge, &QSlider::valueChanged, battery, &CBatteryStatusWidget::setChargePercentage);
+    connect(charge, &QSlider::valueChanged, battery,
+            [battery](int percent) { hiddenvalues::set(battery, "chargePercentage", percent); });
 
-    auto* present = new QCheckBox(tr("Present"));
+    Switch* present = touch::makeSwitch(tr("Present"));
     present->setChecked(true);
-    connect(present, &QCheckBox::toggled, battery, &CBatteryStatusWidget::setBatteryPresent);
+    connect(present, &Switch::toggled, battery,
+            [battery](bool on) { hiddenvalues::set(battery, "batteryPresent", on); });
 
-    auto* charging = new QCheckBox(tr("Charging"));
-    connect(charging, &QCheckBox::toggled, battery, &CBatteryStatusWidget::setBatteryCharging);
+    Switch* charging = touch::makeSwitch(tr("Charging"));
+    connect(charging, &Switch::toggled, battery,
+            [battery](bool on) { hiddenvalues::set(battery, "batteryCharging", on); });
 
     auto* controls = new QWidget(this);
     auto* layout = new QVBoxLayout(controls);
@@ -188,9 +194,9 @@ void BatteryPage::timerEvent(QTimerEvent* event)
 void BatteryPage::readSystemBattery()
 {
     const BatteryReading reading = m_systemBattery.read();
-    m_systemWidget->setBatteryPresent(reading.present);
-    m_systemWidget->setBatteryCharging(reading.charging);
-    m_systemWidget->setChargePercentage(reading.percent);
+    hiddenvalues::set(m_systemWidget, "batteryPresent", reading.present);
+    hiddenvalues::set(m_systemWidget, "batteryCharging", reading.charging);
+    hiddenvalues::set(m_systemWidget, "chargePercentage", reading.percent);
 }
 
 } // namespace

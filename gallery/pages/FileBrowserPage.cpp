@@ -1,5 +1,6 @@
 #include "GalleryPage.h"
 #include "Pages.h"
+#include "properties/HiddenValues.h"
 #include "Touch.h"
 
 #include <ui/FileBrowserWidget.h>
@@ -61,11 +62,9 @@ private:
 FileBrowserPage::FileBrowserPage(QWidget* parent, const QStringList& directories)
     : GalleryPage(parent)
     , m_browser(new FileBrowserWidget)
-    , m_selection(new QLabel)
+    , m_selection(touch::makeElidedLabel())
 {
     m_selection->setObjectName(QStringLiteral("selection"));
-    m_selection->setTextFormat(Qt::PlainText); // file names are not markup
-    m_selection->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 
     auto* choices = new QHBoxLayout;
     choices->addWidget(makeFilters());
@@ -80,7 +79,13 @@ FileBrowserPage::FileBrowserPage(QWidget* parent, const QStringList& directories
     const auto* view = m_browser->findChild<QListView*>(QString(), Qt::FindDirectChildrenOnly);
     connect(qobject_cast<QFileSystemModel*>(view->model()), &QFileSystemModel::directoryLoaded,
             this, [this] { m_isReady = true; });
-    m_browser->setAllowedDirs(directories.isEmpty() ? rootsByDefault() : directories);
+    hiddenvalues::set(m_browser, "allowedDirs",
+                      directories.isEmpty() ? rootsByDefault() : directories);
+    // Its views are to be dragged like everything else here.
+    const QList<QAbstractItemView*> views =
+        m_browser->findChildren<QAbstractItemView*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAbstractItemView* scrolled : views)
+        touch::makeScrollable(scrolled);
     showSelection();
     addDemoWidget(m_browser, tr("File browser"));
 }
@@ -98,7 +103,7 @@ QComboBox* FileBrowserPage::makeFilters()
     filters->addItem(tr("Texts"), QStringList{"*.txt", "*.md", "*.csv"});
     filters->addItem(tr("Pictures"), QStringList{"*.png", "*.jpg", "*.svg"});
     connect(filters, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            [this, filters] { m_browser->setFilters(filters->currentData().toStringList()); });
+            [this, filters] { hiddenvalues::set(m_browser, "filters", filters->currentData()); });
     return filters;
 }
 
@@ -110,9 +115,8 @@ QComboBox* FileBrowserPage::makeModes()
     modes->addItem(tr("Select one"), FileBrowserWidget::SingleSelection);
     modes->addItem(tr("Select several"), FileBrowserWidget::MultiSelection);
     modes->setCurrentIndex(modes->findData(m_browser->selectionMode()));
-    connect(modes, qOverload<int>(&QComboBox::currentIndexChanged), this, [this, modes] {
-        m_browser->setSelectionMode(FileBrowserWidget::SelectionMode(modes->currentData().toInt()));
-    });
+    connect(modes, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            [this, modes] { hiddenvalues::set(m_browser, "selectionMode", modes->currentData()); });
     return modes;
 }
 

@@ -1,6 +1,7 @@
 #include "GalleryPage.h"
 #include "Pages.h"
 #include "Picture.h"
+#include "properties/HiddenValues.h"
 
 #include <ui/CRoundedFrame.h>
 
@@ -56,7 +57,7 @@ FramesPage::FramesPage(QWidget* parent)
     sunken->setLineWidth(shadedLineWidth);
     ui::CRoundedFrame* filled = makeFrame(tr("Filled"));
     filled->setBackgroundRole(QPalette::Base);
-    filled->enableFillContents(true);
+    hiddenvalues::set(filled, "fillContents", true);
 
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(margin, margin, margin, margin);
@@ -87,8 +88,8 @@ QWidget* FramesPage::makeMaskedFrame()
     card->setFixedSize(cardSize);
     card->setRadius(28);
     card->setFrameShape(ui::CRoundedFrame::NoFrame);
-    card->enableFillContents(true);
-    card->enableWidgetMask(true);
+    hiddenvalues::set(card, "fillContents", true);
+    hiddenvalues::set(card, "widgetMask", true);
     makeRibbon(tr("Masked"), card);
     auto* text = new QLabel(tr("The corners are cut off, and what lies in them."));
     text->setAlignment(Qt::AlignCenter);

@@ -1,21 +1,69 @@
+#include "Beacon.h"
+#include "ColouredSwitch.h"
 #include "GalleryPage.h"
+#include "Glow.h"
+#include "Lamp.h"
 #include "Pages.h"
+#include "Picture.h"
+#include "properties/HiddenValues.h"
+#include "Touch.h"
+
+#include <BreadCrumbsWidget.h>
+#include <ClickableLabel.h>
+#include <Switch.h>
+#include <ui/CAnimationFwdRevLoop.h>
+#include <ui/CBatteryStatusWidget.h>
+#include <ui/CGridArrangedButton.h>
+#include <ui/CRoundedFrame.h>
+#include <ui/FileSystemModel.h>
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+#include <ui/ScrollIndicatorBar.h>
 
 #include <QBoxLayout>
 #include <QCoreApplication>
+#include <QGridLayout>
 #include <QGuiApplication>
-#include <QIcon>
+#include <QIntValidator>
 #include <QLabel>
-
-// The macro declares a function, which must be done outside of every namespace.
-static void registerIcons()
-{
-    Q_INIT_RESOURCE(widgets);
-}
+#include <QListView>
+#include <QPropertyAnimation>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
 
 namespace {
 
-constexpr int iconExtent = 48;
+constexpr int margin = 12;
+constexpr int spacing = 8;
+constexpr int columns = 3;
+constexpr int demoHeight = 64;
+constexpr QSize lightSize(56, 56);
+constexpr int textPixelSize = 18;
+constexpr int linkPixelSize = 12; // so that the longest name has room
+constexpr int pulseDuration = 800;
+constexpr int pulsingTime = 4800; // milliseconds; then the page is at rest
+
+/// Every widget at a glance, each on a card with a button that leads to its page.
+class OverviewPage : public GalleryPage
+{
+    Q_DECLARE_TR_FUNCTIONS(OverviewPage)
+
+public:
+    explicit OverviewPage(QWidget* parent);
+
+private:
+    void addCard(const QString& name, const QString& page, QWidget* demo);
+    void addContainers();
+    void addControls();
+    void addFields();
+    void addIndicators();
+    void addFiles();
+
+    QGridLayout* m_grid;
+    int m_cards = 0;
+};
 
 QLabel* makeHeading(const QString& text)
 {
@@ -34,64 +82,259 @@ QLabel* makeParagraph(const QString& text)
     return label;
 }
 
-QLayout* makeIcon(const QString& fileName)
+/// Lights up when it is tapped.
+class TappedGlow : public Glow
 {
-    auto* picture = new QLabel;
-    picture->setPixmap(QIcon(QStringLiteral(":/icons/") + fileName).pixmap(iconExtent));
-    picture->setAlignment(Qt::AlignCenter);
-    picture->setMinimumSize(iconExtent, iconExtent);
-    auto* name = new QLabel(fileName);
-    name->setAlignment(Qt::AlignCenter);
+protected:
+    void mousePressEvent(QMouseEvent*) override
+    {
+        lightUp();
+    }
+};
 
-    auto* column = new QVBoxLayout;
-    column->addWidget(picture);
-    column->addWidget(name);
-    return column;
-}
-
-/// What the library is, its version and Qt's, and the icons that it carries.
-class OverviewPage : public GalleryPage
+/// Pulses for a while, and again when it is tapped.
+class PulsingBeacon : public Beacon
 {
-    Q_DECLARE_TR_FUNCTIONS(OverviewPage)
-
 public:
-    explicit OverviewPage(QWidget* parent = nullptr);
+    PulsingBeacon()
+        : m_pulse(this, "brightness")
+    {
+        m_pulse.setStartValue(1.0);
+        m_pulse.setEndValue(0.2);
+        m_pulse.setDuration(pulseDuration);
+        new ui::CAnimationFwdRevLoop(&m_pulse);
+        pulse();
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent*) override
+    {
+        pulse();
+    }
 
 private:
-    static QLayout* makeIcons();
+    void pulse()
+    {
+        m_pulse.start();
+        QTimer::singleShot(pulsingTime, &m_pulse, &QAbstractAnimation::stop);
+    }
+
+    QPropertyAnimation m_pulse;
 };
+
+QWidget* makeFrame()
+{
+    auto* frame = new ui::CRoundedFrame;
+    frame->setFrameShadow(QFrame::Raised);
+    frame->setLineWidth(3);
+    frame->setMinimumSize(110, 48);
+    return frame;
+}
+
+QWidget* makeGridButton()
+{
+    auto* button = new ui::CGridArrangedButton;
+    button->setMinimumSize(130, 52);
+    auto* title = new QLabel(QCoreApplication::translate("OverviewPage", "USB stick"));
+    auto* room = new QLabel(QCoreApplication::translate("OverviewPage", "12.4 GB free"));
+    for (QLabel* label : {title, room}) {
+        label->setForegroundRole(QPalette::ButtonText);
+        button->addWidget(label, label == title ? 0 : 1, 0, Qt::AlignCenter);
+    }
+    return button;
+}
+
+QWidget* makeSwitchDemo()
+{
+    Switch* control = makeColouredSwitch(QCoreApplication::translate("OverviewPage", "Wi-Fi"),
+                                         QColor(33, 150, 243), true);
+    touch::followPalette(control);
+    return control;
+}
+
+QWidget* makeLamp()
+{
+    auto* lamp = new Lamp;
+    lamp->setChecked(true);
+    return lamp;
+}
+
+QWidget* makeGlow()
+{
+    auto* glow = new TappedGlow;
+    glow->setFixedSize(lightSize);
+    glow->lightUp();
+    return glow;
+}
+
+QWidget* makeBattery()
+{
+    auto* battery = new ui::CBatteryStatusWidget;
+    battery->setFixedSize(32, 58);
+    battery->setChargePercentage(70);
+    return battery;
+}
+
+QWidget* makeIndicator()
+{
+    auto* picture = new Picture;
+    picture->setFixedSize(400, demoHeight - 14);
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(picture);
+    area->setFixedSize(150, demoHeight - 6);
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    touch::makeScrollable(area);
+    return area;
+}
+
+QWidget* makePath()
+{
+    auto* bar = new BreadCrumbsWidget;
+    bar->setStyleSheet(QStringLiteral("QLabel { min-height: %1px; font-size: %2px; }")
+                           .arg(touch::targetSize)
+                           .arg(textPixelSize));
+    bar->setRootPath(QStringLiteral("/data"));
+    bar->changeDir(QStringLiteral("/data/music"));
+    QObject::connect(bar, &BreadCrumbsWidget::dirChanged, bar, &BreadCrumbsWidget::changeDir);
+    return bar;
+}
+
+QWidget* makeLabel()
+{
+    auto* label = new ClickableLabel;
+    label->setText(QCoreApplication::translate("OverviewPage", "A rather long name"));
+    label->setFixedSize(150, touch::targetSize);
+    QFont font = label->font();
+    font.setPixelSize(textPixelSize);
+    label->setFont(font);
+
+    // A parent that fits tightly: its place in its parent shifts what it paints.
+    auto* holder = new QWidget;
+    auto* layout = new QVBoxLayout(holder);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(label);
+    return holder;
+}
+
+/// The top of the file system, of which there is something to be seen on every device.
+QWidget* makeFiles()
+{
+    auto* view = new QListView;
+    auto* model = new ui::FileSystemModel(view);
+    view->setModel(model);
+    view->setRootIndex(model->setRootPath(QStringLiteral("/")));
+    view->setFixedSize(160, demoHeight);
+    touch::makeScrollable(view);
+    return view;
+}
 
 OverviewPage::OverviewPage(QWidget* parent)
     : GalleryPage(parent)
+    , m_grid(new QGridLayout)
 {
-    registerIcons();
+    m_grid->setSpacing(spacing);
+    addContainers();
+    addControls();
+    addFields();
+    addIndicators();
+    addFiles();
+    for (int column = 0; column < columns; ++column)
+        m_grid->setColumnStretch(column, 1);
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 24, 24, 24);
-    column->setSpacing(16);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
     column->addWidget(makeHeading(QStringLiteral("platform_widgets " GALLERY_VERSION)));
-    column->addWidget(makeParagraph(tr(
-        "Fifteen Qt widgets for touch-screen applications: frames and layout containers, status "
-        "indicators, text entry with an on-screen keypad, animated switches and a file browser.")));
     column->addWidget(makeParagraph(
-        tr("Choose a page. Tap a widget of the page to edit its properties, and use the switches "
-           "above to see it in a dark palette, mirrored, disabled or with a style sheet.")));
-    column->addWidget(makeParagraph(tr("Icons of the library:")));
-    column->addLayout(makeIcons());
+        tr("Every widget of the library, alive. A button below a widget opens its page.")));
+    column->addLayout(m_grid);
     column->addStretch();
     column->addWidget(
         makeParagraph(tr("Qt %1, platform plugin \"%2\"")
                           .arg(QString::fromLatin1(qVersion()), QGuiApplication::platformName())));
 }
 
-QLayout* OverviewPage::makeIcons()
+void OverviewPage::addContainers()
 {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(24);
-    for (const char* fileName : {"tile_view.svg", "list_view.svg", "usb.png"})
-        row->addLayout(makeIcon(QString::fromLatin1(fileName)));
-    row->addStretch();
-    return row;
+    addCard(QStringLiteral("CRoundedFrame"), QStringLiteral("frames"), makeFrame());
+    addCard(QStringLiteral("CGridArrangedButton"), QStringLiteral("grid-button"), makeGridButton());
+}
+
+void OverviewPage::addControls()
+{
+    addCard(QStringLiteral("Switch"), QStringLiteral("switch"), makeSwitchDemo());
+    addCard(QStringLiteral("SelectionControl"), QStringLiteral("own-controls"), makeLamp());
+    addCard(QStringLiteral("Animator"), QStringLiteral("own-controls"), makeGlow());
+    auto* beacon = new PulsingBeacon;
+    beacon->setFixedSize(lightSize);
+    addCard(QStringLiteral("CAnimationFwdRevLoop"), QStringLiteral("animation"), beacon);
+}
+
+void OverviewPage::addFields()
+{
+    using ui::keyboard::KeyboardType;
+    const QString page = QStringLiteral("text-entry");
+    auto* plain = new ui::LineEdit;
+    plain->setMinimumHeight(touch::targetSize);
+    plain->setText(tr("Kitchen"));
+    addCard(QStringLiteral("LineEdit"), page, plain);
+    ui::KeypadLineEdit* port = touch::makeField(KeyboardType::Integer, tr("Port"));
+    port->setValidator(new QIntValidator(1, 65535, port));
+    port->setText(QStringLiteral("8080"));
+    addCard(QStringLiteral("KeypadLineEdit"), page, port);
+
+    auto* open = new QPushButton(tr("Open a keypad"));
+    connect(open, &QPushButton::clicked, port, [port] { port->setFocus(); });
+    addCard(QStringLiteral("KeypadPopup"), page, open);
+}
+
+void OverviewPage::addIndicators()
+{
+    addCard(QStringLiteral("CBatteryStatusWidget"), QStringLiteral("battery"), makeBattery());
+    addCard(QStringLiteral("ScrollIndicatorBar"), QStringLiteral("scroll-indicator"),
+            makeIndicator());
+}
+
+void OverviewPage::addFiles()
+{
+    addCard(QStringLiteral("BreadCrumbsWidget"), QStringLiteral("path"), makePath());
+    addCard(QStringLiteral("ClickableLabel"), QStringLiteral("path"), makeLabel());
+    addCard(QStringLiteral("FileSystemModel"), QStringLiteral("file-browser"), makeFiles());
+    auto* open = new QPushButton(tr("Open"));
+    connect(open, &QPushButton::clicked, this,
+            [this] { Q_EMIT pageRequested(QStringLiteral("file-browser")); });
+    addCard(QStringLiteral("FileBrowserWidget"), QStringLiteral("file-browser"), open);
+}
+
+void OverviewPage::addCard(const QString& name, const QString& page, QWidget* demo)
+{
+    auto* link = new QPushButton(name);
+    link->setObjectName(QStringLiteral("pageLink"));
+    link->setFlat(true);
+    QFont font = link->font();
+    font.setPixelSize(linkPixelSize);
+    link->setFont(font);
+    link->setMinimumHeight(touch::targetSize);
+    link->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    connect(link, &QPushButton::clicked, this, [this, page] { Q_EMIT pageRequested(page); });
+
+    auto* card = new ui::CRoundedFrame;
+    card->setFrameShape(ui::CRoundedFrame::NoFrame);
+    card->setBackgroundRole(QPalette::AlternateBase);
+    card->enableFillContents(true);
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(spacing, spacing, spacing, 0);
+    column->setSpacing(0);
+    auto* stage = new QWidget;
+    stage->setMinimumHeight(demoHeight);
+    auto* row = new QHBoxLayout(stage);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(demo, 0, Qt::AlignCenter);
+    column->addWidget(stage, 1);
+    column->addWidget(link);
+    m_grid->addWidget(card, m_cards / columns, m_cards % columns);
+    ++m_cards;
 }
 
 } // namespace

@@ -18,6 +18,7 @@ struct PageEntry
     QString id; ///< File name stem of its screenshots.
     QString title; ///< Name in the list of pages.
     std::function<GalleryPage*(QWidget* parent)> create;
+    QStringList classes; ///< Those of the library that it shows, with their namespaces.
 };
 
 /**
@@ -27,7 +28,7 @@ struct PageEntry
  */
 QVector<PageEntry> allPages(const QStringList& directories = {});
 
-/// What the library is, its version and Qt's, and the icons that it carries.
+/// Every widget at a glance, each of which leads to its page, and the versions of library and Qt.
 GalleryPage* makeOverviewPage(QWidget* parent);
 
 /// ui::CRoundedFrame plain, raised, sunken and filled, and masked over a picture.
@@ -39,12 +40,19 @@ GalleryPage* makeGridButtonPage(QWidget* parent);
 /// Switch in all its states, in colours and times of the application's choice, and in a group.
 GalleryPage* makeSwitchPage(QWidget* parent);
 
-/// A form of ui::KeypadLineEdit; those at the bottom show where a keypad goes for want of room.
+/// A form of ui::KeypadLineEdit and one plain ui::LineEdit; those at the bottom show where a keypad
+/// goes for want of room.
 GalleryPage* makeTextEntryPage(QWidget* parent);
 
 /// ui::CBatteryStatusWidget in its states, frames and sizes, one to play with, and one that shows
 /// \a systemBattery while the page is visible.
 GalleryPage* makeBatteryPage(QWidget* parent, const SystemBattery& systemBattery = SystemBattery());
+
+/// BreadCrumbsWidget, and ClickableLabel by itself.
+GalleryPage* makePathPage(QWidget* parent);
+
+/// Controls of an application's own: one derived from SelectionControl, one moved by an Animator.
+GalleryPage* makeOwnControlsPage(QWidget* parent);
 
 /// ui::widgets::ScrollIndicatorBar on areas that are dragged by touch, highlighted while they move.
 GalleryPage* makeScrollIndicatorPage(QWidget* parent);

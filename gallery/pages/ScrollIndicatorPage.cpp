@@ -9,7 +9,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QScrollArea>
-#include <QScroller>
+#include <QScrollBar>
 
 using ui::widgets::ScrollIndicatorBar;
 
@@ -29,7 +29,7 @@ QWidget* makeRows()
     for (int number = 1; number <= listLength; ++number) {
         auto* row =
             new QLabel(QCoreApplication::translate("ScrollIndicatorPage", "Track %1").arg(number));
-        row->setMinimumHeight(touch::touchSize);
+        row->setMinimumHeight(touch::targetSize);
         column->addWidget(row);
     }
     return rows;
@@ -93,19 +93,10 @@ QScrollArea* ScrollIndicatorPage::makePanorama()
 void ScrollIndicatorPage::addIndicator(QScrollArea* area, Qt::Orientation orientation,
                                        const QString& name)
 {
-    auto* indicator = new ScrollIndicatorBar(orientation);
-    if (orientation == Qt::Vertical)
-        area->setVerticalScrollBar(indicator);
-    else
-        area->setHorizontalScrollBar(indicator);
-    addDemoWidget(indicator, name);
-
     touch::makeScrollable(area);
-    connect(QScroller::scroller(area->viewport()), &QScroller::stateChanged, indicator,
-            [indicator](QScroller::State state) {
-                indicator->setHighlightBar(state == QScroller::Dragging
-                                           || state == QScroller::Scrolling);
-            });
+    addDemoWidget(orientation == Qt::Vertical ? area->verticalScrollBar()
+                                              : area->horizontalScrollBar(),
+                  name);
 }
 
 } // namespace

@@ -1,13 +1,13 @@
 #include "ColouredSwitch.h"
 #include "GalleryPage.h"
 #include "Pages.h"
+#include "Touch.h"
 
 #include <Switch.h>
 
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -34,16 +34,12 @@ class SwitchPage : public GalleryPage
 public:
     explicit SwitchPage(QWidget* parent = nullptr);
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     Switch* addSwitch(Switch* control, const QString& name);
     QLayout* makePlain();
     QLayout* makeLabelled();
     QLayout* makeCustom();
     QLayout* makeGroup();
-    void followPalette();
 };
 
 SwitchPage::SwitchPage(QWidget* parent)
@@ -60,11 +56,11 @@ SwitchPage::SwitchPage(QWidget* parent)
     column->addWidget(makeCaption(tr("One of three")));
     column->addLayout(makeGroup());
     column->addStretch();
-    followPalette();
 }
 
 Switch* SwitchPage::addSwitch(Switch* control, const QString& name)
 {
+    touch::followPalette(control);
     addDemoWidget(control, name);
     return control;
 }
@@ -145,24 +141,6 @@ QLayout* SwitchPage::makeGroup()
     }
     group->buttons().constFirst()->setChecked(true);
     return row;
-}
-
-// A switch keeps its labels black unless the application says otherwise.
-void SwitchPage::followPalette()
-{
-    const QList<Switch*> controls = findChildren<Switch*>();
-    for (Switch* control : controls) {
-        QPalette labels = control->palette();
-        labels.setBrush(QPalette::ButtonText, palette().windowText());
-        control->setPalette(labels);
-    }
-}
-
-void SwitchPage::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::PaletteChange)
-        followPalette();
-    GalleryPage::changeEvent(event);
 }
 
 } // namespace

@@ -33,12 +33,12 @@ constexpr int letters = 0;
 constexpr int digits = 1;
 constexpr int symbols = 2;
 
-QValidator* patternValidator(const QString& pattern)
+QRegularExpressionValidator* patternValidator(const QString& pattern)
 {
     return new QRegularExpressionValidator(QRegularExpression(pattern));
 }
 
-QLabel* makeLabel(KeypadLineEdit* field)
+QLabel* makeLabel(ui::LineEdit* field)
 {
     auto* label = new QLabel(field->accessibleName());
     label->setWordWrap(true);
@@ -65,7 +65,9 @@ private:
     /// A field whose keypad is titled \a title; takes \a validator.
     ui::KeypadLineEdit* makeField(const QString& title, ui::keyboard::KeyboardType type,
                                   QValidator* validator);
-    static void addRow(QGridLayout* form, ui::KeypadLineEdit* field);
+    static void addRow(QGridLayout* form, ui::LineEdit* field);
+    ui::LineEdit* makePlain();
+    void present(ui::LineEdit* field, const QString& title);
     static void addPair(QBoxLayout* row, ui::KeypadLineEdit* field);
 
     QLabel* m_report;
@@ -83,6 +85,7 @@ TextEntryPage::TextEntryPage(QWidget* parent)
     addRow(form, makeTemperature());
     addRow(form, makeName());
     addRow(form, makePin());
+    addRow(form, makePlain());
 
     // In the lower corners of the screen, so that the keypads go above and to the left.
     auto* corners = new QHBoxLayout;
@@ -153,22 +156,38 @@ KeypadLineEdit* TextEntryPage::makeNumber(const QString& title, int number, int 
 KeypadLineEdit* TextEntryPage::makeField(const QString& title, KeyboardType type,
                                          QValidator* validator)
 {
-    auto* field = new KeypadLineEdit(this, type);
+    KeypadLineEdit* field = touch::makeField(type, title);
     validator->setParent(field);
     field->setValidator(validator);
-    field->setMinimumHeight(touch::touchSize);
-    field->setTextMargins(textMargin, 0, textMargin, 0);
+    present(field, title);
+    return field;
+}
+
+/// Without a keypad: for a device that has a keyboard.
+ui::LineEdit* TextEntryPage::makePlain()
+{
+    const QString title = tr("Plain field, 3 to 8 small letters");
+    auto* field = new ui::LineEdit;
     field->setAccessibleName(title);
-    connect(field, &KeypadLineEdit::startKeypad, this,
-            [field, title] { field->keypad()->setSubtitleLabel(title); });
+    field->setMinimumHeight(touch::targetSize);
+    field->setTextMargins(textMargin, 0, textMargin, 0);
+    QValidator* validator = patternValidator(QStringLiteral("[a-z]{3,8}"));
+    validator->setParent(field);
+    field->setValidator(validator);
+    field->setText(QStringLiteral("kitchen"));
+    present(field, title);
+    return field;
+}
+
+void TextEntryPage::present(ui::LineEdit* field, const QString& title)
+{
     connect(field, &ui::LineEdit::valueChanged, this, [this, field, title] {
         m_report->setText(tr("%1: %2").arg(title, field->displayText()));
     });
     addDemoWidget(field, title);
-    return field;
 }
 
-void TextEntryPage::addRow(QGridLayout* form, KeypadLineEdit* field)
+void TextEntryPage::addRow(QGridLayout* form, ui::LineEdit* field)
 {
     const int row = form->rowCount();
     form->addWidget(makeLabel(field), row, 0);

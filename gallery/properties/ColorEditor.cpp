@@ -2,10 +2,11 @@
 
 #include "Touch.h"
 
+#include <ui/KeypadLineEdit.h>
+
 #include <QBoxLayout>
 #include <QColor>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -59,8 +60,7 @@ QString ColorEditor::summary(const QVariant& value) const
 QWidget* ColorEditor::makeBody()
 {
     auto* form = new PartsForm;
-    m_name = new QLineEdit;
-    m_name->setMinimumHeight(touch::touchSize);
+    m_name = touch::makeField(ui::keyboard::KeyboardType::Text, tr("Name, or # and digits"));
     connect(m_name, &QLineEdit::textEdited, this, &ColorEditor::enterName);
     form->addPart(m_name);
 

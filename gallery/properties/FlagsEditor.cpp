@@ -2,8 +2,9 @@
 
 #include "Touch.h"
 
+#include <Switch.h>
+
 #include <QBoxLayout>
-#include <QCheckBox>
 #include <QtAlgorithms>
 
 #include <algorithm>
@@ -38,9 +39,9 @@ QWidget* FlagsEditor::makeBody()
     column->setSpacing(0);
     for (Flag& flag : m_flags) {
         const uint bit = flag.bit;
-        flag.box = touch::makeCheckBox(flag.key);
-        column->addWidget(flag.box);
-        connect(flag.box, &QCheckBox::clicked, this, [this, bit](bool on) {
+        flag.control = touch::makeSwitch(flag.key);
+        column->addWidget(flag.control);
+        connect(flag.control, &QAbstractButton::clicked, this, [this, bit](bool on) {
             const uint flags = value().toUInt();
             Q_EMIT edited(int(on ? flags | bit : flags & ~bit));
         });
@@ -51,5 +52,5 @@ QWidget* FlagsEditor::makeBody()
 void FlagsEditor::fillBody(const QVariant& value)
 {
     for (const Flag& flag : qAsConst(m_flags))
-        flag.box->setChecked(value.toUInt() & flag.bit);
+        flag.control->setChecked(value.toUInt() & flag.bit);
 }

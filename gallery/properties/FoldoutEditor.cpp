@@ -59,6 +59,11 @@ PartsForm::PartsForm(QWidget* parent)
     m_layout->setHorizontalSpacing(8);
 }
 
+void PartsForm::addHeading(const QString& text)
+{
+    m_layout->addRow(new QLabel(text));
+}
+
 void PartsForm::addPart(QWidget* editor)
 {
     m_layout->addRow(editor);
@@ -67,6 +72,6 @@ void PartsForm::addPart(QWidget* editor)
 void PartsForm::addPart(const QString& name, QWidget* editor)
 {
     auto* label = new QLabel(name);
-    label->setMinimumHeight(touch::touchSize); // centred beside an editor of that height
+    label->setMinimumHeight(touch::targetSize); // centred beside an editor of that height
     m_layout->addRow(label, editor);
 }

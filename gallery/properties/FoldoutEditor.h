@@ -51,6 +51,7 @@ class PartsForm : public QWidget
 public:
     explicit PartsForm(QWidget* parent = nullptr);
 
+    void addHeading(const QString& text);
     void addPart(QWidget* editor);
     void addPart(const QString& name, QWidget* editor);
 

@@ -10,13 +10,15 @@
 class BoolEditor;
 class IntEditor;
 class PartsForm;
+class Switch;
+namespace ui {
+class KeypadLineEdit;
+}
 QT_BEGIN_NAMESPACE
-class QCheckBox;
 class QComboBox;
 class QFont;
 class QFontComboBox;
 class QLabel;
-class QLineEdit;
 class QSlider;
 QT_END_NAMESPACE
 
@@ -61,11 +63,11 @@ private:
     void enterChannels();
 
     QLabel* m_swatch;
-    QLineEdit* m_name;
+    ui::KeypadLineEdit* m_name;
     std::array<QSlider*, 4> m_channels;
 };
 
-/// A check box for every key of one bit; keys of several bits, such as masks, are left out.
+/// A switch for every key of one bit; keys of several bits, such as masks, are left out.
 class FlagsEditor : public FoldoutEditor
 {
     Q_OBJECT
@@ -83,7 +85,7 @@ private:
     {
         QString key;
         uint bit;
-        QCheckBox* box;
+        Switch* control;
     };
     QVector<Flag> m_flags;
 };
@@ -129,4 +131,38 @@ private:
     void enterNumber(int index, int number);
 
     QVector<IntEditor*> m_editors;
+};
+
+/// Edits the colours of a QPalette that matter most, all groups alike.
+class PaletteEditor : public FoldoutEditor
+{
+    Q_OBJECT
+
+public:
+    explicit PaletteEditor(QWidget* parent = nullptr);
+
+protected:
+    QString summary(const QVariant& value) const override;
+    QWidget* makeBody() override;
+    void fillBody(const QVariant& value) override;
+
+private:
+    QVector<ColorEditor*> m_editors;
+};
+
+/// Edits the policies and the stretch factors of a QSizePolicy.
+class SizePolicyEditor : public FoldoutEditor
+{
+    Q_OBJECT
+
+public:
+    explicit SizePolicyEditor(QWidget* parent = nullptr);
+
+protected:
+    QString summary(const QVariant& value) const override;
+    QWidget* makeBody() override;
+    void fillBody(const QVariant& value) override;
+
+private:
+    QVector<ValueEditor*> m_editors;
 };

@@ -1,28 +1,29 @@
 #include "PropertyEditor.h"
 
+#include "ObjectWatcher.h"
 #include "PropertyGroup.h"
 #include "PropertyList.h"
 #include "Touch.h"
 
+#include <ui/KeypadLineEdit.h>
+
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QScrollArea>
-#include <QTimerEvent>
-
-namespace {
-
-/// Milliseconds between two looks at the properties: fresh enough to follow, too rare to cost.
-constexpr int refreshInterval = 400;
-
-} // namespace
 
 PropertyEditor::PropertyEditor(QWidget* parent)
     : QWidget(parent)
     , m_choice(touch::makeComboBox())
+    , m_filter(touch::makeField(ui::keyboard::KeyboardType::Text, tr("Part of a name")))
     , m_area(new QScrollArea)
     , m_groupLayout(nullptr)
     , m_dynamicGroup(nullptr)
+    , m_watcher(new ObjectWatcher(this))
 {
+    connect(m_watcher, &ObjectWatcher::changed, this, &PropertyEditor::refresh);
+    m_filter->setObjectName(QStringLiteral("filter"));
+    m_filter->setPlaceholderText(tr("Filter"));
+    connect(m_filter, &QLineEdit::textChanged, this, &PropertyEditor::applyFilter);
     m_choice->setObjectName(QStringLiteral("widgetChoice"));
     connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &PropertyEditor::showDemoWidget);
@@ -36,6 +37,7 @@ PropertyEditor::PropertyEditor(QWidget* parent)
     column->setContentsMargins(4, 0, 0, 0);
     column->setSpacing(4);
     column->addWidget(m_choice);
+    column->addWidget(m_filter);
     column->addWidget(m_area, 1);
 }
 
@@ -77,24 +79,24 @@ void PropertyEditor::refresh()
 void PropertyEditor::showEvent(QShowEvent*)
 {
     refresh();
-    m_timer.start(refreshInterval, this);
+    m_watcher->setTarget(m_target);
+    Q_EMIT targetShown(m_target);
 }
 
 void PropertyEditor::hideEvent(QHideEvent*)
 {
-    m_timer.stop();
-}
-
-void PropertyEditor::timerEvent(QTimerEvent* event)
-{
-    if (event->timerId() == m_timer.timerId())
-        refresh();
+    m_watcher->setTarget(nullptr);
+    Q_EMIT targetShown(nullptr);
 }
 
 void PropertyEditor::showDemoWidget(int index)
 {
     m_target = m_widgets.value(index);
     makeGroups();
+    if (isVisible()) {
+        m_watcher->setTarget(m_target);
+        Q_EMIT targetShown(m_target);
+    }
 }
 
 void PropertyEditor::makeGroups()
@@ -138,6 +140,8 @@ PropertyGroup* PropertyEditor::addGroup(int position, const ClassProperties& pro
 
     // The rows of the framework's classes are many, and made only when asked for.
     group->setUnfolded(m_unfolded.value(properties.className, position == 0));
+    if (!m_filter->text().isEmpty())
+        group->setFilter(m_filter->text());
     return group;
 }
 
@@ -154,4 +158,11 @@ void PropertyEditor::updateDynamicGroup()
     }
     if (!names.isEmpty())
         m_dynamicGroup = addGroup(0, {tr("Dynamic properties"), names});
+}
+
+void PropertyEditor::applyFilter()
+{
+    touch::stopScrolling(m_area);
+    for (PropertyGroup* group : qAsConst(m_groups))
+        group->setFilter(m_filter->text());
 }

@@ -2,12 +2,15 @@
 
 #include "GalleryPage.h"
 
-#include <QBasicTimer>
 #include <QHash>
 #include <QPointer>
 #include <QWidget>
 
+class ObjectWatcher;
 class PropertyGroup;
+namespace ui {
+class KeypadLineEdit;
+}
 struct ClassProperties;
 QT_BEGIN_NAMESPACE
 class QComboBox;
@@ -19,7 +22,8 @@ QT_END_NAMESPACE
  * Edits the Qt properties of one of several widgets, straight from its meta-object: a group per
  * class, a row per property.
  *
- * What a widget changes by itself is shown while the editor is visible, a few times a second.
+ * What a widget changes by itself is shown while the editor is visible. A filter leaves the rows of
+ * which it is a part of the name.
  */
 class PropertyEditor : public QWidget
 {
@@ -40,10 +44,13 @@ public:
     /// Shows the values that the properties have now.
     void refresh();
 
+Q_SIGNALS:
+    /// The properties of \a target are what is seen from now on; null if none are.
+    void targetShown(QWidget* target);
+
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
 
 private:
     void showDemoWidget(int index);
@@ -51,14 +58,16 @@ private:
     void replaceContents(QWidget* contents);
     PropertyGroup* addGroup(int position, const ClassProperties& properties);
     void updateDynamicGroup();
+    void applyFilter();
 
     QList<QPointer<QWidget>> m_widgets;
     QPointer<QWidget> m_target;
     QComboBox* m_choice;
+    ui::KeypadLineEdit* m_filter;
     QScrollArea* m_area;
     QVBoxLayout* m_groupLayout;
     QVector<PropertyGroup*> m_groups;
     PropertyGroup* m_dynamicGroup;
     QHash<QString, bool> m_unfolded; ///< By title, to leave the next widget's groups as they were.
-    QBasicTimer m_timer;
+    ObjectWatcher* m_watcher;
 };

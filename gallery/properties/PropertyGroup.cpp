@@ -6,6 +6,17 @@
 #include <QBoxLayout>
 #include <QToolButton>
 
+#include <algorithm>
+
+namespace {
+
+bool passes(const QByteArray& name, const QString& filter)
+{
+    return QString::fromLatin1(name).contains(filter, Qt::CaseInsensitive);
+}
+
+} // namespace
+
 PropertyGroup::PropertyGroup(const QString& title, QObject* target,
                              const QVector<QByteArray>& names, QWidget* parent)
     : QWidget(parent)
@@ -45,9 +56,19 @@ void PropertyGroup::setUnfolded(bool unfolded)
     m_heading->setChecked(unfolded);
 }
 
+void PropertyGroup::setFilter(const QString& text)
+{
+    m_filter = text;
+    const bool isHit =
+        std::any_of(m_names.cbegin(), m_names.cend(),
+                    [this](const QByteArray& name) { return passes(name, m_filter); });
+    setVisible(isHit);
+    showRows(isUnfolded() || !m_filter.isEmpty());
+}
+
 void PropertyGroup::refresh()
 {
-    if (!isUnfolded())
+    if (!m_body || m_body->isHidden())
         return;
     for (PropertyRow* row : qAsConst(m_rows))
         row->refresh();
@@ -55,10 +76,19 @@ void PropertyGroup::refresh()
 
 void PropertyGroup::showRows(bool visible)
 {
-    if (!m_body)
+    if (!m_body && visible)
         makeRows();
+    if (!m_body)
+        return;
+    filterRows();
     m_body->setVisible(visible);
     refresh();
+}
+
+void PropertyGroup::filterRows()
+{
+    for (PropertyRow* row : qAsConst(m_rows))
+        row->setVisible(passes(row->name(), m_filter));
 }
 
 void PropertyGroup::makeRows()

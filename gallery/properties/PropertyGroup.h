@@ -25,6 +25,10 @@ public:
     bool isUnfolded() const;
     void setUnfolded(bool unfolded);
 
+    /// Shows the rows alone whose name contains \a text, whatever its case, and no heading without
+    /// any; every row if it is empty.
+    void setFilter(const QString& text);
+
     /// Shows the values that the properties have now, unless folded away.
     void refresh();
 
@@ -35,10 +39,12 @@ Q_SIGNALS:
 private:
     void showRows(bool visible);
     void makeRows();
+    void filterRows();
 
     QPointer<QObject> m_target;
     QVector<QByteArray> m_names;
     QToolButton* m_heading;
     QWidget* m_body;
     QVector<PropertyRow*> m_rows;
+    QString m_filter;
 };

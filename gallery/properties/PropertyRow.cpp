@@ -1,20 +1,41 @@
 #include "PropertyRow.h"
 
+#include "PropertyList.h"
 #include "Touch.h"
 #include "ValueEditor.h"
 
 #include <QBoxLayout>
 #include <QLabel>
-#include <QStyle>
+#include <QToolButton>
 
 namespace {
 
-/// A style sheet that selects on a dynamic property looks at it only when it polishes the widget.
-void polishAnew(QWidget& widget)
+/// Of the dynamic property that remembers a value from before the first edit.
+QByteArray memory(const QByteArray& name)
 {
-    widget.style()->unpolish(&widget);
-    widget.style()->polish(&widget);
-    widget.update();
+    return "_q_before_" + name;
+}
+
+QVariant valueBeforeEdits(const QObject& object, const QByteArray& name)
+{
+    return object.property(memory(name).constData());
+}
+
+void rememberBeforeEdits(QObject* object, const QByteArray& name)
+{
+    if (!valueBeforeEdits(*object, name).isValid())
+        object->setProperty(memory(name).constData(), propertyValue(*object, name));
+}
+
+QToolButton* makeResetButton()
+{
+    auto* button = new QToolButton;
+    button->setObjectName(QStringLiteral("resetButton"));
+    button->setText(QChar(0x21ba));
+    button->setAccessibleName(PropertyRow::tr("Reset"));
+    button->setAutoRaise(true);
+    button->setFixedSize(touch::targetSize, touch::targetSize);
+    return button;
 }
 
 } // namespace
@@ -24,11 +45,14 @@ PropertyRow::PropertyRow(QObject* target, const QByteArray& name, QWidget* paren
     , m_target(target)
     , m_name(name)
     , m_editor(makeValueEditor(*target, name))
-    , m_shown(target->property(name.constData()))
+    , m_resetButton(makeResetButton())
+    , m_shown(propertyValue(*target, name))
 {
     layOut();
     m_editor->setValue(m_shown);
-    connect(m_editor, &ValueEditor::edited, this, &PropertyRow::write);
+    m_resetButton->setVisible(valueBeforeEdits(*target, name).isValid());
+    connect(m_editor, &ValueEditor::edited, this, &PropertyRow::edit);
+    connect(m_resetButton, &QToolButton::clicked, this, &PropertyRow::reset);
 }
 
 const QByteArray& PropertyRow::name() const
@@ -45,7 +69,7 @@ void PropertyRow::refresh()
 {
     if (!m_target)
         return;
-    const QVariant value = m_target->property(m_name.constData());
+    const QVariant value = propertyValue(*m_target, m_name);
     if (value == m_shown)
         return;
     m_shown = value;
@@ -54,27 +78,47 @@ void PropertyRow::refresh()
 
 void PropertyRow::layOut()
 {
-    auto* label = new QLabel(QString::fromLatin1(m_name));
-    auto* box = new QBoxLayout(
-        m_editor->isNarrow() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
-    box->setContentsMargins(0, 4, 0, 4);
-    box->setSpacing(2);
-    box->addWidget(label, m_editor->isNarrow() ? 1 : 0);
-    box->addWidget(m_editor);
+    auto* heading = new QHBoxLayout;
+    heading->setSpacing(2);
+    heading->addWidget(touch::makeElidedLabel(QString::fromLatin1(m_name)), 1);
+    heading->addWidget(m_resetButton);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 2, 0, 2);
+    column->setSpacing(2);
+    column->addLayout(heading);
+    if (m_editor->isNarrow())
+        heading->addWidget(m_editor);
+    else
+        column->addWidget(m_editor);
+}
+
+void PropertyRow::edit(const QVariant& value)
+{
+    if (!m_target)
+        return;
+    rememberBeforeEdits(m_target, m_name);
+    m_resetButton->show();
+    write(value);
+}
+
+void PropertyRow::reset()
+{
+    if (!m_target)
+        return;
+    const QVariant before = valueBeforeEdits(*m_target, m_name);
+    m_target->setProperty(memory(m_name).constData(), QVariant());
+    m_resetButton->hide();
+    write(before);
 }
 
 void PropertyRow::write(const QVariant& value)
 {
-    if (!m_target)
-        return;
-    const bool isStatic = m_target->setProperty(m_name.constData(), value);
-    auto* widget = qobject_cast<QWidget*>(m_target);
-    if (!isStatic && widget)
-        polishAnew(*widget);
+    setPropertyValue(m_target, m_name, value);
 
     // Also where the property has kept its value: the editor still shows what was entered.
     if (m_target)
-        m_shown = m_target->property(m_name.constData());
+        m_shown = propertyValue(*m_target, m_name);
     m_editor->setValue(m_shown);
     Q_EMIT edited();
 }

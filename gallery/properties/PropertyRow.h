@@ -5,8 +5,11 @@
 #include <QWidget>
 
 class ValueEditor;
+QT_BEGIN_NAMESPACE
+class QToolButton;
+QT_END_NAMESPACE
 
-/// A property of an object: its name, and an editor of its value.
+/// A property of an object: its name, an editor of its value, and a button that takes edits back.
 class PropertyRow : public QWidget
 {
     Q_OBJECT
@@ -26,10 +29,13 @@ Q_SIGNALS:
 
 private:
     void layOut();
+    void edit(const QVariant& value);
+    void reset();
     void write(const QVariant& value);
 
     QPointer<QObject> m_target;
     QByteArray m_name;
     ValueEditor* m_editor;
+    QToolButton* m_resetButton;
     QVariant m_shown;
 };

@@ -3,79 +3,63 @@
 #include "Touch.h"
 #include "ValueText.h"
 
-#include <QAbstractSpinBox>
+#include <Switch.h>
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
+
 #include <QBoxLayout>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
+#include <QDoubleValidator>
 #include <QEasingCurve>
+#include <QIntValidator>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMetaEnum>
-#include <QSignalBlocker>
-#include <QSpinBox>
+#include <QLocale>
 #include <QToolButton>
 
 #include <limits>
 
+using ui::keyboard::KeyboardType;
+
 namespace {
 
-QToolButton* makeStepButton(const QString& text, const QString& name)
+// Most doubles of a widget are fractions from 0 to 1.
+constexpr double doubleStep = 0.05;
+constexpr int digits = 6;
+
+/// In place of a character that nobody is to read.
+constexpr QChar dot(0x2022);
+
+const QString separator = QStringLiteral("; ");
+
+QHBoxLayout* makeRow(QWidget* parent)
 {
-    auto* button = new QToolButton;
-    button->setText(text);
-    button->setObjectName(name);
-    button->setAutoRepeat(true);
-    button->setFixedSize(touch::touchSize, touch::touchSize);
-    return button;
-}
-
-/// Fills \a parent with \a box between a "-" and a "+" button, in place of the box's own.
-/// Typed digits count once the editing is finished.
-void layOutWithStepButtons(QAbstractSpinBox* box, QWidget* parent)
-{
-    box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    box->setKeyboardTracking(false);
-    box->setAlignment(Qt::AlignCenter);
-    box->setMinimumHeight(touch::touchSize);
-    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    touch::leaveWheelToScrollArea(box);
-
-    QToolButton* down = makeStepButton(QString(QChar(0x2212)), QStringLiteral("stepDown"));
-    QToolButton* up = makeStepButton(QStringLiteral("+"), QStringLiteral("stepUp"));
-    QObject::connect(down, &QToolButton::clicked, box, &QAbstractSpinBox::stepDown);
-    QObject::connect(up, &QToolButton::clicked, box, &QAbstractSpinBox::stepUp);
-
     auto* row = new QHBoxLayout(parent);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
-    row->addWidget(down);
-    row->addWidget(box, 1);
-    row->addWidget(up);
+    return row;
 }
 
-// Most doubles of a widget are fractions from 0 to 1.
-constexpr double step = 0.05;
-constexpr int decimals = 3;
-
-/// The largest magnitude of which the spin box can show every digit.
-constexpr double limit = 1e12;
+EnumEditor::Choices choicesOf(const QMetaEnum& metaEnum)
+{
+    EnumEditor::Choices choices;
+    for (int i = 0; i < metaEnum.keyCount(); ++i)
+        choices.append({QString::fromLatin1(metaEnum.key(i)), metaEnum.value(i)});
+    return choices;
+}
 
 } // namespace
 
 BoolEditor::BoolEditor(QWidget* parent)
     : ValueEditor(parent)
-    , m_box(touch::makeCheckBox())
+    , m_switch(touch::makeSwitch())
 {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_box);
-    connect(m_box, &QCheckBox::clicked, this, [this](bool on) { Q_EMIT edited(on); });
+    makeRow(this)->addWidget(m_switch);
+    connect(m_switch, &QAbstractButton::clicked, this, [this](bool on) { Q_EMIT edited(on); });
 }
 
 void BoolEditor::setValue(const QVariant& value)
 {
-    m_box->setChecked(value.toBool());
+    m_switch->setChecked(value.toBool());
 }
 
 bool BoolEditor::isNarrow() const
@@ -83,72 +67,169 @@ bool BoolEditor::isNarrow() const
     return true;
 }
 
-IntEditor::IntEditor(QWidget* parent)
+FieldEditor::FieldEditor(KeyboardType type, const QString& title, QWidget* parent)
     : ValueEditor(parent)
-    , m_box(new QSpinBox)
+    , m_field(touch::makeField(type, title))
 {
-    m_box->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    layOutWithStepButtons(m_box, this);
-    connect(m_box, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            [this](int value) { Q_EMIT edited(value); });
+    m_field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    makeRow(this)->addWidget(m_field, 1);
+    connect(m_field, &QLineEdit::editingFinished, this, &FieldEditor::showValue);
 }
 
-void IntEditor::setValue(const QVariant& value)
+void FieldEditor::setValue(const QVariant& value)
 {
-    if (m_box->value() == value.toInt())
-        return; // keeps digits that are being typed
-    const QSignalBlocker blocker(m_box);
-    m_box->setValue(value.toInt());
+    const bool isNew = value != m_value || m_isEntering;
+    m_value = value;
+    if (isNew && !isTyping())
+        showValue();
+}
+
+ui::KeypadLineEdit* FieldEditor::field() const
+{
+    return m_field;
+}
+
+const QVariant& FieldEditor::value() const
+{
+    return m_value;
+}
+
+void FieldEditor::enter(const QVariant& value)
+{
+    m_isEntering = true;
+    Q_EMIT edited(value);
+    m_isEntering = false;
+}
+
+/// The keypad takes the focus away from the field.
+bool FieldEditor::isTyping() const
+{
+    return m_field->hasFocus() || (m_field->keypad() && m_field->keypad()->isVisible());
+}
+
+void FieldEditor::showValue()
+{
+    const QString text = textOf(m_value);
+    if (m_field->text() != text) // keeps the cursor where it is
+        m_field->setText(text);
+}
+
+NumberEditor::NumberEditor(KeyboardType type, const QString& title, QWidget* parent)
+    : FieldEditor(type, title, parent)
+{
+    field()->setAlignment(Qt::AlignCenter);
+    addStepButton(-1);
+    addStepButton(1);
+    connect(field(), &ui::LineEdit::valueChanged, this, [this] {
+        if (field()->hasAcceptableInput())
+            enter(valueOf(field()->text()));
+    });
+}
+
+void NumberEditor::addStepButton(int steps)
+{
+    auto* button = new QToolButton;
+    button->setText(steps < 0 ? QString(QChar(0x2212)) : QStringLiteral("+"));
+    button->setObjectName(steps < 0 ? QStringLiteral("stepDown") : QStringLiteral("stepUp"));
+    button->setAutoRepeat(true);
+    button->setFixedSize(touch::targetSize, touch::targetSize);
+    connect(button, &QToolButton::clicked, this, [this, steps] { enter(stepped(steps)); });
+    auto* row = static_cast<QHBoxLayout*>(layout());
+    row->insertWidget(steps < 0 ? 0 : -1, button);
+}
+
+IntEditor::IntEditor(QWidget* parent)
+    : NumberEditor(KeyboardType::Integer, tr("Whole number"), parent)
+{
+    field()->setValidator(new QIntValidator(this));
+}
+
+QString IntEditor::textOf(const QVariant& value) const
+{
+    return QString::number(value.toInt());
+}
+
+QVariant IntEditor::valueOf(const QString& text) const
+{
+    return text.toInt();
+}
+
+QVariant IntEditor::stepped(int steps) const
+{
+    const qint64 wanted = qint64(value().toInt()) + steps;
+    return int(
+        qBound<qint64>(std::numeric_limits<int>::min(), wanted, std::numeric_limits<int>::max()));
 }
 
 DoubleEditor::DoubleEditor(QWidget* parent)
-    : ValueEditor(parent)
-    , m_box(new QDoubleSpinBox)
+    : NumberEditor(KeyboardType::Decimal, tr("Number"), parent)
 {
-    m_box->setRange(-limit, limit);
-    m_box->setDecimals(decimals);
-    m_box->setSingleStep(step);
-    layOutWithStepButtons(m_box, this);
-    connect(m_box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-            [this](double value) { Q_EMIT edited(value); });
+    field()->setValidator(new QDoubleValidator(this));
 }
 
-void DoubleEditor::setValue(const QVariant& value)
+QString DoubleEditor::textOf(const QVariant& value) const
 {
-    if (m_box->textFromValue(m_box->value()) == m_box->textFromValue(value.toDouble()))
-        return; // keeps digits that are being typed
-    const QSignalBlocker blocker(m_box);
-    m_box->setValue(value.toDouble());
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(value.toDouble(), 'g', digits);
+}
+
+QVariant DoubleEditor::valueOf(const QString& text) const
+{
+    return QLocale().toDouble(text);
+}
+
+QVariant DoubleEditor::stepped(int steps) const
+{
+    return value().toDouble() + steps * doubleStep;
 }
 
 TextEditor::TextEditor(QWidget* parent)
-    : ValueEditor(parent)
-    , m_edit(new QLineEdit)
+    : FieldEditor(KeyboardType::Text, tr("Text"), parent)
 {
-    m_edit->setMinimumHeight(touch::touchSize);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_edit);
-    connect(m_edit, &QLineEdit::textEdited, this,
-            [this](const QString& text) { Q_EMIT edited(text); });
+    // Cancel announces the text from before as an edit, too.
+    connect(field(), &QLineEdit::textEdited, this, [this](const QString& text) { enter(text); });
 }
 
-void TextEditor::setValue(const QVariant& value)
+void TextEditor::hideText()
 {
-    if (m_edit->text() != value.toString()) // keeps the cursor where it is
-        m_edit->setText(value.toString());
+    field()->setEchoMode(QLineEdit::Password);
+}
+
+QString TextEditor::textOf(const QVariant& value) const
+{
+    return value.toString();
+}
+
+TextListEditor::TextListEditor(QWidget* parent)
+    : FieldEditor(KeyboardType::Text, tr("List, separated by semicolons"), parent)
+{
+    connect(field(), &ui::LineEdit::valueChanged, this, [this] {
+        QStringList texts;
+        const QStringList parts = field()->text().split(separator.at(0), Qt::SkipEmptyParts);
+        for (const QString& part : parts)
+            texts.append(part.trimmed());
+        enter(texts);
+    });
+}
+
+QString TextListEditor::textOf(const QVariant& value) const
+{
+    return value.toStringList().join(separator);
 }
 
 EnumEditor::EnumEditor(const QMetaEnum& metaEnum, QWidget* parent)
+    : EnumEditor(choicesOf(metaEnum), parent)
+{
+}
+
+EnumEditor::EnumEditor(const Choices& choices, QWidget* parent)
     : ValueEditor(parent)
     , m_box(touch::makeComboBox())
 {
-    for (int i = 0; i < metaEnum.keyCount(); ++i)
-        m_box->addItem(QString::fromLatin1(metaEnum.key(i)), metaEnum.value(i));
-
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_box);
+    for (const auto& choice : choices)
+        m_box->addItem(choice.first, choice.second);
+    makeRow(this)->addWidget(m_box);
     connect(m_box, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { Q_EMIT edited(m_box->itemData(index)); });
 }
@@ -162,9 +243,7 @@ EasingCurveEditor::EasingCurveEditor(QWidget* parent)
     : ValueEditor(parent)
     , m_box(makeTypeBox())
 {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_box);
+    makeRow(this)->addWidget(m_box);
     connect(m_box, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
         const auto type = QEasingCurve::Type(m_box->itemData(index).toInt());
         Q_EMIT edited(QVariant::fromValue(QEasingCurve(type)));
@@ -197,12 +276,16 @@ ReadOnlyValue::ReadOnlyValue(QWidget* parent)
     // A word that is too long, as some debug output is, does not make the whole list too wide.
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_label->setEnabled(false); // the look of what cannot be changed
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_label);
+    makeRow(this)->addWidget(m_label);
 }
 
 void ReadOnlyValue::setValue(const QVariant& value)
 {
-    m_label->setText(valueText(value));
+    const QString text = valueText(value);
+    m_label->setText(m_isHidden ? QString(text.size(), dot) : text);
+}
+
+void ReadOnlyValue::hideText()
+{
+    m_isHidden = true;
 }

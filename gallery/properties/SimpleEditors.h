@@ -2,15 +2,19 @@
 
 #include "ValueEditor.h"
 
-#include <QMetaEnum>
+#include <ui/keyboard/KeyboardType.h>
 
+#include <QMetaEnum>
+#include <QPair>
+#include <QVector>
+
+class Switch;
+namespace ui {
+class KeypadLineEdit;
+}
 QT_BEGIN_NAMESPACE
-class QCheckBox;
 class QComboBox;
-class QDoubleSpinBox;
 class QLabel;
-class QLineEdit;
-class QSpinBox;
 QT_END_NAMESPACE
 
 /// Edits a bool by a switch.
@@ -25,49 +29,109 @@ public:
     bool isNarrow() const override;
 
 private:
-    QCheckBox* m_box;
+    Switch* m_switch;
 };
 
-/// Edits an int; typed digits count once the editing is finished.
-class IntEditor : public ValueEditor
+/**
+ * Edits a value by its text in a field with a keypad.
+ *
+ * While the user is typing, what else becomes of the value is not shown; it is afterwards.
+ */
+class FieldEditor : public ValueEditor
+{
+    Q_OBJECT
+
+public:
+    void setValue(const QVariant& value) override;
+
+protected:
+    FieldEditor(ui::keyboard::KeyboardType type, const QString& title, QWidget* parent);
+
+    ui::KeypadLineEdit* field() const;
+    const QVariant& value() const;
+
+    virtual QString textOf(const QVariant& value) const = 0;
+
+    /// Announces \a value, and shows what becomes of it.
+    void enter(const QVariant& value);
+
+private:
+    bool isTyping() const;
+    void showValue();
+
+    ui::KeypadLineEdit* m_field;
+    QVariant m_value;
+    bool m_isEntering = false;
+};
+
+/// Edits an int or a double between a "-" and a "+" button. Typed digits count with OK.
+class NumberEditor : public FieldEditor
+{
+    Q_OBJECT
+
+protected:
+    NumberEditor(ui::keyboard::KeyboardType type, const QString& title, QWidget* parent);
+
+    virtual QVariant valueOf(const QString& text) const = 0;
+
+    /// The value \a steps steps further.
+    virtual QVariant stepped(int steps) const = 0;
+
+private:
+    void addStepButton(int steps);
+};
+
+class IntEditor : public NumberEditor
 {
     Q_OBJECT
 
 public:
     explicit IntEditor(QWidget* parent = nullptr);
 
-    void setValue(const QVariant& value) override;
-
-private:
-    QSpinBox* m_box;
+protected:
+    QString textOf(const QVariant& value) const override;
+    QVariant valueOf(const QString& text) const override;
+    QVariant stepped(int steps) const override;
 };
 
-/// Edits a double; typed digits count once the editing is finished.
-class DoubleEditor : public ValueEditor
+class DoubleEditor : public NumberEditor
 {
     Q_OBJECT
 
 public:
     explicit DoubleEditor(QWidget* parent = nullptr);
 
-    void setValue(const QVariant& value) override;
-
-private:
-    QDoubleSpinBox* m_box;
+protected:
+    QString textOf(const QVariant& value) const override;
+    QVariant valueOf(const QString& text) const override;
+    QVariant stepped(int steps) const override;
 };
 
 /// Edits a text, which counts with every key.
-class TextEditor : public ValueEditor
+class TextEditor : public FieldEditor
 {
     Q_OBJECT
 
 public:
     explicit TextEditor(QWidget* parent = nullptr);
 
-    void setValue(const QVariant& value) override;
+    /// Shows dots in place of the characters.
+    void hideText();
 
-private:
-    QLineEdit* m_edit;
+protected:
+    QString textOf(const QVariant& value) const override;
+};
+
+/// Edits a list of texts, which semicolons separate. It counts with OK.
+class TextListEditor : public FieldEditor
+{
+    Q_OBJECT
+
+public:
+    explicit TextListEditor(QWidget* parent = nullptr);
+
+protected:
+    QString textOf(const QVariant& value) const override;
 };
 
 /// Offers the keys of an enumeration. Values are ints; one without a key is shown as no choice.
@@ -76,7 +140,10 @@ class EnumEditor : public ValueEditor
     Q_OBJECT
 
 public:
+    using Choices = QVector<QPair<QString, int>>;
+
     explicit EnumEditor(const QMetaEnum& metaEnum, QWidget* parent = nullptr);
+    explicit EnumEditor(const Choices& choices, QWidget* parent = nullptr);
 
     void setValue(const QVariant& value) override;
 
@@ -94,8 +161,7 @@ public:
 
     void setValue(const QVariant& value) override;
 
-    /// A combo box of the curves that their type alone defines; an item's data is the type's
-    /// number.
+    /// A combo box of the curves that their type alone defines; its data are the types' numbers.
     static QComboBox* makeTypeBox();
 
 private:
@@ -112,6 +178,10 @@ public:
 
     void setValue(const QVariant& value) override;
 
+    /// Shows dots in place of the characters.
+    void hideText();
+
 private:
     QLabel* m_label;
+    bool m_isHidden = false;
 };

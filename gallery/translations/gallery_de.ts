@@ -26,7 +26,7 @@
 <context>
     <name>AnimationPage</name>
     <message>
-        <source>Each animation runs to its end, turns round and runs back.</source>
+        <source>Each animation runs to its end and back again.</source>
         <translation>Jede Animation läuft bis zum Ende, kehrt um und läuft zurück.</translation>
     </message>
     <message>
@@ -52,6 +52,18 @@
     <message>
         <source>Running backwards</source>
         <translation>Läuft rückwärts</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>Puls</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Wanderung</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
     </message>
 </context>
 <context>
@@ -168,6 +180,10 @@
     <message>
         <source>Alpha</source>
         <translation>Alpha</translation>
+    </message>
+    <message>
+        <source>Name, or # and digits</source>
+        <translation>Name oder # und Ziffern</translation>
     </message>
 </context>
 <context>
@@ -290,6 +306,13 @@
     <message>
         <source>A text too long</source>
         <translation>Ein zu langer Text</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleEditor</name>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
     </message>
 </context>
 <context>
@@ -473,6 +496,14 @@
         <source>File browser</source>
         <translation>Dateibrowser</translation>
     </message>
+    <message>
+        <source>Own controls</source>
+        <translation>Eigene Elemente</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
 </context>
 <context>
     <name>GalleryOptions</name>
@@ -543,6 +574,18 @@
         <source>Properties</source>
         <translation>Eigenschaften</translation>
     </message>
+    <message>
+        <source>Page alone</source>
+        <translation>Nur die Seite</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
 </context>
 <context>
     <name>GridButtonPage</name>
@@ -573,6 +616,13 @@
     <message>
         <source>You tapped &quot;%1&quot;.</source>
         <translation>Angetippt: „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>IntEditor</name>
+    <message>
+        <source>Whole number</source>
+        <translation>Ganze Zahl</translation>
     </message>
 </context>
 <context>
@@ -628,20 +678,148 @@
 <context>
     <name>OverviewPage</name>
     <message>
-        <source>Fifteen Qt widgets for touch-screen applications: frames and layout containers, status indicators, text entry with an on-screen keypad, animated switches and a file browser.</source>
-        <translation>Fünfzehn Qt-Widgets für Anwendungen mit Touchscreen: Rahmen und Container, Statusanzeigen, Texteingabe mit Bildschirmtastatur, animierte Schalter und ein Dateibrowser.</translation>
-    </message>
-    <message>
-        <source>Choose a page. Tap a widget of the page to edit its properties, and use the switches above to see it in a dark palette, mirrored, disabled or with a style sheet.</source>
-        <translation>Wählen Sie eine Seite. Tippen Sie auf ein Widget, um seine Eigenschaften zu bearbeiten; die Schalter oben zeigen es in dunklen Farben, gespiegelt, gesperrt oder mit einem Stylesheet.</translation>
-    </message>
-    <message>
-        <source>Icons of the library:</source>
-        <translation>Symbole der Bibliothek:</translation>
-    </message>
-    <message>
         <source>Qt %1, platform plugin &quot;%2&quot;</source>
         <translation>Qt %1, Plattform-Plugin „%2“</translation>
+    </message>
+    <message>
+        <source>USB stick</source>
+        <translation>USB-Stick</translation>
+    </message>
+    <message>
+        <source>12.4 GB free</source>
+        <translation>12,4 GB frei</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>A rather long name</source>
+        <translation>Ein recht langer Name</translation>
+    </message>
+    <message>
+        <source>Every widget of the library, alive. A button below a widget opens its page.</source>
+        <translation>Alle Widgets der Bibliothek in Aktion. Ein Knopf unter einem Widget öffnet seine Seite.</translation>
+    </message>
+    <message>
+        <source>Kitchen</source>
+        <translation>Küche</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>Open a keypad</source>
+        <translation>Tastatur öffnen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>OwnControlsPage</name>
+    <message>
+        <source>A lamp that can be switched, derived from SelectionControl</source>
+        <translation>Eine schaltbare Lampe, abgeleitet von SelectionControl</translation>
+    </message>
+    <message>
+        <source>A light whose colour an Animator moves</source>
+        <translation>Ein Licht, dessen Farbe ein Animator bewegt</translation>
+    </message>
+    <message>
+        <source>Lamp, on</source>
+        <translation>Lampe, ein</translation>
+    </message>
+    <message>
+        <source>Lamp, off</source>
+        <translation>Lampe, aus</translation>
+    </message>
+    <message>
+        <source>Lamp, disabled and on</source>
+        <translation>Lampe, gesperrt und ein</translation>
+    </message>
+    <message>
+        <source>Lamp, disabled and off</source>
+        <translation>Lampe, gesperrt und aus</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Animator</source>
+        <translation>Animator</translation>
+    </message>
+    <message>
+        <source>Light up</source>
+        <translation>Aufleuchten</translation>
+    </message>
+    <message>
+        <source>Duration: %1 ms</source>
+        <translation>Dauer: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>PageView</name>
+    <message>
+        <source>Class page of %1</source>
+        <translation>Seite der Klasse %1</translation>
+    </message>
+    <message>
+        <source>The reference is not installed; ./dev docs writes it.</source>
+        <translation>Die Referenz ist nicht installiert; ./dev docs erzeugt sie.</translation>
+    </message>
+    <message>
+        <source>There is no browser here for %1</source>
+        <translation>Hier gibt es keinen Browser für %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteEditor</name>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 auf %2</translation>
+    </message>
+</context>
+<context>
+    <name>PathPage</name>
+    <message>
+        <source>Not tapped yet</source>
+        <translation>Noch nicht angetippt</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Short label</source>
+        <translation>Kurzes Etikett</translation>
+    </message>
+    <message>
+        <source>A rather long name of a directory</source>
+        <translation>Ein ziemlich langer Verzeichnisname</translation>
+    </message>
+    <message>
+        <source>Long label</source>
+        <translation>Langes Etikett</translation>
+    </message>
+    <message>
+        <source>A path: tap a directory to go up, and the three dots for those that are left out.</source>
+        <translation>Ein Pfad: Ein Verzeichnis antippen, um hinaufzugehen; die drei Punkte zeigen die ausgelassenen.</translation>
+    </message>
+    <message>
+        <source>The label that it is made of, by itself: it can be tapped.</source>
+        <translation>Das Etikett, aus dem er besteht, für sich: Es lässt sich antippen.</translation>
+    </message>
+    <message>
+        <source>Tapped: %1</source>
+        <translation>Angetippt: %1</translation>
     </message>
 </context>
 <context>
@@ -649,6 +827,21 @@
     <message>
         <source>Dynamic properties</source>
         <translation>Dynamische Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Part of a name</source>
+        <translation>Teil eines Namens</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyRow</name>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -729,6 +922,32 @@
     </message>
 </context>
 <context>
+    <name>SignalLog</name>
+    <message>
+        <source>Use the widgets of the page: what they tell is listed here.</source>
+        <translation>Benutzen Sie die Widgets der Seite: Was sie melden, steht hier.</translation>
+    </message>
+</context>
+<context>
+    <name>SizePolicyEditor</name>
+    <message>
+        <source>Horizontal</source>
+        <translation>Waagrecht</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Horizontal stretch</source>
+        <translation>Waagrechte Dehnung</translation>
+    </message>
+    <message>
+        <source>Vertical stretch</source>
+        <translation>Senkrechte Dehnung</translation>
+    </message>
+</context>
+<context>
     <name>StyleSheetFile</name>
     <message>
         <source>cannot read the style sheet &quot;%1&quot;: %2</source>
@@ -737,6 +956,18 @@
     <message>
         <source>&quot;%1&quot; is not a well-formed style sheet</source>
         <translation>„%1“ ist kein wohlgeformtes Stylesheet</translation>
+    </message>
+    <message>
+        <source>line %1: this rule is not well-formed</source>
+        <translation>Zeile %1: Diese Regel ist nicht wohlgeformt</translation>
+    </message>
+    <message>
+        <source>line %1: there is no property &quot;%2&quot;</source>
+        <translation>Zeile %1: Eine Eigenschaft „%2“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the style sheet is not well-formed</source>
+        <translation>das Stylesheet ist nicht wohlgeformt</translation>
     </message>
 </context>
 <context>
@@ -847,6 +1078,13 @@
     </message>
 </context>
 <context>
+    <name>TextEditor</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
     <name>TextEntryPage</name>
     <message>
         <source>Tap a field. OK takes the value, Cancel and a tap elsewhere do not.</source>
@@ -883,6 +1121,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Plain field, 3 to 8 small letters</source>
+        <translation>Einfaches Feld, 3 bis 8 Kleinbuchstaben</translation>
     </message>
 </context>
 <context>
@@ -950,6 +1192,13 @@
     <message>
         <source>Text, with other sections visible</source>
         <translation>Text, andere Bereiche sichtbar</translation>
+    </message>
+</context>
+<context>
+    <name>TextListEditor</name>
+    <message>
+        <source>List, separated by semicolons</source>
+        <translation>Liste, durch Semikolons getrennt</translation>
     </message>
 </context>
 <context>

@@ -22,6 +22,7 @@ int SampleWidget::level() const
 void SampleWidget::setLevel(int level)
 {
     m_level = qBound(0, level, 100);
+    update();
 }
 
 double SampleWidget::fraction() const

@@ -3,9 +3,10 @@
 #include "Painting.h"
 #include "PowerSupplyTree.h"
 #include "TestApplication.h"
-#include "ui/CBatteryStatusWidget.h"
 
-#include <QCheckBox>
+#include "ui/CBatteryStatusWidget.h"
+#include <Switch.h>
+
 #include <QSlider>
 
 using test::PowerSupplyTree;
@@ -117,7 +118,7 @@ void tst_BatteryPage::controlsMoveTheirBattery()
 {
     const std::unique_ptr<GalleryPage> page(makeBatteryPage(nullptr));
     CBatteryStatusWidget* const battery = demoWidget(*page, QStringLiteral("Try me"));
-    const QList<QCheckBox*> boxes = page->findChildren<QCheckBox*>();
+    const QList<Switch*> boxes = page->findChildren<Switch*>();
     QCOMPARE(boxes.size(), 2);
     page->findChild<QSlider*>()->setValue(20);
     boxes.at(1)->setChecked(true);

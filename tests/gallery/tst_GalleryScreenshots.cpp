@@ -58,8 +58,8 @@ private:
 
 QVector<PageEntry> testPages()
 {
-    return {{QStringLiteral("one"), QStringLiteral("One"), make<test::SamplePage>},
-            {QStringLiteral("two"), QStringLiteral("Two"), make<MarkPage>}};
+    return {{QStringLiteral("one"), QStringLiteral("One"), make<test::SamplePage>, {}},
+            {QStringLiteral("two"), QStringLiteral("Two"), make<MarkPage>, {}}};
 }
 
 const QStringList suffixes = {QStringLiteral("light"), QStringLiteral("light@2x"),
@@ -183,7 +183,7 @@ void tst_GalleryScreenshots::waitsForPage()
     QString printed;
     QTextStream out(&printed);
     QString error;
-    const QVector<PageEntry> pages = {{QStringLiteral("late"), QString(), make<LatePage>}};
+    const QVector<PageEntry> pages = {{QStringLiteral("late"), QString(), make<LatePage>, {}}};
     QVERIFY(takeScreenshots(pages, directory.path(), QString(), out, &error));
     for (const QString& suffix : suffixes) {
         const QImage image(directory.filePath(QStringLiteral("late-%1.png").arg(suffix)));

@@ -5,11 +5,12 @@
 #include "SampleWidget.h"
 #include "TestApplication.h"
 
+#include <Switch.h>
+#include <ui/KeypadLineEdit.h>
+
 #include <QBoxLayout>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QToolButton>
 
 namespace {
@@ -58,7 +59,7 @@ PropertyRow* rowOf(const PropertyEditor& editor, const QByteArray& name)
 
 int shownLevel(const PropertyEditor& editor)
 {
-    return rowOf(editor, "level")->findChild<QSpinBox*>()->value();
+    return rowOf(editor, "level")->findChild<ui::KeypadLineEdit*>()->text().toInt();
 }
 
 const QString sampleClass = QStringLiteral("test::SampleWidget");
@@ -178,7 +179,7 @@ void tst_PropertyEditor::choosesDemoWidget()
 
     choice->setCurrentIndex(1);
     QCOMPARE(editor.target(), second);
-    rowOf(editor, "level")->findChild<QSpinBox*>()->stepUp();
+    rowOf(editor, "level")->findChild<QToolButton*>(QStringLiteral("stepUp"))->click();
     QCOMPARE(first->property("level").toInt(), 50);
     QCOMPARE(second->property("level").toInt(), 51);
 
@@ -217,7 +218,7 @@ void tst_PropertyEditor::refreshesEveryRowAfterEdit()
     editor.setDemoWidgets({{&sample, QStringLiteral("sample")}});
     sample.setLevel(12);
     QCOMPARE(shownLevel(editor), 50); // not visible
-    rowOf(editor, "marked")->findChild<QCheckBox*>()->click();
+    rowOf(editor, "marked")->findChild<Switch*>()->click();
     QCOMPARE(shownLevel(editor), 12);
 }
 
@@ -260,7 +261,7 @@ void tst_PropertyEditor::dynamicPropertiesComeAndGo()
     sample.setProperty("inputValid", true);
     editor.refresh();
     QCOMPARE(titlesOf(editor).constFirst(), dynamicTitle);
-    rowOf(editor, "inputValid")->findChild<QCheckBox*>()->click();
+    rowOf(editor, "inputValid")->findChild<Switch*>()->click();
     QCOMPARE(sample.property("inputValid"), QVariant(false));
 
     sample.setProperty("directory", QStringLiteral("/data"));

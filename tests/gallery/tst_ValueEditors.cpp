@@ -2,12 +2,13 @@
 #include "properties/SimpleEditors.h"
 #include "properties/ValueEditor.h"
 #include "SampleWidget.h"
-#include "Switch.h"
 #include "TestApplication.h"
+#include "TouchStyle.h"
 
-#include <QCheckBox>
+#include <Switch.h>
+#include <ui/KeypadLineEdit.h>
+
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFontComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,6 +16,8 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QToolButton>
+
+using ui::KeypadLineEdit;
 
 Q_DECLARE_METATYPE(QMargins)
 
@@ -27,9 +30,15 @@ Widget* control(const PropertyRow& row, int index = 0)
     return row.findChildren<Widget*>().value(index);
 }
 
+/// The first button takes edits back.
+QToolButton* foldButton(const PropertyRow& row)
+{
+    return row.editor()->findChild<QToolButton*>();
+}
+
 void unfold(const PropertyRow& row)
 {
-    control<QToolButton>(row)->click();
+    foldButton(row)->click();
 }
 
 void type(QLineEdit* edit, const QString& text)
@@ -38,16 +47,27 @@ void type(QLineEdit* edit, const QString& text)
     QTest::keyClicks(edit, text);
 }
 
-void type(QAbstractSpinBox* box, const QString& text)
+/// With OK, as a keypad has it.
+void enter(KeypadLineEdit* field, const QString& text)
 {
-    box->selectAll();
-    QTest::keyClicks(box, text);
-    QTest::keyClick(box, Qt::Key_Return);
+    type(field, text);
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
+/// Presses the button of the number \a index.
+void step(const PropertyRow& row, const char* button, int index = 0)
+{
+    row.findChildren<QToolButton*>(QString::fromLatin1(button)).value(index)->click();
+}
+
+int shownNumber(const PropertyRow& row, int index = 0)
+{
+    return control<KeypadLineEdit>(row, index)->text().toInt();
 }
 
 QString summaryOf(const PropertyRow& row)
 {
-    return control<QToolButton>(row)->text();
+    return foldButton(row)->text();
 }
 
 } // namespace
@@ -57,6 +77,7 @@ class tst_ValueEditors : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void editorOfType_data();
     void editorOfType();
     void everyPropertyOfWidgets();
@@ -90,6 +111,11 @@ private Q_SLOTS:
     void survivesItsTarget();
 };
 
+void tst_ValueEditors::initTestCase()
+{
+    TouchStyle::install();
+}
+
 void tst_ValueEditors::editorOfType_data()
 {
     QTest::addColumn<QByteArray>("property");
@@ -113,7 +139,9 @@ void tst_ValueEditors::editorOfType_data()
     row("curve", "EasingCurveEditor");
     row("companion", "ReadOnlyValue");
     row("answer", "ReadOnlyValue"); // an int without a setter
-    row("palette", "ReadOnlyValue"); // a type without an editor
+    row("palette", "PaletteEditor");
+    row("sizePolicy", "SizePolicyEditor");
+    row("cursor", "ReadOnlyValue"); // a type without an editor
 }
 
 void tst_ValueEditors::editorOfType()
@@ -145,7 +173,7 @@ void tst_ValueEditors::editsBool()
 {
     test::SampleWidget sample;
     PropertyRow row(&sample, "marked");
-    auto* box = control<QCheckBox>(row);
+    auto* box = control<Switch>(row);
     QVERIFY(!box->isChecked());
 
     row.resize(200, 60);
@@ -163,18 +191,18 @@ void tst_ValueEditors::editsInt()
     test::SampleWidget sample;
     PropertyRow row(&sample, "level");
     const QSignalSpy edits(&row, &PropertyRow::edited);
-    control<QToolButton>(row, 0)->click();
+    step(row, "stepDown");
     QCOMPARE(sample.level(), 49);
-    control<QToolButton>(row, 1)->click();
-    control<QToolButton>(row, 1)->click();
+    step(row, "stepUp");
+    step(row, "stepUp");
     QCOMPARE(sample.level(), 51);
-    type(control<QSpinBox>(row), QStringLiteral("7"));
+    enter(control<KeypadLineEdit>(row), QStringLiteral("7"));
     QCOMPARE(sample.level(), 7);
     QCOMPARE(edits.count(), 4);
 
     sample.setLevel(8);
     row.refresh();
-    QCOMPARE(control<QSpinBox>(row)->value(), 8);
+    QCOMPARE(shownNumber(row), 8);
     QCOMPARE(edits.count(), 4);
 }
 
@@ -183,11 +211,11 @@ void tst_ValueEditors::showsWhatBecameOfAnInt()
     test::SampleWidget sample;
     sample.setLevel(100);
     PropertyRow row(&sample, "level");
-    control<QToolButton>(row, 1)->click();
-    QCOMPARE(control<QSpinBox>(row)->value(), 100);
-    type(control<QSpinBox>(row), QStringLiteral("-2147483648"));
+    step(row, "stepUp");
+    QCOMPARE(shownNumber(row), 100);
+    enter(control<KeypadLineEdit>(row), QStringLiteral("-2147483648"));
     QCOMPARE(sample.level(), 0);
-    QCOMPARE(control<QSpinBox>(row)->value(), 0);
+    QCOMPARE(shownNumber(row), 0);
 }
 
 void tst_ValueEditors::keepsDigitsThatAreTyped()
@@ -195,7 +223,7 @@ void tst_ValueEditors::keepsDigitsThatAreTyped()
     test::SampleWidget sample;
     for (const char* name : {"level", "fraction"}) {
         PropertyRow row(&sample, name);
-        auto* box = control<QAbstractSpinBox>(row);
+        auto* box = control<KeypadLineEdit>(row);
         box->selectAll();
         QTest::keyClicks(box, QStringLiteral("0"));
         row.editor()->setValue(sample.property(name)); // nothing has changed
@@ -207,9 +235,9 @@ void tst_ValueEditors::editsDouble()
 {
     test::SampleWidget sample;
     PropertyRow row(&sample, "fraction");
-    control<QToolButton>(row, 1)->click();
+    step(row, "stepUp");
     QCOMPARE(sample.fraction(), 0.55);
-    type(control<QDoubleSpinBox>(row), QLocale().toString(0.125));
+    enter(control<KeypadLineEdit>(row), QLocale().toString(0.125));
     QCOMPARE(sample.fraction(), 0.125);
 }
 
@@ -217,9 +245,9 @@ void tst_ValueEditors::showsIgnoredDouble()
 {
     test::SampleWidget sample;
     PropertyRow row(&sample, "fraction");
-    type(control<QDoubleSpinBox>(row), QStringLiteral("7"));
+    enter(control<KeypadLineEdit>(row), QStringLiteral("7"));
     QCOMPARE(sample.fraction(), 0.5);
-    QCOMPARE(control<QDoubleSpinBox>(row)->value(), 0.5);
+    QCOMPARE(control<KeypadLineEdit>(row)->text(), QLocale().toString(0.5));
 }
 
 void tst_ValueEditors::editsText()
@@ -300,9 +328,9 @@ void tst_ValueEditors::editsFont()
     PropertyRow row(&sample, "captionFont");
     QCOMPARE(summaryOf(row), QStringLiteral("DejaVu Sans, 12 pt"));
     unfold(row);
-    control<QSpinBox>(row)->stepUp();
+    step(row, "stepUp");
     for (int index = 0; index < 3; ++index)
-        control<QCheckBox>(row, index)->click();
+        control<Switch>(row, index)->click();
 
     QFont expected(QStringLiteral("DejaVu Sans"), 13);
     expected.setBold(true);
@@ -310,7 +338,7 @@ void tst_ValueEditors::editsFont()
     expected.setUnderline(true);
     QCOMPARE(sample.property("captionFont").value<QFont>(), expected);
 
-    type(control<QSpinBox>(row), QStringLiteral("-5"));
+    enter(control<KeypadLineEdit>(row), QStringLiteral("-5"));
     QCOMPARE(sample.property("captionFont").value<QFont>().pointSize(), 1);
 
     auto* family = control<QFontComboBox>(row);
@@ -328,7 +356,7 @@ void tst_ValueEditors::fontSizeKeepsItsUnit()
     PropertyRow row(&sample, "captionFont");
     QVERIFY(summaryOf(row).endsWith(QStringLiteral(", 20 px")));
     unfold(row);
-    control<QSpinBox>(row)->stepDown();
+    step(row, "stepDown");
     QCOMPARE(sample.property("captionFont").value<QFont>().pixelSize(), 19);
 }
 
@@ -359,12 +387,12 @@ void tst_ValueEditors::editsFlags()
     PropertyRow row(&sample, "sides");
     QCOMPARE(summaryOf(row), QStringLiteral("Left")); // "Start" is the same bit
     unfold(row);
-    QCOMPARE(row.findChildren<QCheckBox*>().size(), 3); // neither the alias nor the combinations
-    control<QCheckBox>(row, 2)->click();
+    QCOMPARE(row.findChildren<Switch*>().size(), 3); // neither the alias nor the combinations
+    control<Switch>(row, 2)->click();
     QCOMPARE(sample.sides(), test::SampleWidget::Left | test::SampleWidget::Top);
     QCOMPARE(summaryOf(row), QStringLiteral("Left | Top"));
-    control<QCheckBox>(row, 0)->click();
-    control<QCheckBox>(row, 2)->click();
+    control<Switch>(row, 0)->click();
+    control<Switch>(row, 2)->click();
     QCOMPARE(sample.sides(), test::SampleWidget::Sides());
     QCOMPARE(summaryOf(row), QStringLiteral("none"));
 }
@@ -374,7 +402,7 @@ void tst_ValueEditors::editsFlagsOfAnotherClass()
     test::SampleWidget sample;
     PropertyRow row(&sample, "alignment");
     unfold(row);
-    for (QCheckBox* box : row.findChildren<QCheckBox*>()) {
+    for (Switch* box : row.findChildren<Switch*>()) {
         if (box->text() == QLatin1String("AlignVCenter"))
             box->click();
     }
@@ -387,7 +415,7 @@ void tst_ValueEditors::editsPoint()
     PropertyRow row(&sample, "origin");
     QCOMPARE(summaryOf(row), QStringLiteral("1, 2"));
     unfold(row);
-    control<QSpinBox>(row, 1)->stepUp();
+    step(row, "stepUp", 1);
     QCOMPARE(sample.property("origin").toPoint(), QPoint(1, 3));
 }
 
@@ -397,7 +425,7 @@ void tst_ValueEditors::editsSize()
     PropertyRow row(&sample, "extent");
     QCOMPARE(summaryOf(row), QStringLiteral("3 \u00d7 4"));
     unfold(row);
-    control<QSpinBox>(row, 0)->stepUp();
+    step(row, "stepUp", 0);
     QCOMPARE(sample.property("extent").toSize(), QSize(4, 4));
 }
 
@@ -408,7 +436,7 @@ void tst_ValueEditors::editsRect()
     QCOMPARE(summaryOf(row), QStringLiteral("7 \u00d7 8 at 5, 6"));
     unfold(row);
     for (int index = 0; index < 4; ++index)
-        type(control<QSpinBox>(row, index), QString::number(20 + index));
+        enter(control<KeypadLineEdit>(row, index), QString::number(20 + index));
     QCOMPARE(sample.property("area").toRect(), QRect(20, 21, 22, 23));
 }
 
@@ -431,14 +459,14 @@ void tst_ValueEditors::editsAnimation()
     QCOMPARE(summaryOf(row), QStringLiteral("InQuad, 100 ms"));
     unfold(row);
     QTest::keyClicks(control<QComboBox>(row), QStringLiteral("OutBounce"));
-    type(control<QSpinBox>(row), QStringLiteral("250"));
+    enter(control<KeypadLineEdit>(row), QStringLiteral("250"));
     QCOMPARE(target.thumbPosAnimation(), (Style::Animation{QEasingCurve::OutBounce, 250}));
     QCOMPARE(summaryOf(row), QStringLiteral("OutBounce, 250 ms"));
 
     target.setThumbPosAnimation({QEasingCurve::Linear, 7});
     row.refresh();
     QCOMPARE(control<QComboBox>(row)->currentText(), QStringLiteral("Linear"));
-    QCOMPARE(control<QSpinBox>(row)->value(), 7);
+    QCOMPARE(shownNumber(row), 7);
 }
 
 void tst_ValueEditors::showsReadOnlyValues_data()
@@ -486,7 +514,7 @@ void tst_ValueEditors::editsDynamicProperty()
     QVERIFY(widget.maximumWidth() != 77);
 
     PropertyRow row(&widget, "inputValid");
-    control<QCheckBox>(row)->click();
+    control<Switch>(row)->click();
     QCOMPARE(widget.property("inputValid"), QVariant(false));
     QCOMPARE(widget.maximumWidth(), 77); // the style sheet has been asked again
 }
@@ -497,8 +525,8 @@ void tst_ValueEditors::survivesItsTarget()
     PropertyRow row(sample, "level");
     delete sample;
     row.refresh();
-    control<QToolButton>(row, 1)->click();
-    QCOMPARE(control<QSpinBox>(row)->value(), 51); // there is nothing to read it back from
+    step(row, "stepUp");
+    QCOMPARE(shownNumber(row), 50); // what it was told last
 }
 
 const test::Registration<tst_ValueEditors> registration;

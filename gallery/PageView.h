@@ -1,0 +1,28 @@
+#pragma once
+
+#include "pages/Pages.h"
+
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+QT_END_NAMESPACE
+
+/// A page below links to the reference of its classes.
+class PageView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Makes the page of \a entry.
+    explicit PageView(const PageEntry& entry, QWidget* parent = nullptr);
+
+    GalleryPage* page() const;
+
+private:
+    QWidget* makeLinks(const QStringList& classes);
+    void openReference(const QString& className);
+
+    GalleryPage* m_page;
+    QLabel* m_message;
+};
