@@ -7,6 +7,8 @@
 #include <QPropertyAnimation>
 #include <QPushButton>
 
+#include <memory>
+
 class tst_AnimationPage : public QObject
 {
     Q_OBJECT
@@ -49,5 +51,3 @@ void tst_AnimationPage::stopsAndStarts()
 const test::Registration<tst_AnimationPage> registration;
 
 #include "tst_AnimationPage.moc"
-
-#include <memory>

@@ -9,6 +9,8 @@
 
 #include <QSlider>
 
+#include <memory>
+
 using test::PowerSupplyTree;
 using ui::CBatteryStatusWidget;
 
@@ -130,5 +132,3 @@ void tst_BatteryPage::controlsMoveTheirBattery()
 const test::Registration<tst_BatteryPage> registration;
 
 #include "tst_BatteryPage.moc"
-
-#include <memory>

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QValidator>
 
+#include <memory>
+
 using ui::KeypadLineEdit;
 
 /// The settings form.
@@ -122,5 +124,3 @@ void tst_TextEntryPage::everyKeypadCanTypeIt()
 const test::Registration<tst_TextEntryPage> registration;
 
 #include "tst_TextEntryPage.moc"
-
-#include <memory>
