@@ -9,8 +9,8 @@ QT_END_NAMESPACE
 /**
  * The code samples of the reference, one per class.
  *
- * What lies between the marks "//! [CLASS]" of a source is what the page of that class shows, and is
- * compiled and run by the tests. Each function makes its widgets on \a window, which owns them.
+ * What lies between the marks "//! [CLASS]" of a source is what the page of that class shows, and
+ * is compiled and run by the tests. Each function makes its widgets on \a window, which owns them.
  */
 namespace samples {
 

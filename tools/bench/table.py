@@ -1,12 +1,9 @@
 #!/usr/bin/env python3
-"""Makes the tables of ./dev bench from what it measured.
+"""Prints the tables of ./dev bench from what it measured.
 
-usage: table.py RESULTS [DOCUMENT]
-
-Prints them; with DOCUMENT, replaces those between the two marks of that file.
+usage: table.py RESULTS
 """
 
-import re
 import sys
 from pathlib import Path
 
@@ -18,7 +15,6 @@ from results import Results  # noqa: E402
 
 COLUMNS = ("ours", "stock", "floor")
 WAYS = {"bare": "a bare model and list view", "ours": "FileBrowserWidget", "dialog": "QFileDialog"}
-MARKS = "<!-- measured -->\n", "<!-- end of what was measured -->\n"
 
 
 def table(head, rows):
@@ -94,21 +90,5 @@ def report(results):
     ]))
 
 
-def replace_between_marks(document, text):
-    old = document.read_text(encoding="utf-8")
-    begin, end = MARKS
-    pattern = re.compile(f"{begin}.*{end}", re.DOTALL)
-    if not pattern.search(old):
-        sys.exit(f"table.py: {document} has not both marks")
-    document.write_text(pattern.sub(lambda _: f"{begin}\n{text}\n{end}", old), encoding="utf-8")
-
-
-def main(folder, document=None):
-    text = report(Results(folder))
-    print(text)
-    if document:
-        replace_between_marks(Path(document), text)
-
-
 if __name__ == "__main__":
-    main(*sys.argv[1:])
+    print(report(Results(sys.argv[1])))

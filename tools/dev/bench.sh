@@ -5,7 +5,7 @@
 #
 #   --filter REGEX  only the rows of the table whose names match, and nothing else
 #   --peers         only the rows beside widgets of other libraries, whose packages it installs
-#   --accept        write the tables into docs/benchmarks.md
+#   --accept        keep the tables as docs/figures/benchmarks.md
 #
 # Prints the tables and writes them to table.md in the folder of the build. Instructions are counted with
 # callgrind, so they repeat; times are interleaved medians of one run.
@@ -13,18 +13,18 @@
 preset=bench
 packages=(build bench)
 filter=
-document=
+accept=
 while [ $# -gt 0 ]; do
     case "$1" in
         --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --filter) filter=$(option_value bench "$1" $# "${2:-}"); shift ;;
         --peers) preset=bench-peers packages+=(peers) filter=^peers: ;;
-        --accept) document=docs/benchmarks.md ;;
+        --accept) accept=yes ;;
         *) unknown_option bench "$1" ;;
     esac
     shift
 done
-[ -z "$filter" ] || [ -z "$document" ] || die "bench: --accept is for the whole table, not for a part of it"
+[ -z "$filter" ] || [ -z "$accept" ] || die "bench: --accept is for the whole table, not for a part of it"
 
 need_packages "${packages[@]}"
 build "$preset" platform_bench platform_bench_loading
@@ -42,4 +42,5 @@ if [ -z "$filter" ]; then
     measure_library "$build/src/libplatform_widgets.so.1.2" "$build/bench/platform_bench_loading" "$results"
     note_run "$results"
 fi
-python3 tools/bench/table.py "$results" $document | tee "$build/table.md"
+python3 tools/bench/table.py "$results" | tee "$build/table.md"
+[ -z "$accept" ] || accept_figures benchmarks "./dev bench --accept" <"$build/table.md"

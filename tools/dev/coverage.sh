@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # run the tests and say which lines and branches of the library they reach
 #
-# usage: ./dev coverage [--no-run]
+# usage: ./dev coverage [--no-run] [--accept]
 #
 #   --no-run  report on the last run
+#   --accept  keep the figures as docs/figures/coverage.md
 #
 # The pages build/coverage/report/*.html show the sources with what was missed. Fails below 98 % of
 # the lines or 90 % of the branches of src/ and include/. Left out are
@@ -12,13 +13,16 @@
 # - lines marked GCOVR_EXCL with a reason; they are listed.
 
 run=yes
-case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
-    --no-run) run=no; shift ;;
-    "") ;;
-    *) unknown_option coverage "$1" ;;
-esac
-[ $# -eq 0 ] || die "coverage: too many arguments"
+accept=
+while [ $# -gt 0 ]; do
+    case "$1" in
+        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
+        --no-run) run=no ;;
+        --accept) accept=yes ;;
+        *) unknown_option coverage "$1" ;;
+    esac
+    shift
+done
 
 need_packages build test coverage
 if [ "$run" = yes ]; then
@@ -40,4 +44,6 @@ gcovr --root . --object-directory build/coverage -j "$(nproc)" \
     && status=0 || status=$?
 cat build/coverage/report/lines.txt
 grep -E '^(lines|branches):' build/coverage/report/summary.txt
+[ -z "$accept" ] || grep -E '^(lines|branches):' build/coverage/report/summary.txt | sed 's/^/    /' |
+    accept_figures coverage "./dev coverage --accept"
 exit "$status"

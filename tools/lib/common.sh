@@ -33,5 +33,6 @@ build() {
     cmake --build --preset "$preset" ${targets[@]+"${targets[@]}"} >&2
 }
 
+. "$DEV_ROOT/tools/lib/figures.sh"
 . "$DEV_ROOT/tools/lib/packages.sh"
 . "$DEV_ROOT/tools/lib/tests.sh"
