@@ -18,6 +18,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QtTest>
 #include <QVariantAnimation>
 
 using ui::KeypadLineEdit;
@@ -84,17 +85,20 @@ Iteration edit(QWidget& window)
     second->move(0, 50);
     return [=](int iteration) {
         KeypadLineEdit* field = iteration % 2 == 0 ? first : second;
+        const auto isShown = [field] { return field->keypad() && field->keypad()->isVisible(); };
+        // An X server may make the window active only later.
         field->setFocus();
-        processEvents();
-        const bool shown = field->keypad() && field->keypad()->isVisible();
+        if (!QTest::qWaitFor(isShown))
+            return false;
         field->insert(QStringLiteral("1"));
-        if (shown && iteration % 3 < 2)
+        if (iteration % 3 < 2)
             keypadKey(*field->keypad(), iteration % 3 == 0 ? "OK" : "Cancel")->click();
         else
             field->clearFocus();
-        processEvents();
+        const bool hidden = QTest::qWaitFor([isShown] { return !isShown(); });
         field->setText(QString());
-        return shown && !field->keypad()->isVisible();
+        processEvents();
+        return hidden;
     };
 }
 
