@@ -101,7 +101,8 @@ public:
         m_longestBlock = m_clock.elapsed();
     }
 
-    /// Until nothing happens any more: the model sorts when it has all, and the view lays out again.
+    /// Until nothing happens any more: the model sorts when it has all, and the view lays out
+    /// again.
     void showAll(int count)
     {
         constexpr qint64 patience = 300000;

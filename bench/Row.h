@@ -53,7 +53,8 @@ struct Row
     int parts = 1; ///< How many widgets one run is for; the table tells the cost of one.
 };
 
-/// What Qt's dispatch costs, and the rows whose names match the regular expression \a filter, in their order.
+/// What Qt's dispatch costs, and the rows whose names match the regular expression \a filter, in
+/// their order.
 QVector<Row> rows(const QString& filter);
 
 } // namespace bench

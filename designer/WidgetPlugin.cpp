@@ -4,7 +4,8 @@
 
 namespace {
 
-/// Object name of the first instance on a form: the class name without namespace, in lower camel case.
+/// Object name of the first instance on a form: the class name without namespace, in lower camel
+/// case.
 QString instanceName(const QString& className)
 {
     QString name = className.section(QStringLiteral("::"), -1);

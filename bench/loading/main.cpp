@@ -6,7 +6,8 @@
 #include <stdexcept>
 #include <string>
 
-// Linked to all that the library needs, as the application that loads it is, but not to the library.
+// Linked to all that the library needs, as the application that loads it is, but not to the
+// library.
 
 namespace {
 

@@ -19,8 +19,8 @@ protected:
     }
 };
 
-/// What Qt's dispatch of a paint event to one widget costs beside the drawing: the difference between this
-/// row's columns is taken off every painted row.
+/// What Qt's dispatch of a paint event to one widget costs beside the drawing: the difference
+/// between this row's columns is taken off every painted row.
 Row dispatchRow()
 {
     const QSize size(200, 100);

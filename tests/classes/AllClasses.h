@@ -28,7 +28,8 @@ struct ClassInfo
 
     bool isWidget() const;
     QObject* createTypical(QWidget* parent) const;
-    /// The same, shown with its parent; null of an object that is no widget, or a window of its own.
+    /// The same, shown with its parent; null of an object that is no widget, or a window of its
+    /// own.
     QWidget* createTypicalWidget(QWidget* parent) const;
 };
 

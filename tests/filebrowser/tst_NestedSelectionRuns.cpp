@@ -151,7 +151,8 @@ Ranges randomRanges(QRandomGenerator& random, int count)
     return ranges;
 }
 
-/// A slot that meddles with the selection at the first few emissions, always the same way for a \a seed.
+/// A slot that meddles with the selection at the first few emissions, always the same way for a \a
+/// seed.
 Slot randomSlot(quint32 seed, const QString& path)
 {
     constexpr int lastMeddling = 4;

@@ -85,8 +85,8 @@ public:
 
 } // namespace
 
-// Stands before the C library's function when Qt's references are resolved. Directories are read in a
-// thread of the file system model; with the gate closed, that thread waits as for a slow medium.
+// Stands before the C library's function when Qt's references are resolved. Directories are read in
+// a thread of the file system model; with the gate closed, that thread waits as for a slow medium.
 extern "C" Q_DECL_EXPORT dirent64* readdir64(DIR* directory)
 {
     const bool firstThread = !qApp || QThread::currentThread() == qApp->thread();

@@ -68,7 +68,8 @@ void tst_LibraryBoundary::namesTheDynamicType()
     QVERIFY(typeid(widget) != typeid(FramedPage));
 }
 
-// The library calls the application's function itself: Qt's own code need not let exceptions through.
+// The library calls the application's function itself: Qt's own code need not let exceptions
+// through.
 void tst_LibraryBoundary::passesExceptionsOn()
 {
     UndecidedControl control;

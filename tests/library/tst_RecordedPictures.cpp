@@ -10,9 +10,9 @@
 #include <QIcon>
 
 /**
- * Compares what is painted with pictures that an x86-64 processor painted: not a bit differs on ARM.
- * Without text, which follows the installed fonts. A changed look changes a picture: the failing test
- * leaves the new one in its working directory.
+ * Compares what is painted with pictures that an x86-64 processor painted: not a bit differs on
+ * ARM. Without text, which follows the installed fonts. A changed look changes a picture: the
+ * failing test leaves the new one in its working directory.
  */
 class tst_RecordedPictures : public QObject
 {

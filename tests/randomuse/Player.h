@@ -14,8 +14,8 @@ void collectWarnings();
 QStringList takeWarnings();
 
 /**
- * Ends every menu that opens in the next iteration of the event loop: a menu has an event loop of its own,
- * in which no command is played. Chooses the first entry every other time.
+ * Ends every menu that opens in the next iteration of the event loop: a menu has an event loop of
+ * its own, in which no command is played. Chooses the first entry every other time.
  */
 class MenuCloser : public QObject
 {

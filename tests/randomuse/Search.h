@@ -54,8 +54,8 @@ Commands shrunk(Commands commands, const std::function<bool(const Commands&)>& f
 
 /**
  * Plays \a count random commands of \a widget's model in a process of \a program. Returns an empty
- * text if every invariant was kept, else a report with the seed, what broke and the fewest commands that
- * break it.
+ * text if every invariant was kept, else a report with the seed, what broke and the fewest commands
+ * that break it.
  */
 QString search(const QString& program, const QString& widget, quint32 seed, int count);
 

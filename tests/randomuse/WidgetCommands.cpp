@@ -14,8 +14,8 @@ void resize(QWidget& widget, const QSize& size)
     widget.resize(widget.isWindow() ? size.boundedTo(limit) : size);
 }
 
-/// Qt leaves a window that is not active with a pointer to its focus widget if that is hidden, moved to
-/// another window and deleted.
+/// Qt leaves a window that is not active with a pointer to its focus widget if that is hidden,
+/// moved to another window and deleted.
 void leaveFocus(const QWidget& widget)
 {
     QWidget* focused = widget.window()->focusWidget();

@@ -32,8 +32,8 @@ private:
 };
 
 /**
- * A model for a widget in one of two windows. Whatever deletes the widget, there is a new one for the next
- * action, and the model begins afresh with it.
+ * A model for a widget in one of two windows. Whatever deletes the widget, there is a new one for
+ * the next action, and the model begins afresh with it.
  */
 class WidgetModel : public Model
 {

@@ -9,7 +9,8 @@ QT_END_NAMESPACE
 
 namespace test {
 
-/// The key of the accessible name \a name, if there are several the one that is shown; null without it.
+/// The key of the accessible name \a name, if there are several the one that is shown; null without
+/// it.
 QPushButton* findKeypadKey(const QWidget& keypad, const QString& name);
 
 /// The same, but without the key the test fails.

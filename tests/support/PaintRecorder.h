@@ -19,7 +19,8 @@ public:
     /// Watches \a widget, which must outlive the recorder.
     explicit PaintRecorder(QWidget* widget);
 
-    /// The regions of the paint events since the last call, after the pending ones have been delivered.
+    /// The regions of the paint events since the last call, after the pending ones have been
+    /// delivered.
     QVector<QRegion> takeRegions();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

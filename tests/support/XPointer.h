@@ -9,11 +9,11 @@ QT_END_NAMESPACE
 namespace test {
 
 /**
- * The pointer and the keyboard of the X server that the test runs on, moved from outside the process
- * by xdotool.
+ * The pointer and the keyboard of the X server that the test runs on, moved from outside the
+ * process by xdotool.
  *
- * Each function processes events until xdotool has ended, and returns whether it succeeded. What the
- * application makes of it may take longer: wait for it.
+ * Each function processes events until xdotool has ended, and returns whether it succeeded. What
+ * the application makes of it may take longer: wait for it.
  */
 class XPointer
 {
@@ -34,7 +34,8 @@ public:
     /// Presses at \a from, moves to \a to as fast as a hand, and releases there.
     static bool drag(const QPoint& from, const QPoint& to);
 
-    /// Presses and releases the key of the X name \a name on the hardware keyboard, such as "Return".
+    /// Presses and releases the key of the X name \a name on the hardware keyboard, such as
+    /// "Return".
     static bool key(const char* name);
 };
 

@@ -9,8 +9,8 @@ QT_END_NAMESPACE
 
 /**
  * Writes down whatever can be observed of an object from outside, in its order: each event that it
- * gets as "KeyPress", the change of a dynamic property with its new value, and each of its signals as
- * "textEdited(1)". A signal that the object reacts to itself comes after that reaction.
+ * gets as "KeyPress", the change of a dynamic property with its new value, and each of its signals
+ * as "textEdited(1)". A signal that the object reacts to itself comes after that reaction.
  */
 class FieldLog : public QObject
 {

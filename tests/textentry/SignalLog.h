@@ -11,8 +11,9 @@ class LineEdit;
 namespace test {
 
 /**
- * Writes down the signals of a line edit as "name" or "name(argument)", in the order in which the slots
- * of an application see them: signals that the field reacts to itself come after that reaction.
+ * Writes down the signals of a line edit as "name" or "name(argument)", in the order in which the
+ * slots of an application see them: signals that the field reacts to itself come after that
+ * reaction.
  */
 class SignalLog : public QObject
 {

@@ -94,7 +94,8 @@ void tst_KeypadPopupPlacement::place_data()
                 << desktop << field << popup << expected;
         };
         row("below", {40, 50}, {40, 80});
-        // Bottom edge: the pop-up's bottom at height, one pixel below, the field at the very bottom.
+        // Bottom edge: the pop-up's bottom at height, one pixel below, the field at the very
+        // bottom.
         const int lastBelow = height - popup.height() - fieldHeight;
         row("fits below exactly", {40, lastBelow}, {40, height - popup.height()});
         row("one too low", {40, lastBelow + 1}, {40, lastBelow + 1 - popup.height()});

@@ -67,8 +67,8 @@ bool tapKey(const KeypadLineEdit* field, const char* name)
     return key && XPointer::tap(*key) && QTest::qWaitFor([=] { return !key->isDown(); });
 }
 
-/// Taps \a next while the keypad of \a open is up. The tap that closes a pop-up does not reach what is
-/// under it: Qt gives the press to nobody, or without the focus. So the second one counts.
+/// Taps \a next while the keypad of \a open is up. The tap that closes a pop-up does not reach what
+/// is under it: Qt gives the press to nobody, or without the focus. So the second one counts.
 bool tapBeside(const KeypadLineEdit* open, const KeypadLineEdit* next)
 {
     return XPointer::tap(*next) && waitUntilHidden(open) && XPointer::tap(*next);
@@ -76,7 +76,8 @@ bool tapBeside(const KeypadLineEdit* open, const KeypadLineEdit* next)
 
 } // namespace
 
-/// The road of a tap, with pointer and keys from outside the process, a window manager and a real screen.
+/// The road of a tap, with pointer and keys from outside the process, a window manager and a real
+/// screen.
 class tst_KeypadTaps : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,8 @@ struct Workload
 {
     const char* name;
     const char* classes; ///< That it uses, separated by spaces.
-    /// Fills a window, and returns what to do in each iteration; that is false if it did not happen.
+    /// Fills a window, and returns what to do in each iteration; that is false if it did not
+    /// happen.
     std::function<bool(int iteration)> (*begin)(QWidget& window);
 };
 

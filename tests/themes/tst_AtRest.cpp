@@ -17,7 +17,8 @@ using test::ClassInfo;
 
 namespace {
 
-/// The timers of \a object and all that it owns, and of the models of its views, which it may not own.
+/// The timers of \a object and all that it owns, and of the models of its views, which it may not
+/// own.
 QVector<int> timers(QObject* object)
 {
     QVector<int> result;

@@ -38,8 +38,8 @@ int accessibleChildren(QWidget& widget)
 /**
  * The library comes and goes with a part of an application that goes on running.
  *
- * The part may not ask for properties of enumerations and of Style::Animation by name: Qt then keeps
- * pointers to functions for these types for good, as it does for any library's.
+ * The part may not ask for properties of enumerations and of Style::Animation by name: Qt then
+ * keeps pointers to functions for these types for good, as it does for any library's.
  */
 class tst_LoadedWhileRunning : public QObject
 {

@@ -343,7 +343,8 @@ void tst_Animator::interpolateGoesOnWherePaused()
     QCOMPARE(animator.currentValue(), QVariant(62));
 }
 
-/// The time that passed before it, in which Qt's timer may have had no chance to tick, does not count.
+/// The time that passed before it, in which Qt's timer may have had no chance to tick, does not
+/// count.
 void tst_Animator::interpolateRestartsTheClock()
 {
     ManualDriver driver;

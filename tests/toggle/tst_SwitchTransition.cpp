@@ -149,7 +149,8 @@ void tst_SwitchTransition::anyOtherStateIsOff()
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOff));
 }
 
-// A quarter of the time is an eighth of the way on an in-out parabola, and a quarter of the colours.
+// A quarter of the time is an eighth of the way on an in-out parabola, and a quarter of the
+// colours.
 void tst_SwitchTransition::positionIsEased()
 {
     control().setThumbPosAnimation({QEasingCurve::InOutQuad, 200});

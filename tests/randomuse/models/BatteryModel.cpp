@@ -10,7 +10,8 @@ namespace test {
 
 namespace {
 
-/// What a battery tells assistive technology, and geometry that grows with what it is computed from.
+/// What a battery tells assistive technology, and geometry that grows with what it is computed
+/// from.
 class BatteryModel : public WidgetModel
 {
 public:

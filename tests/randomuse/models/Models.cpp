@@ -32,7 +32,8 @@ constexpr char loop[] = "loop";
 constexpr char faulty[] = "faulty"; // no widget, and not in the list
 constexpr char together[] = "together";
 
-/// Several models with their widgets in the same windows: each has to keep its invariants among the others.
+/// Several models with their widgets in the same windows: each has to keep its invariants among the
+/// others.
 class CombinedModel : public Model
 {
 public:

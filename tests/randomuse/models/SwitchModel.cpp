@@ -35,7 +35,8 @@ public:
     /// The state has been set.
     void checkStateSet(const Switch& toggle, bool on);
 
-    /// Of the thumb's colour, the track's colour and the thumb's position, invalid if it may be any.
+    /// Of the thumb's colour, the track's colour and the thumb's position, invalid if it may be
+    /// any.
     QVariantList all() const;
 
 private:
