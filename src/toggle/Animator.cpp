@@ -27,7 +27,8 @@ void restart(Animator& animator)
     if (animator.endValue().isValid()) {
         const QSignalBlocker silence(&animator);
         animator.pause();
-        animator.resume();
+        if (animator.state() == QAbstractAnimation::Paused) // not if it shall not loop even once
+            animator.resume();
     }
     animator.setCurrentTime(startTime(animator));
 }

@@ -1,4 +1,5 @@
 #include "Animator.h"
+#include "ManualDriver.h"
 #include "TestApplication.h"
 #include "UpdateCounter.h"
 
@@ -14,29 +15,6 @@ const char refusedTarget[] =
 const char noTarget[] = "Animation::updateState: Changing state of an animation without target";
 const char noEndValue[] =
     "Animation::updateState (QObject): starting an animation without end value";
-
-/// Lets time pass for animations as the test has it.
-class ManualDriver : public QAnimationDriver
-{
-public:
-    qint64 elapsed() const override
-    {
-        return m_time;
-    }
-    /// The application is busy, and nothing ticks.
-    void block(int milliseconds)
-    {
-        m_time += milliseconds;
-    }
-    void pass(int milliseconds)
-    {
-        m_time += milliseconds;
-        advance();
-    }
-
-private:
-    qint64 m_time = 0;
-};
 
 QByteArray lastCategory;
 
@@ -71,6 +49,7 @@ private Q_SLOTS:
     void interpolateRestartsTheClock();
     void interpolateKeepsTheDeletionPolicy();
     void interpolateWithoutEndValueWhileRunning();
+    void interpolateWithoutLoopsWhileRunning();
     void interpolateWithoutTargetWhileRunning();
     void setCurrentValueTellsOnce_data();
     void setCurrentValueTellsOnce();
@@ -347,21 +326,16 @@ void tst_Animator::interpolateGoesOnWherePaused()
 /// count.
 void tst_Animator::interpolateRestartsTheClock()
 {
-    ManualDriver driver;
-    driver.install();
+    test::ManualDriver driver;
     QObject target;
     Animator animator(&target, nullptr);
     animator.setup(100);
     for (const int end : {10, 20, 30}) {
         animator.interpolate(0, end);
-        QCoreApplication::processEvents(); // in which Qt takes the animation up
-        QCoreApplication::processEvents(); // and starts the clock, if it was idle
         driver.pass(40);
         QCOMPARE(animator.currentTime(), 40);
         driver.block(5000);
     }
-    animator.stop();
-    driver.uninstall();
 }
 
 void tst_Animator::interpolateKeepsTheDeletionPolicy()
@@ -392,6 +366,19 @@ void tst_Animator::interpolateWithoutEndValueWhileRunning()
     QCOMPARE(animator.state(), QAbstractAnimation::Running);
     QCOMPARE(animator.currentTime(), 0);
     animator.setEndValue(1);
+}
+
+/// Qt changes the state of such an animation no more.
+void tst_Animator::interpolateWithoutLoopsWhileRunning()
+{
+    QObject target;
+    Animator animator(&target, nullptr);
+    animator.setup(100);
+    animator.interpolate(0, 10);
+    animator.setLoopCount(0);
+    animator.interpolate(20, 30);
+    QCOMPARE(animator.state(), QAbstractAnimation::Running);
+    QCOMPARE(animator.currentTime(), 0);
 }
 
 void tst_Animator::interpolateWithoutTargetWhileRunning()
