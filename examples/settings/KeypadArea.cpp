@@ -28,7 +28,10 @@ KeypadArea::KeypadArea(QWidget* parent)
 {
     auto* content = new QWidget;
     content->setObjectName("column");
-    content->setLayout(m_column);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(m_column);
+    layout->addStretch();
     setWidget(content);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -69,14 +72,16 @@ void KeypadArea::makeRoom(ui::KeypadLineEdit* field)
     const int missing = top + field->height() + keypad - screen()->size().height();
     if (missing <= 0 || top >= keypad) // under the field, or above it
         return;
+    // The content grows, in case it ends before the field can be as high as that.
     QScrollBar* bar = verticalScrollBar();
-    bar->setMaximum(qMax(bar->maximum(), bar->value() + missing));
+    widget()->setMinimumHeight(bar->value() + missing + viewport()->height());
+    QCoreApplication::sendPostedEvents(viewport(), QEvent::LayoutRequest);
     bar->setValue(bar->value() + missing);
 }
 
 void KeypadArea::takeRoomBack()
 {
-    verticalScrollBar()->setMaximum(qMax(0, widget()->height() - viewport()->height()));
+    widget()->setMinimumHeight(0);
 }
 //! [KeypadArea]
 

@@ -80,7 +80,7 @@ SettingsPanel::SettingsPanel(const QStringList& updateFolders, bool dark, QWidge
     area->setObjectName("area");
     for (QWidget* card : {makeHeating(), makeNetwork(), makeDisplay(dark), makeUpdate()})
         area->column()->addWidget(card);
-    area->column()->addStretch();
+    area->column()->setContentsMargins(margin, margin, margin, margin);
     area->column()->setSpacing(margin);
 
     auto* column = new QVBoxLayout(this);

@@ -31,7 +31,6 @@ Colors darkColors()
     return {"#16191c", "#24292d", "#7b868d", "#e6e9eb", "#a3adb3", "#5cb8e0", "#0b1a21", "#ff9c94"};
 }
 
-//! [dark]
 QPalette paletteOf(const Colors& colors)
 {
     QPalette palette(colors.card, colors.ground);
@@ -53,7 +52,6 @@ QPalette indicatorPaletteOf(const Colors& colors)
     palette.setColor(QPalette::Button, Qt::white);
     return palette;
 }
-//! [dark]
 
 QString styleSheetOf(const Colors& colors)
 {
@@ -81,12 +79,10 @@ void Theme::apply(QApplication& application, bool dark)
     QApplication::setPalette(indicatorPaletteOf(colors), "ui::widgets::ScrollIndicatorBar");
     application.setStyleSheet(styleSheetOf(colors));
 
-    //! [states]
     // The style sheet has just set the colours of the switches, which shows those of the off state.
     const auto widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
         if (auto* toggle = qobject_cast<Switch*>(widget))
             toggle->toggle(toggle->checkState());
     }
-    //! [states]
 }
