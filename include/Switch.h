@@ -55,6 +55,10 @@ Q_DECLARE_METATYPE(Style::Animation)
  *
  * \snippet Switch.cpp Switch
  *
+ * Where a style sheet gives the colours, it comes before the state, too:
+ *
+ * \snippet Switch.cpp style sheet
+ *
  * The nearest class of Qt is QCheckBox, which is drawn by the style. The switch draws itself from
  * its properties, so it looks the same under every style, and animates every change of its state.
  *
@@ -89,7 +93,7 @@ Q_DECLARE_METATYPE(Style::Animation)
  * A setter that changes its property repaints the switch and asks for no new layout: call
  * updateGeometry() after setHeight() or setIndicatorMargin() in a layout. It also puts the colours
  * at rest back to those of the off state, until the state is set the next time; so set the colours
- * before the state, or call setChecked(isChecked()) after them.
+ * before the state, or call toggle(checkState()) after them, which emits no signal.
  *
  * \par Motion
  * Every setting of the state starts a transition, also to the state that the switch already has.

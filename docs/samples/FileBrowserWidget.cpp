@@ -2,6 +2,7 @@
 
 #include <ui/FileBrowserWidget.h>
 
+#include <QFileInfo>
 #include <QPushButton>
 
 void samples::fileBrowser(QWidget* window)
@@ -13,7 +14,9 @@ void samples::fileBrowser(QWidget* window)
 
     auto* open = new QPushButton(QObject::tr("Open"), window);
     open->setEnabled(false);
-    QObject::connect(browser, &ui::FileBrowserWidget::selectionChanged, open,
-                     [browser, open] { open->setEnabled(!browser->selectedFiles().isEmpty()); });
+    QObject::connect(browser, &ui::FileBrowserWidget::selectionChanged, open, [browser, open] {
+        const QString selected = browser->selectedFiles().value(0);
+        open->setEnabled(QFileInfo(selected).isFile()); // an opened directory stays selected
+    });
     //! [FileBrowserWidget]
 }

@@ -14,3 +14,11 @@ void samples::lineEdit(QWidget* window)
                      [name, window] { window->setWindowTitle(name->text()); });
     //! [LineEdit]
 }
+
+void samples::setTextAndValidate(ui::LineEdit* name, const QString& text)
+{
+    //! [setText]
+    name->setText(text);
+    Q_EMIT name->textEdited(text); // validates it, as if the user had typed it
+    //! [setText]
+}

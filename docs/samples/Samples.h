@@ -3,11 +3,16 @@
 #include <QtGlobal>
 
 QT_BEGIN_NAMESPACE
+class QString;
 class QWidget;
 QT_END_NAMESPACE
 
+namespace ui {
+class LineEdit;
+}
+
 /**
- * The code samples of the reference, one per class.
+ * The code samples of the reference, one per class, and recipes.
  *
  * What lies between the marks "//! [CLASS]" of a source is what the page of that class shows, and
  * is compiled and run by the tests. Each function makes its widgets on \a window, which owns them.
@@ -29,5 +34,14 @@ void roundedFrame(QWidget* window);
 void scrollIndicator(QWidget* window);
 void selectionControl(QWidget* window);
 void switchControl(QWidget* window);
+
+/// A switch that is on from the start, in the colours of a style sheet.
+void styledSwitch(QWidget* window);
+/// Gives \a window another style sheet, and its switches the colours of their states in it.
+void changeStyleSheet(QWidget* window, const QString& styleSheet);
+/// Makes the whole application dark.
+void darkTheme();
+/// Gives \a name the \a text, and its validator's verdict on it.
+void setTextAndValidate(ui::LineEdit* name, const QString& text);
 
 } // namespace samples

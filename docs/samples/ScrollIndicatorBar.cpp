@@ -15,7 +15,8 @@ void samples::scrollIndicator(QWidget* window)
     QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
     QObject::connect(QScroller::scroller(area->viewport()), &QScroller::stateChanged, indicator,
                      [indicator](QScroller::State state) {
-                         indicator->setHighlightBar(state != QScroller::Inactive);
+                         indicator->setHighlightBar(state == QScroller::Dragging
+                                                    || state == QScroller::Scrolling);
                      });
     //! [ScrollIndicatorBar]
 }

@@ -31,6 +31,11 @@ class FileSystemModel;
  *
  * \snippet FileBrowserWidget.cpp FileBrowserWidget
  *
+ * In a dialog, the selection is read before the dialog closes: selectedFiles() of a browser that is
+ * hidden is the selection of the list view, and so mostly empty.
+ *
+ * \snippet FileDialog.cpp FileDialog
+ *
  * \anchor looks_FileBrowserWidget
  * \par Palette roles and style-sheet hooks
  * | Role, property or selector | Effect |

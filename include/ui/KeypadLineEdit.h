@@ -20,6 +20,8 @@ class KeypadPopup;
  *
  * \snippet KeypadLineEdit.cpp KeypadLineEdit
  *
+ * In an area that is dragged, a field needs more: see \ref keypads_area.
+ *
  * \anchor looks_KeypadLineEdit
  * \par Palette roles and style-sheet hooks
  * | Role, property or selector | Effect |

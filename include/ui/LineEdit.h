@@ -20,8 +20,10 @@ namespace ui {
  * \snippet LineEdit.cpp LineEdit
  *
  * An application's style sheet can colour text that is not acceptable. The dynamic property
- * "inputValid" is true from construction on and is not reset when the focus changes; setText() does
- * not touch it.
+ * "inputValid" is true from construction on and is not reset when the focus changes. setText() does
+ * not touch it; to have the text validated that it sets:
+ *
+ * \snippet LineEdit.cpp setText
  *
  * A screen reader hears of it as well: after an edit that is not acceptable, what it is told as the
  * field's description begins with "Invalid input", before what the application says there.
