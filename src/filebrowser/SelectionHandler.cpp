@@ -26,6 +26,7 @@ SelectionHandler::SelectionHandler(FileBrowserWidget* browser, FileSystemModel* 
     , m_model(model)
     , m_tileView(tileView)
     , m_openDirectory(std::move(openDirectory))
+    , m_tapGuard(tileView->viewport())
 {
 }
 
@@ -38,14 +39,12 @@ void SelectionHandler::run()
 }
 
 /// Opens the selected directory if it is the only row; else returns the directories among the rows.
-SelectionHandler::Directories SelectionHandler::openOrCollect() const
+SelectionHandler::Directories SelectionHandler::openOrCollect()
 {
     Directories directories;
     const QModelIndexList rows = SelectionSnapshot(selectionModel(), m_model).rows();
     if (rows.size() == 1 && m_model->isDir(rows.first())) {
-        const QString path = m_model->filePath(rows.first());
-        if (!path.isEmpty())
-            m_openDirectory(path);
+        open(m_model->filePath(rows.first()));
         return directories;
     }
     for (const QModelIndex& row : rows) {
@@ -53,6 +52,16 @@ SelectionHandler::Directories SelectionHandler::openOrCollect() const
             directories.append(row);
     }
     return directories;
+}
+
+void SelectionHandler::open(const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    const QString before = m_model->rootPath();
+    m_openDirectory(path);
+    if (m_model && m_model->rootPath() != before)
+        m_tapGuard.directoryOpened();
 }
 
 void SelectionHandler::deselect(const Directories& directories)

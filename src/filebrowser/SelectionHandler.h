@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TapGuard.h"
+
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QVector>
@@ -40,7 +42,8 @@ public:
 private:
     using Directories = QVector<QPersistentModelIndex>;
 
-    Directories openOrCollect() const;
+    Directories openOrCollect();
+    void open(const QString& path);
     void deselect(const Directories& directories);
     void deselectWithoutNesting(int count);
     QItemSelectionModel* selectionModel() const;
@@ -49,6 +52,7 @@ private:
     QPointer<FileSystemModel> m_model;
     QPointer<QListView> m_tileView;
     OpenDirectory m_openDirectory;
+    TapGuard m_tapGuard;
     bool m_nothingLeft = false; ///< Whether the next run finds what the last one has left.
 };
 

@@ -1,6 +1,7 @@
 #include "BreadCrumbsWidget.h"
 #include "BrowserParts.h"
 #include "ClickableLabel.h"
+#include "EventCounter.h"
 #include "OpenMenu.h"
 #include "TestApplication.h"
 #include "Tree.h"
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void openADirectoryAndComeBackByACrumb();
+    void tremblingTap();
+    void doubleTap();
     void comeBackByTheMenu();
     void switchViews();
     void pickAFile();
@@ -65,6 +68,7 @@ void tst_FileBrowserTaps::initTestCase()
 
 void tst_FileBrowserTaps::init()
 {
+    QApplication::setDoubleClickInterval(0); // however fast the taps of a test follow each other
     m_window = std::make_unique<QWidget>();
     m_browser = new ui::FileBrowserWidget(m_window.get());
     m_parts = std::make_unique<BrowserParts>(*m_browser);
@@ -111,6 +115,38 @@ void tst_FileBrowserTaps::openADirectoryAndComeBackByACrumb()
     QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top/a")));
     QVERIFY(settled({"a"}));
     QTRY_COMPARE(shownNames(*m_parts->tileView), QStringList{"b"});
+}
+
+void tst_FileBrowserTaps::tremblingTap()
+{
+    const QListView& view = *m_parts->tileView;
+    EventCounter moves(view.viewport(), QEvent::MouseMove);
+    EventCounter releases(view.viewport(), QEvent::MouseButtonRelease);
+    const QPoint place =
+        view.viewport()->mapToGlobal(view.visualRect(entry(view, QStringLiteral("a"))).center());
+    QVERIFY(XPointer::press(place));
+    QTRY_COMPARE(shownNames(view), QStringList{"b"});
+    moves.take();
+    QVERIFY(XPointer::move(place + QPoint(2, 2)));
+    QVERIFY(QTest::qWaitFor([&] { return moves.take() > 0; }));
+    QVERIFY(XPointer::release());
+    QVERIFY(QTest::qWaitFor([&] { return releases.take() > 0; }));
+    QCOMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top/a")));
+}
+
+void tst_FileBrowserTaps::doubleTap()
+{
+    constexpr int longInterval = 10000; // milliseconds; xdotool is slow on a busy machine
+    // Elsewhere, so that the first tap is not the second one of another double tap.
+    QVERIFY(tapEntry(*m_parts->tileView, QStringLiteral("file")));
+    QApplication::setDoubleClickInterval(longInterval);
+    EventCounter doubleClicks(m_parts->tileView->viewport(), QEvent::MouseButtonDblClick);
+    const QPoint place = m_parts->tileView->visualRect(entry(*m_parts->tileView, "a")).center();
+    QVERIFY(XPointer::tap(*m_parts->tileView->viewport(), place));
+    QTRY_COMPARE(shownNames(*m_parts->tileView), QStringList{"b"});
+    QVERIFY(XPointer::tap(*m_parts->tileView->viewport(), place));
+    QVERIFY(QTest::qWaitFor([&] { return doubleClicks.take() > 0; }));
+    QCOMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top/a")));
 }
 
 void tst_FileBrowserTaps::comeBackByTheMenu()
