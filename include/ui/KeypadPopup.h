@@ -31,8 +31,8 @@ class IKeypad;
  *
  * ui::KeypadLineEdit does all of this by itself. The nearest neighbour in Qt is any QWidget with the
  * window type Qt::Popup, which takes the keyboard from the focused widget instead of feeding it. As
- * there, a press outside the pop-up, but not on the edited widget, closes it. It also goes, one turn of
- * the event loop later, when the edited widget is hidden, with its window or without.
+ * there, a press outside the pop-up, but not on the edited widget, closes it. Once the edited widget is
+ * hidden, with its window or without, the next iteration of the event loop hides the pop-up too.
  *
  * \anchor looks_KeypadPopup
  * \par Palette roles and style-sheet hooks

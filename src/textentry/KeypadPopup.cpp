@@ -71,14 +71,19 @@ bool isPassedToTarget(QEvent::Type type)
         || type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove;
 }
 
+/// In a graphics scene the pop-up is no part of it: there its mere creation would take the focus.
+Qt::WindowFlags windowFlagsFor(const QWidget* target)
+{
+    const bool isEmbedded = target->window()->graphicsProxyWidget();
+    return isEmbedded ? Qt::Popup | Qt::BypassGraphicsProxyWidget : Qt::WindowFlags(Qt::Popup);
+}
+
 /// Hides \a popup, as its \a field has been hidden, and ends the edit as any other closing does.
 void goWithField(QWidget* popup, const QPointer<QWidget>& field)
 {
-    if (!popup->isVisible())
-        return;
     popup->hide(); // may delete both
     // With a pop-up open, Qt leaves the focus in a window that is hidden: the next tap would be none.
-    if (field && !field->isVisible())
+    if (field && !field->isVisible() && field->hasFocus())
         field->clearFocus();
 }
 
@@ -86,7 +91,7 @@ void goWithField(QWidget* popup, const QPointer<QWidget>& field)
 
 KeypadPopup::KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::KeyboardType type,
                          int)
-    : QWidget(parent, Qt::Popup)
+    : QWidget(parent, windowFlagsFor(parent))
     , target(parent)
 {
     parent->installEventFilter(this);

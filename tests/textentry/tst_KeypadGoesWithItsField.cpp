@@ -187,7 +187,7 @@ void tst_KeypadGoesWithItsField::withAnyLineEdit()
 
     QHideEvent event;
     QVERIFY(!popup.eventFilter(edit, &event));
-    QVERIFY(popup.isVisible()); // one turn later
+    QVERIFY(popup.isVisible()); // until events are processed
     QTRY_VERIFY(!popup.isVisible());
     QVERIFY(edit->hasFocus()); // since it is visible after all
 }
