@@ -14,7 +14,7 @@ class LineEdit;
 /**
  * The code samples of the reference, one per class, and recipes.
  *
- * What lies between the marks "//! [CLASS]" of a source is what the page of that class shows, and
+ * What lies between the marks "//! [NAME]" of a source is what the page of that name shows, and
  * is compiled and run by the tests. Each function makes its widgets on \a window, which owns them.
  */
 namespace samples {
@@ -30,6 +30,7 @@ void gridButton(QWidget* window);
 void keypadLineEdit(QWidget* window);
 void keypadPopup(QWidget* window);
 void lineEdit(QWidget* window);
+void movingOn(QWidget* window);
 void roundedFrame(QWidget* window);
 void scrollIndicator(QWidget* window);
 void selectionControl(QWidget* window);

@@ -34,6 +34,9 @@ class KeypadPopup;
  * The pop-up is always shown and hidden one turn of the event loop after the request. It leaves the
  * focus with the field; focus that comes back because a pop-up was closed is given up at once. The
  * nearest neighbour in Qt is a QLineEdit with an input method, whose panel is not tied to one field.
+ *
+ * How to move on from one field to the next, and what to know of completers, of fields in pop-ups and
+ * of fields in a QGraphicsProxyWidget, tells \ref textfields.
  */
 class PLATFORM_WIDGETS_EXPORT KeypadLineEdit : public LineEdit
 {

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void hiddenDuringALoopInASlot_data();
     void hiddenDuringALoopInASlot();
     void cancelledBeforeItIsHidden();
+    void twoFieldsAtOnce();
 
 private:
     bool openKeypad();
@@ -134,6 +135,27 @@ void tst_KeypadLineEditOrder::cancelledBeforeItIsHidden()
     m_form->other->setFocus();
     QVERIFY(visible);
     QTRY_VERIFY(!m_field->keypad()->isVisible());
+}
+
+/// The showing asks neither for the focus nor for other keypads: taps close one after the other.
+void tst_KeypadLineEditOrder::twoFieldsAtOnce()
+{
+    m_form->resize(900, 700);
+    auto* second = new KeypadLineEdit(m_form.data(), KeyboardType::Integer);
+    second->setGeometry(500, 20, 200, 30);
+    second->show();
+    m_field->setFocus(Qt::MouseFocusReason);
+    second->setFocus(Qt::MouseFocusReason);
+    QTRY_VERIFY(m_field->keypad() && m_field->keypad()->isVisible());
+    QTRY_VERIFY(second->keypad() && second->keypad()->isVisible());
+
+    for (int closed = 1; closed <= 2; ++closed) {
+        QTest::mouseClick(m_form->windowHandle(), Qt::LeftButton, {}, QPoint(880, 680));
+        QTRY_COMPARE(int(m_field->keypad()->isVisible()) + int(second->keypad()->isVisible()),
+                     2 - closed);
+    }
+    QVERIFY(!QApplication::activePopupWidget());
+    QTRY_VERIFY(!m_field->hasFocus() && !second->hasFocus());
 }
 
 const test::Registration<tst_KeypadLineEditOrder> registration;
