@@ -1,6 +1,7 @@
 #include "Appearance.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QWidget>
 
 void Appearance::applyToApplication() const
@@ -34,7 +35,7 @@ QPalette Appearance::lightPalette()
 
 QPalette Appearance::darkPalette()
 {
-    QPalette palette(QColor(60, 63, 65), QColor(43, 45, 48));
+    QPalette palette(QColor(54, 57, 60), QColor(43, 45, 48));
     palette.setColor(QPalette::Base, QColor(30, 31, 34));
     palette.setColor(QPalette::AlternateBase, QColor(38, 40, 43));
     palette.setColor(QPalette::Link, QColor(106, 176, 222));
@@ -48,6 +49,9 @@ QPalette Appearance::darkPalette()
         palette.setColor(QPalette::Disabled, role, QColor(122, 126, 133));
     }
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 83, 86));
+    // Thin strokes on a button, which is lighter than the window, take the brightest text.
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        palette.setColor(group, QPalette::ButtonText, Qt::white);
     return palette;
 }
 
@@ -57,4 +61,14 @@ QPalette Appearance::indicatorPalette(QPalette palette)
         < palette.color(QPalette::WindowText).lightness();
     palette.setColor(QPalette::Button, isDark ? QColor(182, 184, 188) : QColor(186, 186, 186));
     return palette;
+}
+
+void Appearance::keepIconButtonsLight(QWidget& browser)
+{
+    const auto buttons = browser.findChildren<QPushButton*>(QStringLiteral("toolbarButton"));
+    for (QPushButton* button : buttons) {
+        QPalette palette = button->palette();
+        palette.setColor(QPalette::Button, lightPalette().color(QPalette::Button));
+        button->setPalette(palette);
+    }
 }

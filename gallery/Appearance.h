@@ -29,4 +29,8 @@ struct Appearance
     /// \a palette with a button colour that an idle scroll indicator can be seen with, which is a
     /// shade of it: light on what is dark and dark on what is light.
     static QPalette indicatorPalette(QPalette palette);
+
+    /// Leaves the buttons of \a browser with icons as light as in the light palette, since the icons are
+    /// dark.
+    static void keepIconButtonsLight(QWidget& browser);
 };

@@ -100,6 +100,15 @@ void TouchStyle::drawControl(ControlElement element, const QStyleOption* option,
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
+void TouchStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                              const QPalette& palette, bool enabled, const QString& text,
+                              QPalette::ColorRole textRole) const
+{
+    if (!text.isRightToLeft())
+        flags = (flags & ~Qt::TextForceRightToLeft) | Qt::TextForceLeftToRight;
+    QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
+}
+
 int TouchStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const
 {

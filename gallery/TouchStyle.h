@@ -3,8 +3,11 @@
 #include <QProxyStyle>
 
 /**
- * Fusion for touch screens: whatever can be tapped is at least touch::targetSize pixels high, a
- * slider goes where it is pressed, and a text that is too long for its control is elided.
+ * Fusion for touch screens.
+ *
+ * Whatever can be tapped is at least touch::targetSize pixels high, a slider goes where it is pressed,
+ * and a text that is too long for its control is elided. A text that is written from left to right is
+ * so in a mirrored application, too, with its numbers and signs.
  */
 class TouchStyle : public QProxyStyle
 {
@@ -20,6 +23,9 @@ public:
                            const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text,
+                      QPalette::ColorRole textRole) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -1,3 +1,4 @@
+#include "Appearance.h"
 #include "GalleryPage.h"
 #include "Pages.h"
 #include "properties/HiddenValues.h"
@@ -81,6 +82,8 @@ FileBrowserPage::FileBrowserPage(QWidget* parent, const QStringList& directories
             this, [this] { m_isReady = true; });
     hiddenvalues::set(m_browser, "allowedDirs",
                       directories.isEmpty() ? rootsByDefault() : directories);
+    Appearance::keepIconButtonsLight(*m_browser);
+
     // Its views are to be dragged like everything else here.
     const QList<QAbstractItemView*> views =
         m_browser->findChildren<QAbstractItemView*>(QString(), Qt::FindDirectChildrenOnly);

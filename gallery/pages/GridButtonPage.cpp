@@ -1,11 +1,11 @@
 #include "GalleryPage.h"
+#include "IconLabel.h"
 #include "Pages.h"
 
 #include <ui/CGridArrangedButton.h>
 
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 
 namespace {
@@ -24,13 +24,6 @@ QLabel* makeLabel(const QString& text, qreal scale = 1.0, bool bold = false)
     font.setPointSizeF(font.pointSizeF() * scale);
     font.setBold(bold);
     label->setFont(font);
-    return label;
-}
-
-QLabel* makeIcon(const QString& fileName)
-{
-    auto* label = new QLabel;
-    label->setPixmap(QIcon(QStringLiteral(":/icons/") + fileName).pixmap(iconExtent));
     return label;
 }
 
@@ -70,7 +63,8 @@ ui::CGridArrangedButton* GridButtonPage::makeWideButton()
     auto* button = new ui::CGridArrangedButton;
     button->setContentsMargins(margin, margin, margin, margin);
     button->setHorizontalSpacing(margin);
-    button->addWidget(makeIcon(QStringLiteral("usb.png")), 0, 0, 2, 1, Qt::AlignCenter);
+    button->addWidget(new IconLabel(QStringLiteral("usb.png"), iconExtent), 0, 0, 2, 1,
+                      Qt::AlignCenter);
     button->addWidget(makeLabel(tr("USB stick")), 0, 1, Qt::AlignLeft);
     button->addWidget(makeLabel(tr("12.4 GB"), 1.8, true), 1, 1, Qt::AlignLeft);
     button->addWidget(makeLabel(tr("free of 16 GB")), 1, 2, Qt::AlignRight | Qt::AlignBottom);
@@ -83,7 +77,7 @@ ui::CGridArrangedButton* GridButtonPage::makeTile(const QString& fileName, const
 {
     auto* button = new ui::CGridArrangedButton;
     button->setMinimumHeight(leastTileHeight);
-    button->addWidget(makeIcon(fileName), 0, 0, Qt::AlignCenter);
+    button->addWidget(new IconLabel(fileName, iconExtent), 0, 0, Qt::AlignCenter);
     button->addWidget(makeLabel(title), 1, 0, Qt::AlignCenter);
     button->setRowStretch(0, 1);
     present(button, title);

@@ -1,5 +1,6 @@
 #include "StateGalleries.h"
 
+#include "IconLabel.h"
 #include "pages/Picture.h"
 
 #include <ui/CGridArrangedButton.h>
@@ -7,7 +8,6 @@
 
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 
 using ui::CGridArrangedButton;
@@ -91,8 +91,7 @@ QLabel* makeLabel(const QString& text, bool bold)
 
 CGridArrangedButton* makeButton()
 {
-    auto* icon = new QLabel;
-    icon->setPixmap(QIcon(QStringLiteral(":/icons/usb.png")).pixmap(iconExtent));
+    auto* icon = new IconLabel(QStringLiteral("usb.png"), iconExtent);
     auto* button = new CGridArrangedButton;
     button->setContentsMargins(buttonMargin, buttonMargin, buttonMargin, buttonMargin);
     button->setHorizontalSpacing(buttonMargin);

@@ -1,5 +1,6 @@
 #include "StateGalleries.h"
 
+#include "Appearance.h"
 #include "FileTree.h"
 #include "Rendering.h"
 
@@ -46,6 +47,7 @@ FileBrowserWidget* makeBrowser(Root root)
 {
     auto* browser = new FileBrowserWidget;
     browser->setFixedSize(browserSize);
+    Appearance::keepIconButtonsLight(*browser);
     browser->setAllowedDirs({fileTree().device(), fileTree().stick()});
     auto* combo = browser->findChild<QComboBox*>();
     combo->setCurrentIndex(root);

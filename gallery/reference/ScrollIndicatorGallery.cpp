@@ -1,5 +1,7 @@
 #include "StateGalleries.h"
 
+#include "Appearance.h"
+
 #include <ui/ScrollIndicatorBar.h>
 
 #include <QCoreApplication>
@@ -26,6 +28,16 @@ ScrollIndicatorBar* makeBar(Qt::Orientation orientation, int value)
     bar->setPageStep(pageStep);
     bar->setValue(value);
     return bar;
+}
+
+/// As an application chooses it for a dark palette.
+auto dark(const std::function<ScrollIndicatorBar*()>& make)
+{
+    return [make] {
+        ScrollIndicatorBar* bar = make();
+        bar->setPalette(Appearance::indicatorPalette(Appearance::darkPalette()));
+        return bar;
+    };
 }
 
 auto vertical(int value)
@@ -72,8 +84,8 @@ StateGallery stategalleries::scrollIndicator()
                 {Texts::tr("Nothing to scroll"), makeIdle},
                 {Texts::tr("Highlighted"), makeHighlighted},
                 {Texts::tr("Much to scroll"), makeLong},
-                {Texts::tr("Dark palette"), vertical(range / 2), ClassState::Dark},
-                {Texts::tr("Dark, highlighted"), makeHighlighted, ClassState::Dark},
+                {Texts::tr("Dark palette"), dark(vertical(range / 2)), ClassState::Dark},
+                {Texts::tr("Dark, highlighted"), dark(makeHighlighted), ClassState::Dark},
                 {Texts::tr("Horizontal, at the start"), horizontal(0)},
                 {Texts::tr("Horizontal, in the middle"), horizontal(range / 2)},
                 {Texts::tr("Horizontal, at the end"), horizontal(range)},

@@ -1,3 +1,4 @@
+#include "AllClasses.h"
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
 #include "pages/Pages.h"
@@ -80,10 +81,14 @@ bool isName(const QString& text)
 {
     static const QRegularExpression names(
         QStringLiteral("^(platform_widgets .*|[a-z_]+\\.(svg|png)|/.*)$"));
-    static const QStringList classes = QStringLiteral(PUBLIC_CLASSES).split(QLatin1Char('|'));
+    const auto isNamed = [&text](const test::ClassInfo& info) {
+        return text == QLatin1String(info.name);
+    };
+    const QVector<test::ClassInfo>& classes = test::allClasses();
     static const QStringList directories = {QStringLiteral("music"), QStringLiteral("Berlin"),
                                             QStringLiteral("encores")};
-    return names.match(text).hasMatch() || classes.contains(text) || directories.contains(text);
+    return names.match(text).hasMatch() || std::any_of(classes.cbegin(), classes.cend(), isNamed)
+        || directories.contains(text);
 }
 
 } // namespace
