@@ -82,9 +82,9 @@ Q_SIGNALS:
     void dirChanged(QString path);
 
 private:
-    void addCrumb(const QString& crumb, const QString& path);
-    void report(ClickableLabel* label);
-    void showHiddenCrumbs();
+    PLATFORM_WIDGETS_NO_EXPORT void addCrumb(const QString& crumb, const QString& path);
+    PLATFORM_WIDGETS_NO_EXPORT void report(ClickableLabel* label);
+    PLATFORM_WIDGETS_NO_EXPORT void showHiddenCrumbs();
 
     QDir m_rootDir;
     QDir m_currentDir;

@@ -11,7 +11,6 @@
 #include <QPointer>
 
 class Animator;
-class SwitchGeometry;
 QT_BEGIN_NAMESPACE
 class QBrush;
 QT_END_NAMESPACE
@@ -277,14 +276,13 @@ private:
     struct Look; ///< What the painting routine needs to know of the state.
 
     void init();
-    SwitchGeometry measures() const;
     template <typename T>
-    void assign(T& field, const T& value);
-    Rest restAt(bool on) const;
-    void animateTo(bool on);
-    void jumpTo(bool on);
-    Look enabledLook() const;
-    Look disabledLook() const;
+    PLATFORM_WIDGETS_NO_EXPORT void assign(T& field, const T& value);
+    PLATFORM_WIDGETS_NO_EXPORT Rest restAt(bool on) const;
+    PLATFORM_WIDGETS_NO_EXPORT void animateTo(bool on);
+    PLATFORM_WIDGETS_NO_EXPORT void jumpTo(bool on);
+    PLATFORM_WIDGETS_NO_EXPORT Look enabledLook() const;
+    PLATFORM_WIDGETS_NO_EXPORT Look disabledLook() const;
 
     int m_height = 36; // makes the track as tall as its two corner radii
     QFont m_font;

@@ -13,8 +13,6 @@ QT_END_NAMESPACE
 
 namespace ui {
 
-class AccessibleBattery;
-
 /**
  * An upright battery that shows its charge.
  *
@@ -123,7 +121,7 @@ protected:
     void paintChargingIcon(QStylePainter& painter);
 
 private:
-    friend class AccessibleBattery;
+    class AccessibleBattery; ///< What assistive technology learns.
 
     int m_frameWidth; // of the outline pen, in pixels
     double m_cornerRadius; // of body and terminal, in pixels

@@ -125,8 +125,8 @@ Q_SIGNALS:
     void selectionChanged();
 
 private:
-    void changeRoot(int index);
-    void openDirectory(const QString& path);
+    PLATFORM_WIDGETS_NO_EXPORT void changeRoot(int index);
+    PLATFORM_WIDGETS_NO_EXPORT void openDirectory(const QString& path);
 
     FileSystemModel* m_model; // owned, without a parent; null once a program has deleted it
     BreadCrumbsWidget* m_breadCrumbs; // null likewise, as in a slot of dirChanged()

@@ -86,8 +86,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void createPopup();
-    void openPopup();
+    PLATFORM_WIDGETS_NO_EXPORT void createPopup();
+    PLATFORM_WIDGETS_NO_EXPORT void openPopup();
 
     ui::keyboard::KeyboardType keyboardType;
     KeypadPopup* popup = nullptr;

@@ -105,10 +105,10 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void connectKeypad();
-    QFrame* createFrame();
-    void createSubtitle(QWidget* frame, const QString& title);
-    bool passToTarget(const QMouseEvent& event);
+    PLATFORM_WIDGETS_NO_EXPORT void connectKeypad();
+    PLATFORM_WIDGETS_NO_EXPORT QFrame* createFrame();
+    PLATFORM_WIDGETS_NO_EXPORT void createSubtitle(QWidget* frame, const QString& title);
+    PLATFORM_WIDGETS_NO_EXPORT bool passToTarget(const QMouseEvent& event);
 
     ui::keyboard::IKeypad* keypadWidget = nullptr;
     QLabel* subtitleLabel = nullptr;

@@ -105,7 +105,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void clearFocusSilently();
+    PLATFORM_WIDGETS_NO_EXPORT void clearFocusSilently();
 
     QString savedText; // what a Cancel restores: the text at the last focus-in
 };

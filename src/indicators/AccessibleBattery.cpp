@@ -1,25 +1,24 @@
 #include "AccessibleBattery.h"
 
 #include "BatteryFlags.h"
-#include "ui/CBatteryStatusWidget.h"
 
 #include <QCoreApplication>
 
 namespace ui {
 
-AccessibleBattery::AccessibleBattery(CBatteryStatusWidget* battery)
+CBatteryStatusWidget::AccessibleBattery::AccessibleBattery(CBatteryStatusWidget* battery)
     : QAccessibleWidget(battery, QAccessible::ProgressBar)
 {
 }
 
-void* AccessibleBattery::interface_cast(QAccessible::InterfaceType type)
+void* CBatteryStatusWidget::AccessibleBattery::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::ValueInterface)
         return static_cast<QAccessibleValueInterface*>(this);
     return QAccessibleWidget::interface_cast(type);
 }
 
-QAccessible::State AccessibleBattery::state() const
+QAccessible::State CBatteryStatusWidget::AccessibleBattery::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
     state.readOnly = true;
@@ -27,7 +26,7 @@ QAccessible::State AccessibleBattery::state() const
 }
 
 /// What the application says of the battery comes first.
-QString AccessibleBattery::text(QAccessible::Text kind) const
+QString CBatteryStatusWidget::AccessibleBattery::text(QAccessible::Text kind) const
 {
     QString given = QAccessibleWidget::text(kind);
     if (!given.isEmpty())
@@ -45,37 +44,37 @@ QString AccessibleBattery::text(QAccessible::Text kind) const
     }
 }
 
-QVariant AccessibleBattery::currentValue() const
+QVariant CBatteryStatusWidget::AccessibleBattery::currentValue() const
 {
     return qRound(battery()->m_charge * 100);
 }
 
-void AccessibleBattery::setCurrentValue(const QVariant&)
+void CBatteryStatusWidget::AccessibleBattery::setCurrentValue(const QVariant&)
 {
     // The charge is shown, not set by the user.
 }
 
-QVariant AccessibleBattery::minimumValue() const
+QVariant CBatteryStatusWidget::AccessibleBattery::minimumValue() const
 {
     return 0;
 }
 
-QVariant AccessibleBattery::maximumValue() const
+QVariant CBatteryStatusWidget::AccessibleBattery::maximumValue() const
 {
     return 100;
 }
 
-QVariant AccessibleBattery::minimumStepSize() const
+QVariant CBatteryStatusWidget::AccessibleBattery::minimumStepSize() const
 {
     return 1;
 }
 
-const CBatteryStatusWidget* AccessibleBattery::battery() const
+const CBatteryStatusWidget* CBatteryStatusWidget::AccessibleBattery::battery() const
 {
     return static_cast<const CBatteryStatusWidget*>(widget());
 }
 
-QString AccessibleBattery::condition() const
+QString CBatteryStatusWidget::AccessibleBattery::condition() const
 {
     const int flags = battery()->m_flags;
     if (!(flags & BatteryPresent))

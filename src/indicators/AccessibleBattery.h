@@ -1,13 +1,14 @@
 #pragma once
 
+#include "ui/CBatteryStatusWidget.h"
+
 #include <QAccessibleWidget>
 
 namespace ui {
 
-class CBatteryStatusWidget;
-
 /// A battery as a read-only progress bar from 0 to 100, described as charging or absent.
-class AccessibleBattery : public QAccessibleWidget, public QAccessibleValueInterface
+class Q_DECL_HIDDEN CBatteryStatusWidget::AccessibleBattery : public QAccessibleWidget,
+                                                              public QAccessibleValueInterface
 {
 public:
     explicit AccessibleBattery(CBatteryStatusWidget* battery);

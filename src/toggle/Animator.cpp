@@ -62,7 +62,7 @@ void Animator::setTargetObject(QObject* object)
     target = object;
 }
 
-// By value as QAbstractAnimation's own slots take their curves. NOLINTNEXTLINE(performance-unnecessary-value-param)
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Animator::setup(int duration, QEasingCurve easing)
 {
     setDuration(duration);

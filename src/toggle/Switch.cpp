@@ -101,26 +101,21 @@ void Switch::init()
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-SwitchGeometry Switch::measures() const
-{
-    return {m_height, m_indicatorMargin};
-}
-
 QSize Switch::sizeHint() const
 {
-    const QSize indicator = measures().indicatorSize();
+    const QSize indicator = SwitchGeometry(m_height, m_indicatorMargin).indicatorSize();
     const int textWidth = QFontMetrics(font()).horizontalAdvance(text());
     return {indicator.width() + textWidth, indicator.height()};
 }
 
 QRect Switch::indicatorRect() const
 {
-    return measures().indicatorRect(width(), layoutDirection());
+    return SwitchGeometry(m_height, m_indicatorMargin).indicatorRect(width(), layoutDirection());
 }
 
 QRect Switch::textRect() const
 {
-    return measures().textRect(size(), layoutDirection());
+    return SwitchGeometry(m_height, m_indicatorMargin).textRect(size(), layoutDirection());
 }
 
 void Switch::refresh()
@@ -147,7 +142,8 @@ void Switch::toggle(Qt::CheckState state)
 Switch::Rest Switch::restAt(bool on) const
 {
     if (on) {
-        return {measures().onPosition(), withOpacity(m_thumbOnBrush, m_thumbOnOpacity),
+        return {SwitchGeometry(m_height, m_indicatorMargin).onPosition(),
+                withOpacity(m_thumbOnBrush, m_thumbOnOpacity),
                 withOpacity(m_trackOnBrush, m_trackOnOpacity)};
     }
     return {0, withOpacity(m_thumbOffBrush, m_thumbOffOpacity),
@@ -181,7 +177,7 @@ void Switch::jumpTo(bool on)
 
 Switch::Look Switch::enabledLook() const
 {
-    const double travel = measures().travel();
+    const double travel = SwitchGeometry(m_height, m_indicatorMargin).travel();
     return {currentValue(m_trackBrushAnimator).value<QColor>(),
             1.0,
             currentValue(m_thumbBrushAnimator).value<QColor>(),
@@ -192,7 +188,7 @@ Switch::Look Switch::enabledLook() const
 
 Switch::Look Switch::disabledLook() const
 {
-    const int travel = measures().travel();
+    const int travel = SwitchGeometry(m_height, m_indicatorMargin).travel();
     return {m_trackDisabled,    m_trackDisabledOpacity,
             m_thumbDisabled,    double(isChecked() ? travel : -travel),
             QPalette::Disabled, m_disabledTextOpacity};
@@ -201,7 +197,7 @@ Switch::Look Switch::disabledLook() const
 void Switch::paintEvent(QPaintEvent*)
 {
     const Look look = isEnabled() ? enabledLook() : disabledLook();
-    const QRectF track = measures().trackRect(indicatorRect());
+    const QRectF track = SwitchGeometry(m_height, m_indicatorMargin).trackRect(indicatorRect());
 
     QPainter painter(this);
     painter.setPen(Qt::NoPen);

@@ -9,9 +9,6 @@ void Switch::assign(T& field, const T& value)
     refresh();
 }
 
-// The setters take their arguments by value, as published.
-// NOLINTBEGIN(performance-unnecessary-value-param)
-
 int Switch::indicatorHeight() const
 {
     return m_height;
@@ -27,6 +24,7 @@ QFont Switch::labelFont() const
     return m_font;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setFont(QFont font)
 {
     assign(m_font, font);
@@ -37,6 +35,7 @@ QColor Switch::thumbOnBrush() const
     return m_thumbOnBrush;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setThumbOnBrush(QColor color)
 {
     assign(m_thumbOnBrush, color);
@@ -57,6 +56,7 @@ QColor Switch::trackOnBrush() const
     return m_trackOnBrush;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setTrackOnBrush(QColor color)
 {
     assign(m_trackOnBrush, color);
@@ -77,6 +77,7 @@ QColor Switch::thumbOffBrush() const
     return m_thumbOffBrush;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setThumbOffBrush(QColor color)
 {
     assign(m_thumbOffBrush, color);
@@ -97,6 +98,7 @@ QColor Switch::trackOffBrush() const
     return m_trackOffBrush;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setTrackOffBrush(QColor color)
 {
     assign(m_trackOffBrush, color);
@@ -117,6 +119,7 @@ QColor Switch::thumbDisabled() const
     return m_thumbDisabled;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setThumbDisabled(QColor color)
 {
     assign(m_thumbDisabled, color);
@@ -137,6 +140,7 @@ QColor Switch::trackDisabled() const
     return m_trackDisabled;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setTrackDisabled(QColor color)
 {
     assign(m_trackDisabled, color);
@@ -157,6 +161,7 @@ QColor Switch::textColor() const
     return m_textColor;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void Switch::setTextColor(QColor color)
 {
     assign(m_textColor, color);
@@ -206,5 +211,3 @@ void Switch::setIndicatorMargin(QMargins margin)
 {
     assign(m_indicatorMargin, margin);
 }
-
-// NOLINTEND(performance-unnecessary-value-param)
