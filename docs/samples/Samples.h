@@ -45,4 +45,28 @@ void darkTheme();
 /// Gives \a name the \a text, and its validator's verdict on it.
 void setTextAndValidate(ui::LineEdit* name, const QString& text);
 
+struct Sample
+{
+    const char* className;
+    void (*run)(QWidget* window);
+};
+
+constexpr Sample all[] = {
+    {"Animator", animator},
+    {"BreadCrumbsWidget", breadCrumbs},
+    {"CAnimationFwdRevLoop", animationLoop},
+    {"CBatteryStatusWidget", battery},
+    {"CGridArrangedButton", gridButton},
+    {"CRoundedFrame", roundedFrame},
+    {"ClickableLabel", clickableLabel},
+    {"FileBrowserWidget", fileBrowser},
+    {"FileSystemModel", fileSystemModel},
+    {"KeypadLineEdit", keypadLineEdit},
+    {"KeypadPopup", keypadPopup},
+    {"LineEdit", lineEdit},
+    {"ScrollIndicatorBar", scrollIndicator},
+    {"SelectionControl", selectionControl},
+    {"Switch", switchControl},
+};
+
 } // namespace samples

@@ -6,30 +6,6 @@
 
 namespace {
 
-struct Sample
-{
-    const char* className;
-    void (*run)(QWidget* window);
-};
-
-const Sample allSamples[] = {
-    {"Animator", samples::animator},
-    {"BreadCrumbsWidget", samples::breadCrumbs},
-    {"CAnimationFwdRevLoop", samples::animationLoop},
-    {"CBatteryStatusWidget", samples::battery},
-    {"CGridArrangedButton", samples::gridButton},
-    {"CRoundedFrame", samples::roundedFrame},
-    {"ClickableLabel", samples::clickableLabel},
-    {"FileBrowserWidget", samples::fileBrowser},
-    {"FileSystemModel", samples::fileSystemModel},
-    {"KeypadLineEdit", samples::keypadLineEdit},
-    {"KeypadPopup", samples::keypadPopup},
-    {"LineEdit", samples::lineEdit},
-    {"ScrollIndicatorBar", samples::scrollIndicator},
-    {"SelectionControl", samples::selectionControl},
-    {"Switch", samples::switchControl},
-};
-
 /// What the sample for \a className has made in \a window.
 QObject* madeBySample(const QWidget& window, const char* className)
 {
@@ -66,7 +42,7 @@ void tst_Samples::initTestCase()
 void tst_Samples::everyClassHasSample()
 {
     QStringList names;
-    for (const Sample& sample : allSamples)
+    for (const samples::Sample& sample : samples::all)
         names.append(QString::fromLatin1(sample.className));
     QCOMPARE(test::uncovered(names), QStringList());
 }
@@ -74,14 +50,14 @@ void tst_Samples::everyClassHasSample()
 void tst_Samples::runs_data()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(allSamples)); ++i)
-        QTest::newRow(allSamples[i].className) << i;
+    for (int i = 0; i < int(std::size(samples::all)); ++i)
+        QTest::newRow(samples::all[i].className) << i;
 }
 
 void tst_Samples::runs()
 {
     QFETCH(int, index);
-    const Sample& sample = allSamples[index];
+    const samples::Sample& sample = samples::all[index];
 
     auto* window = new QWidget;
     sample.run(window);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QMetaType>
-#include <QStringList>
 #include <QVector>
 
 #include <functional>
@@ -16,16 +15,12 @@ namespace test {
 struct Workload
 {
     const char* name;
-    const char* classes; ///< That it uses, separated by spaces.
     /// Fills a window, and returns what to do in each iteration; that is false if it did not
     /// happen.
     std::function<bool(int iteration)> (*begin)(QWidget& window);
 };
 
 QVector<Workload> workloads();
-
-/// The classes that no workload uses.
-QStringList classesWithoutWorkload();
 
 } // namespace test
 

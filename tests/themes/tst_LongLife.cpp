@@ -40,7 +40,6 @@ class tst_LongLife : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void everyClassHasWorkload();
     void nothingPilesUp_data();
     void nothingPilesUp();
 };
@@ -49,11 +48,6 @@ void tst_LongLife::initTestCase()
 {
     test::dropOffscreenMessages();
     QPixmapCache::setCacheLimit(0); // what it holds goes by and by, in half minutes
-}
-
-void tst_LongLife::everyClassHasWorkload()
-{
-    QCOMPARE(test::classesWithoutWorkload(), QStringList());
 }
 
 void tst_LongLife::nothingPilesUp_data()
