@@ -87,7 +87,7 @@ qint64 residentKilobytes()
     return 0;
 }
 
-/// Watches a view fill itself while the event loop turns.
+/// Watches a view fill itself while events are processed.
 class Opening : public QObject
 {
 public:

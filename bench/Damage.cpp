@@ -23,7 +23,7 @@ namespace bench {
 namespace {
 
 /// A widget to be shown, and what is done to it then.
-struct Specimen
+struct Sample
 {
     std::shared_ptr<QWidget> widget;
     std::function<void()> change;
@@ -32,9 +32,9 @@ struct Specimen
 struct Change
 {
     const char* name;
-    std::function<Specimen()> ours;
-    const char* stockName;
-    std::function<Specimen()> stock;
+    std::function<Sample()> ours;
+    const char* counterpartName;
+    std::function<Sample()> counterpart;
 };
 
 /// Adds up the pixels of a widget that paint events ask for.
@@ -59,19 +59,19 @@ private:
 };
 
 /// Of one repaint: a transition goes on by frames, each of which damages the same.
-int damagedPixels(const Specimen& specimen)
+int damagedPixels(const Sample& sample)
 {
     QWidget window;
     window.resize(300, 200);
-    specimen.widget->setParent(&window);
+    sample.widget->setParent(&window);
     window.show();
     QCoreApplication::processEvents();
     PixelCounter counter;
-    specimen.widget->installEventFilter(&counter);
-    specimen.change();
+    sample.widget->installEventFilter(&counter);
+    sample.change();
     QCoreApplication::sendPostedEvents();
     window.hide(); // delivers no more of a transition
-    specimen.widget->setParent(nullptr);
+    sample.widget->setParent(nullptr);
     return counter.pixels();
 }
 
@@ -85,7 +85,7 @@ std::shared_ptr<Widget> sized(const QSize& size)
 
 /// A container with a label in it, whose text changes.
 template <typename Container>
-Specimen labelInside()
+Sample labelInside()
 {
     auto container = sized<Container>({200, 100});
     auto* label = new QLabel(QStringLiteral("1"), container.get());
@@ -93,7 +93,7 @@ Specimen labelInside()
     return {container, [label] { label->setText(QStringLiteral("2")); }};
 }
 
-Specimen labelInButton()
+Sample labelInButton()
 {
     auto button = sized<ui::CGridArrangedButton>({200, 100});
     auto* label = new QLabel(QStringLiteral("1"));
@@ -102,7 +102,7 @@ Specimen labelInButton()
     return {button, [label] { label->setText(QStringLiteral("2")); }};
 }
 
-Specimen labelInPlainButton()
+Sample labelInPlainButton()
 {
     auto button = sized<QPushButton>({200, 100});
     auto* grid = new QGridLayout(button.get());
@@ -112,14 +112,14 @@ Specimen labelInPlainButton()
     return {button, [label] { label->setText(QStringLiteral("2")); }};
 }
 
-Specimen battery(int from, int to)
+Sample battery(int from, int to)
 {
     auto widget = sized<ui::CBatteryStatusWidget>({40, 80});
     widget->setChargePercentage(from);
     return {widget, [battery = widget.get(), to] { battery->setChargePercentage(to); }};
 }
 
-Specimen progress(int from, int to)
+Sample progress(int from, int to)
 {
     auto bar = sized<QProgressBar>({40, 80});
     bar->setOrientation(Qt::Vertical);
@@ -128,21 +128,21 @@ Specimen progress(int from, int to)
     return {bar, [bar = bar.get(), to] { bar->setValue(to); }};
 }
 
-Specimen charger()
+Sample charger()
 {
     auto widget = sized<ui::CBatteryStatusWidget>({40, 80});
     return {widget, [battery = widget.get()] { battery->setBatteryCharging(true); }};
 }
 
 template <typename Button>
-Specimen toggled()
+Sample toggled()
 {
     auto button = sized<Button>({160, 40});
     button->setText(QStringLiteral("Wireless"));
     return {button, [button = button.get()] { button->setChecked(true); }};
 }
 
-Specimen sameSwitchColor()
+Sample sameSwitchColor()
 {
     auto control = sized<Switch>({160, 40});
     return {control, [control = control.get()] {
@@ -151,21 +151,21 @@ Specimen sameSwitchColor()
 }
 
 template <typename Bar>
-Specimen scrolled(int value)
+Sample scrolled(int value)
 {
     auto bar = sized<Bar>({5, 150});
     bar->setRange(0, 1000);
     return {bar, [bar = bar.get(), value] { bar->setValue(value); }};
 }
 
-Specimen highlighted(bool highlight)
+Sample highlighted(bool highlight)
 {
     auto bar = sized<ui::widgets::ScrollIndicatorBar>({5, 150});
     return {bar, [bar = bar.get(), highlight] { bar->setHighlightBar(highlight); }};
 }
 
 template <typename Edit>
-Specimen typedInto()
+Sample typedInto()
 {
     auto edit = sized<Edit>({200, 30});
     return {edit, [edit = edit.get()] { edit->insert(QStringLiteral("7")); }};
@@ -202,12 +202,12 @@ void compareDamage(const QStringList&, QTextStream& out)
 {
     const QVector<Change> all = changes();
     for (const Change& change : all) {
-        const Specimen specimen = change.ours();
-        const QSize size = specimen.widget->size();
-        out << change.name << '\t' << change.stockName << '\t' << size.width() * size.height()
-            << '\t' << damagedPixels(specimen) << '\t';
-        if (change.stock)
-            out << damagedPixels(change.stock());
+        const Sample sample = change.ours();
+        const QSize size = sample.widget->size();
+        out << change.name << '\t' << change.counterpartName << '\t' << size.width() * size.height()
+            << '\t' << damagedPixels(sample) << '\t';
+        if (change.counterpart)
+            out << damagedPixels(change.counterpart());
         out << '\n';
     }
 }

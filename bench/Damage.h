@@ -8,8 +8,8 @@ QT_END_NAMESPACE
 
 namespace bench {
 
-/// Prints, for changes to widgets, how many of their pixels are painted anew, beside the stock
-/// widgets.
+/// Prints, for changes to widgets, how many of their pixels are painted anew, beside their Qt
+/// counterparts.
 void compareDamage(const QStringList& arguments, QTextStream& out);
 
 } // namespace bench

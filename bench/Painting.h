@@ -20,7 +20,7 @@ QImage backingStore(const QSize& size);
 /// Paints \a region (all of it if empty) of \a widget alone, with Qt's dispatch of a paint event.
 Work paint(std::shared_ptr<QWidget> widget, const QRegion& region = QRegion());
 
-/// The floor of a painted row: \a draw on a bare image, without any widget.
+/// The baseline of a painted row: \a draw on a bare image, without any widget.
 Work draw(const QSize& size, std::function<void(QPainter&)> draw);
 
 } // namespace bench

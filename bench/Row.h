@@ -47,9 +47,9 @@ struct Row
 {
     QString name;
     Setup ours;
-    QString stockName; ///< What one would use instead.
-    Setup stock; ///< May be empty.
-    Setup floor; ///< The least that the work costs; may be empty.
+    QString counterpartName; ///< What one would use instead.
+    Setup counterpart; ///< May be empty.
+    Setup baseline; ///< The least that the work costs; may be empty.
     int parts = 1; ///< How many widgets one run is for; the table tells the cost of one.
 };
 

@@ -1,7 +1,7 @@
 #include "Allocations.h"
 #include "Browsing.h"
 #include "Damage.h"
-#include "Rest.h"
+#include "Idle.h"
 #include "Row.h"
 
 #include <QApplication>
@@ -17,10 +17,10 @@ template <typename Visit>
 void forEachCell(const bench::Row& row, const Visit& visit)
 {
     visit(row.name + QStringLiteral("|ours"), row.ours);
-    if (row.stock)
-        visit(row.name + QStringLiteral("|stock"), row.stock);
-    if (row.floor)
-        visit(row.name + QStringLiteral("|floor"), row.floor);
+    if (row.counterpart)
+        visit(row.name + QStringLiteral("|counterpart"), row.counterpart);
+    if (row.baseline)
+        visit(row.name + QStringLiteral("|baseline"), row.baseline);
 }
 
 /// Makes a cell's work ready, and runs it until it has filled its caches.
@@ -87,7 +87,7 @@ void registerTimings(const bench::Row& row)
 void listRow(const bench::Row& row)
 {
     QTextStream out(stdout);
-    out << row.name << '\t' << row.stockName << '\t' << row.parts << '\n';
+    out << row.name << '\t' << row.counterpartName << '\t' << row.parts << '\n';
 }
 
 /// What the program does with each row, by option.
@@ -117,7 +117,7 @@ struct Mode
 const Mode modes[] = {
     {"--browse", bench::browse}, // WAY DIRECTORY COUNT
     {"--damage", bench::compareDamage},
-    {"--rest", bench::countWakeUps}, // MILLISECONDS
+    {"--idle", bench::countWakeUps}, // MILLISECONDS
 };
 
 bool run(const QString& option, const QStringList& arguments)

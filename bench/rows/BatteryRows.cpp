@@ -106,14 +106,18 @@ Work progressRun()
 
 QVector<Row> batteryRows()
 {
-    const QString stock = QStringLiteral("QProgressBar");
+    const QString counterpart = QStringLiteral("QProgressBar");
     const Setup halfFullBar = [] { return paint(progressBar(50)); };
     return {
-        {QStringLiteral("battery"), [] { return paint(battery(50, false)); }, stock, halfFullBar,
-         [] { return bareBattery(false); }},
-        {QStringLiteral("battery, charging"), [] { return paint(battery(50, true)); }, stock,
+        {QStringLiteral("battery"), [] { return paint(battery(50, false)); }, counterpart,
+         halfFullBar, [] { return bareBattery(false); }},
+        {QStringLiteral("battery, charging"), [] { return paint(battery(50, true)); }, counterpart,
          halfFullBar, [] { return bareBattery(true); }},
-        {QStringLiteral("battery, a charge from 0 to 100"), chargeRun, stock, progressRun, {}},
+        {QStringLiteral("battery, a charge from 0 to 100"),
+         chargeRun,
+         counterpart,
+         progressRun,
+         {}},
     };
 }
 

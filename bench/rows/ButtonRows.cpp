@@ -47,7 +47,7 @@ Work askHint(const std::shared_ptr<QWidget>& button)
 
 QVector<Row> buttonRows()
 {
-    const QString stock = QStringLiteral("QPushButton with a QGridLayout");
+    const QString counterpart = QStringLiteral("QPushButton with a QGridLayout");
     const Setup bareButton = [] {
         auto button = std::make_shared<QPushButton>();
         button->resize(gridButton()->size());
@@ -56,15 +56,15 @@ QVector<Row> buttonRows()
     return {
         {QStringLiteral("grid button, made with six children"),
          [] { return Work([] { gridButton(); }); },
-         stock,
+         counterpart,
          [] { return Work([] { handmadeButton(); }); },
          {}},
         {QStringLiteral("grid button, size hint"),
          [] { return askHint(gridButton()); },
-         stock,
+         counterpart,
          [] { return askHint(handmadeButton()); },
          {}},
-        {QStringLiteral("grid button"), [] { return paint(gridButton()); }, stock,
+        {QStringLiteral("grid button"), [] { return paint(gridButton()); }, counterpart,
          [] { return paint(handmadeButton()); }, bareButton},
     };
 }

@@ -142,16 +142,16 @@ Work openAgain()
 
 QVector<Row> keypadRows()
 {
-    const QString stock = QStringLiteral("QLineEdit and the keypad in a plain pop-up");
+    const QString counterpart = QStringLiteral("QLineEdit and the keypad in a plain pop-up");
     return {
         {QStringLiteral("keypad, first opening"),
          openFirst<OwnForm>,
-         stock,
+         counterpart,
          openFirst<PlainForm>,
          {}},
         {QStringLiteral("keypad, later opening"),
          openAgain<OwnForm>,
-         stock,
+         counterpart,
          openAgain<PlainForm>,
          {}},
     };

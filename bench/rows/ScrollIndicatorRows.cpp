@@ -11,7 +11,7 @@ namespace {
 
 constexpr int length = 300;
 
-void settle(QScrollBar& bar)
+void setUp(QScrollBar& bar)
 {
     bar.setRange(0, 1000);
     bar.setPageStep(200);
@@ -19,10 +19,10 @@ void settle(QScrollBar& bar)
 }
 
 template <typename Bar>
-std::shared_ptr<QWidget> settledBar()
+std::shared_ptr<QWidget> idleBar()
 {
     auto bar = std::make_shared<Bar>();
-    settle(*bar);
+    setUp(*bar);
     return bar;
 }
 
@@ -46,7 +46,7 @@ Work bareIndicator()
 template <typename Bar>
 Work scrollStep()
 {
-    auto bar = std::static_pointer_cast<Bar>(settledBar<Bar>());
+    auto bar = std::static_pointer_cast<Bar>(idleBar<Bar>());
     const Work repaint = paint(bar);
     return [bar, repaint] {
         bar->setValue(bar->value() == 0 ? 10 : 0);
@@ -57,7 +57,7 @@ Work scrollStep()
 Work highlight()
 {
     auto bar = std::static_pointer_cast<ui::widgets::ScrollIndicatorBar>(
-        settledBar<ui::widgets::ScrollIndicatorBar>());
+        idleBar<ui::widgets::ScrollIndicatorBar>());
     const Work repaint = paint(bar);
     const auto on = std::make_shared<bool>(false);
     return [bar, repaint, on] {
@@ -71,15 +71,15 @@ Work highlight()
 
 QVector<Row> scrollIndicatorRows()
 {
-    const QString stock = QStringLiteral("QScrollBar");
+    const QString counterpart = QStringLiteral("QScrollBar");
     return {
         {QStringLiteral("scroll indicator"),
-         [] { return paint(settledBar<ui::widgets::ScrollIndicatorBar>()); }, stock,
-         [] { return paint(settledBar<QScrollBar>()); }, bareIndicator},
+         [] { return paint(idleBar<ui::widgets::ScrollIndicatorBar>()); }, counterpart,
+         [] { return paint(idleBar<QScrollBar>()); }, bareIndicator},
         {QStringLiteral("scroll indicator, a step"), scrollStep<ui::widgets::ScrollIndicatorBar>,
-         stock, scrollStep<QScrollBar>, bareIndicator},
-        {QStringLiteral("scroll indicator, a highlight"), highlight, stock,
-         [] { return paint(settledBar<QScrollBar>()); }, bareIndicator},
+         counterpart, scrollStep<QScrollBar>, bareIndicator},
+        {QStringLiteral("scroll indicator, a highlight"), highlight, counterpart,
+         [] { return paint(idleBar<QScrollBar>()); }, bareIndicator},
     };
 }
 

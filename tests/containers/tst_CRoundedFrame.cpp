@@ -47,7 +47,7 @@ struct Stage
         window.show();
     }
 
-    bool settle()
+    bool waitUntilIdle()
     {
         const bool exposed = QTest::qWaitForWindowExposed(&window);
         repaints.takeRegions();
@@ -262,7 +262,7 @@ void tst_CRoundedFrame::refreshesNarrowly()
     QFETCH(Change, change);
     QFETCH(bool, asksForGeometry);
     Stage stage;
-    QVERIFY(stage.settle());
+    QVERIFY(stage.waitUntilIdle());
 
     change(*stage.frame);
     const QVector<QRegion> repaints = stage.repaints.takeRegions();
@@ -288,7 +288,7 @@ void tst_CRoundedFrame::ignoresUnchangedValues()
     QFETCH(Change, change);
     Stage stage;
     stage.frame->enableWidgetMask(true);
-    QVERIFY(stage.settle());
+    QVERIFY(stage.waitUntilIdle());
     const QRegion foreignMask(stage.frame->rect().adjusted(0, 0, -1, -1));
     stage.frame->setMask(foreignMask);
     stage.repaints.takeRegions();
@@ -341,7 +341,7 @@ void tst_CRoundedFrame::survivesAbsurdMetricsInLayout()
     auto* layout = new QVBoxLayout(stage.frame);
     layout->addWidget(new QWidget);
     stage.frame->enableWidgetMask(true);
-    QVERIFY(stage.settle());
+    QVERIFY(stage.waitUntilIdle());
     for (int value : {100000, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
         stage.frame->setRadius(value);
         stage.frame->setLineWidth(value);

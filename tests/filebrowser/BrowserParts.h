@@ -21,7 +21,8 @@ class FileSystemModel;
 
 namespace test {
 
-/// The child widgets of a FileBrowserWidget or RecursiveBrowser, found as an application finds them.
+/// The child widgets of a FileBrowserWidget or RecursiveBrowser, found as an application finds
+/// them.
 struct BrowserParts
 {
     explicit BrowserParts(QWidget& browser);

@@ -21,8 +21,8 @@ namespace test {
 
 /**
  * The file browser written down as plainly as can be: with function calls that nest as deeply as
- * directories are selected, with views that are simply shown and hidden, and without any thought for
- * programs that delete parts of it. The browser has to match it step by step.
+ * directories are selected, with views that are simply shown and hidden, and without any thought
+ * for programs that delete parts of it. The browser has to match it step by step.
  */
 class RecursiveBrowser : public QWidget
 {

@@ -51,7 +51,7 @@ private Q_SLOTS:
 
 private:
     bool open(const QString& name);
-    bool settled(const QStringList& expectedCrumbs) const;
+    bool showsCrumbs(const QStringList& expectedCrumbs) const;
 
     Tree m_tree;
     std::unique_ptr<QWidget> m_window;
@@ -97,7 +97,7 @@ bool tst_FileBrowserTaps::open(const QString& name)
 }
 
 /// Whether the bar shows these crumbs and has laid them out.
-bool tst_FileBrowserTaps::settled(const QStringList& expectedCrumbs) const
+bool tst_FileBrowserTaps::showsCrumbs(const QStringList& expectedCrumbs) const
 {
     return QTest::qWaitFor([&] {
         const QList<ClickableLabel*> labels = crumbLabels(*m_parts->bar);
@@ -110,10 +110,10 @@ void tst_FileBrowserTaps::openADirectoryAndComeBackByACrumb()
 {
     QVERIFY(open(QStringLiteral("a")));
     QVERIFY(open(QStringLiteral("b")));
-    QVERIFY(settled({"a", "b"}));
+    QVERIFY(showsCrumbs({"a", "b"}));
     QVERIFY(XPointer::tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
     QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top/a")));
-    QVERIFY(settled({"a"}));
+    QVERIFY(showsCrumbs({"a"}));
     QTRY_COMPARE(shownNames(*m_parts->tileView), QStringList{"b"});
 }
 
@@ -153,7 +153,7 @@ void tst_FileBrowserTaps::comeBackByTheMenu()
 {
     for (const char* name : {"a", "b", "c", "d"})
         QVERIFY(open(QString::fromLatin1(name)));
-    QVERIFY(settled({"b", "c", "d"}));
+    QVERIFY(showsCrumbs({"b", "c", "d"}));
     QTRY_VERIFY(moreButton(*m_parts->bar)->isVisible());
 
     whenMenuOpens(this, [](QMenu& menu) {
@@ -161,7 +161,7 @@ void tst_FileBrowserTaps::comeBackByTheMenu()
     });
     QVERIFY(XPointer::tap(*moreButton(*m_parts->bar)));
     QTRY_COMPARE(m_browser->currentPath(), m_tree.path(QStringLiteral("top")) + "/a");
-    QVERIFY(settled({"a"}));
+    QVERIFY(showsCrumbs({"a"}));
     QVERIFY(moreButton(*m_parts->bar)->isHidden());
 }
 
@@ -209,7 +209,7 @@ void tst_FileBrowserTaps::browserDeletedLaterByATap()
 void tst_FileBrowserTaps::browserDeletedByACrumb()
 {
     QVERIFY(open(QStringLiteral("a")));
-    QVERIFY(settled({"a"}));
+    QVERIFY(showsCrumbs({"a"}));
     connect(m_parts->bar, &BreadCrumbsWidget::dirChanged, this, [this] { delete m_browser; });
     QVERIFY(XPointer::tap(*crumb(*m_parts->bar, QStringLiteral("a"))));
     QTRY_VERIFY(m_browser.isNull());

@@ -21,7 +21,7 @@ using Commands = QVector<Command>;
 /**
  * A widget, what can be done to it, and what it must look like from outside afterwards.
  *
- * The actions keep a small model of the promised state up to date beside the widget; check()
+ * The actions keep a small model of the expected state up to date beside the widget; check()
  * compares the two. What is found broken is a text, since a failure is to be read by a person.
  */
 class Model

@@ -274,7 +274,7 @@ void tst_KeypadLineEdit::keypadOk()
     test::tapKey(*form.field->keypad(), QStringLiteral("4"));
     test::tapKey(*form.field->keypad(), QStringLiteral("2"));
     test::tapKey(*form.field->keypad(), QStringLiteral("OK"));
-    QVERIFY(form.field->keypad()->isVisible()); // hidden one turn later
+    QVERIFY(form.field->keypad()->isVisible()); // hidden with the next events
     QVERIFY(!form.field->hasFocus());
     QVERIFY(waitUntilHidden(form.field->keypad()));
     test::waitUntilIdle();

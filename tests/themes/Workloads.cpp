@@ -87,6 +87,7 @@ Iteration edit(QWidget& window)
         const auto isShown = [field] { return field->keypad() && field->keypad()->isVisible(); };
         // An X server may make the window active only later.
         field->setFocus();
+        processEvents();
         if (!QTest::qWaitFor(isShown))
             return false;
         field->insert(QStringLiteral("1"));
@@ -94,9 +95,9 @@ Iteration edit(QWidget& window)
             keypadKey(*field->keypad(), iteration % 3 == 0 ? "OK" : "Cancel")->click();
         else
             field->clearFocus();
+        processEvents();
         const bool hidden = QTest::qWaitFor([isShown] { return !isShown(); });
         field->setText(QString());
-        processEvents();
         return hidden;
     };
 }

@@ -39,7 +39,7 @@ void dress(Switch& control)
     control.resize(size);
 }
 
-/// The picture of that switch, off and at rest.
+/// The picture of that switch, off and idle.
 test::SwitchPicture dressedOff()
 {
     test::SwitchPicture picture;
@@ -54,7 +54,7 @@ test::SwitchPicture dressedOff()
     return picture;
 }
 
-/// The other ways in which the switch is expected to look, from the state off and at rest.
+/// The other ways in which the switch is expected to look, from the state off and idle.
 test::SwitchPicture dressed(bool on, bool enabled, bool mirrored)
 {
     test::SwitchPicture picture = dressedOff();
@@ -83,8 +83,8 @@ class tst_SwitchPainting : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void atRest_data();
-    void atRest();
+    void idle_data();
+    void idle();
     void midTransition_data();
     void midTransition();
     void unconfigured_data();
@@ -106,7 +106,7 @@ private Q_SLOTS:
     void nothingShowsFocusOrPress();
 };
 
-void tst_SwitchPainting::atRest_data()
+void tst_SwitchPainting::idle_data()
 {
     QTest::addColumn<bool>("on");
     QTest::addColumn<bool>("enabled");
@@ -126,7 +126,7 @@ void tst_SwitchPainting::atRest_data()
     }
 }
 
-void tst_SwitchPainting::atRest()
+void tst_SwitchPainting::idle()
 {
     QFETCH(bool, on);
     QFETCH(bool, enabled);

@@ -38,10 +38,10 @@ private Q_SLOTS:
     void switchInHiddenWindowJumps();
     void hiddenSwitchTellsOncePerAnimator();
     void hiddenSwitchJumpsInOrder();
-    void hiddenSwitchIsFirstShownAtRest();
+    void hiddenSwitchIsFirstShownIdle();
     void marginsSetTheTravel();
     void animatedFramesRepaint();
-    void refreshAtRestShowsTheOffColors();
+    void refreshWhileIdleShowsTheOffColors();
     void refreshMidwayShowsTheOffColors();
     void refreshSetsTheTrackFirst();
     void brushConstructorShowsItsColorWhenOn();
@@ -55,7 +55,7 @@ private:
     {
         return test::animatorsOf(*m_control);
     }
-    void settle();
+    void finishAnimations();
 
     std::unique_ptr<Switch> m_control;
 };
@@ -82,7 +82,7 @@ void tst_SwitchTransition::cleanup()
     m_control.reset();
 }
 
-void tst_SwitchTransition::settle()
+void tst_SwitchTransition::finishAnimations()
 {
     animators().holdAt(150);
 }
@@ -101,7 +101,7 @@ void tst_SwitchTransition::switchingOn()
     QCOMPARE(animators().trackBrush->endValue(), QVariant(trackOn));
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(0));
 
-    settle();
+    finishAnimations();
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(36));
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOn));
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOn));
@@ -119,7 +119,7 @@ void tst_SwitchTransition::switchingOn()
 void tst_SwitchTransition::switchingOff()
 {
     control().setChecked(true);
-    settle();
+    finishAnimations();
     control().setChecked(false);
     QCOMPARE(animators().thumbPos->startValue(), QVariant(36));
     QCOMPARE(animators().thumbPos->endValue(), QVariant(0));
@@ -127,7 +127,7 @@ void tst_SwitchTransition::switchingOff()
     QCOMPARE(animators().thumbBrush->endValue(), QVariant(thumbOff));
     QCOMPARE(animators().trackBrush->startValue(), QVariant(trackOn));
     QCOMPARE(animators().trackBrush->endValue(), QVariant(trackOff));
-    settle();
+    finishAnimations();
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(0));
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOff));
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOff));
@@ -136,7 +136,7 @@ void tst_SwitchTransition::switchingOff()
 void tst_SwitchTransition::anyOtherStateIsOff()
 {
     control().setChecked(true);
-    settle();
+    finishAnimations();
     control().toggle(Qt::PartiallyChecked);
     QCOMPARE(animators().thumbPos->startValue(), QVariant(36));
     QCOMPARE(animators().thumbPos->endValue(), QVariant(0));
@@ -198,7 +198,7 @@ void tst_SwitchTransition::animatorsStartInOrder()
     control().setChecked(true);
     QCOMPARE(order, expected);
     order.clear();
-    settle();
+    finishAnimations();
     control().setChecked(false);
     QCOMPARE(order, expected);
 }
@@ -208,7 +208,7 @@ void tst_SwitchTransition::clickStartsIt()
     QTest::mouseClick(m_control.get(), Qt::LeftButton);
     QCOMPARE(animators().thumbPos->state(), QAbstractAnimation::Running);
     QCOMPARE(animators().thumbPos->endValue(), QVariant(36));
-    settle();
+    finishAnimations();
     QTest::keyClick(m_control.get(), Qt::Key_Space);
     QCOMPARE(animators().thumbPos->endValue(), QVariant(0));
 }
@@ -234,7 +234,7 @@ void tst_SwitchTransition::offMidwayStartsAtThePositionReached()
 void tst_SwitchTransition::onMidwayStartsFromTheOffEnd()
 {
     control().setChecked(true);
-    settle();
+    finishAnimations();
     control().setChecked(false);
     animators().runFrom(75);
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(18));
@@ -248,12 +248,12 @@ void tst_SwitchTransition::onMidwayStartsFromTheOffEnd()
 void tst_SwitchTransition::sameStateReplaysTheTransition()
 {
     control().setChecked(true);
-    settle();
+    finishAnimations();
     control().setChecked(true);
     QCOMPARE(animators().thumbPos->state(), QAbstractAnimation::Running);
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(0));
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOff));
-    settle();
+    finishAnimations();
     QCOMPARE(animators().thumbPos->currentValue(), QVariant(36));
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOn));
 }
@@ -317,7 +317,7 @@ void tst_SwitchTransition::hiddenSwitchJumpsInOrder()
     QCOMPARE(order, expected);
 }
 
-void tst_SwitchTransition::hiddenSwitchIsFirstShownAtRest()
+void tst_SwitchTransition::hiddenSwitchIsFirstShownIdle()
 {
     Switch fresh;
     fresh.setChecked(true);
@@ -352,10 +352,10 @@ void tst_SwitchTransition::animatedFramesRepaint()
     QCOMPARE(updates.take(), 1);
 }
 
-void tst_SwitchTransition::refreshAtRestShowsTheOffColors()
+void tst_SwitchTransition::refreshWhileIdleShowsTheOffColors()
 {
     control().setChecked(true);
-    settle();
+    finishAnimations();
     control().setHeight(42);
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOff));
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOff));
@@ -370,7 +370,7 @@ void tst_SwitchTransition::refreshAtRestShowsTheOffColors()
     QVERIFY(test::sameImage(test::paintedBy(control()), test::painted(picture)));
 
     control().setChecked(true);
-    settle();
+    finishAnimations();
     QCOMPARE(animators().thumbBrush->currentValue(), QVariant(thumbOn));
     QCOMPARE(animators().trackBrush->currentValue(), QVariant(trackOn));
 }
@@ -388,7 +388,7 @@ void tst_SwitchTransition::refreshMidwayShowsTheOffColors()
 void tst_SwitchTransition::refreshSetsTheTrackFirst()
 {
     control().setChecked(true);
-    settle();
+    finishAnimations();
     QVector<QObject*> order;
     const QObject scope; // of the connections
     const test::Animators its = animators();

@@ -20,11 +20,11 @@ timing=("${timing[@]/repetitions=*/repetitions=2}")
 timing=("${timing[@]/min_time=*/min_time=0.0001}")
 file_counts=(3)
 repetitions=1
-rest=100
+idle=100
 
 measure_rows "$program" "$results" '^frame, plain|^keypad, later|1000 of CRoundedFrame, made'
 measure_browsing "$program" "$results"
-measure_rest "$program" "$results"
+measure_idle "$program" "$results"
 library=$(ldd "$program" | sed -n 's/.*=> \(.*libplatform_widgets[^ ]*\).*/\1/p')
 measure_library "$library" "$loader" "$results"
 note_run "$results"
@@ -36,7 +36,7 @@ shows() {
 }
 
 figure='[0-9,.]+'
-shows "^\| own instructions by the floor's \| frame, plain \| $figure \| 1.05 \| (yes|no) \|"
+shows "^\| own instructions by the baseline's \| frame, plain \| $figure \| 1.05 \| (yes|no) \|"
 shows "^\| frame, plain \| QFrame with a style sheet( \| $figure){11} \|$"
 shows "^\| keypad, later opening \| [^|]* \| $figure \| $figure \|  \| $figure \|  \|"
 shows "^\| 1000 of CRoundedFrame, made \| QFrame( \| $figure){9} \|$"

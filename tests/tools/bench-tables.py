@@ -15,9 +15,9 @@ from results import Results  # noqa: E402
 
 ROWS = f"{DISPATCH}\t\t1\nbattery\tQProgressBar\t1\n10 of Switch, made\tQCheckBox\t10\n"
 COUNTS = {
-    f"{DISPATCH}|ours": 900, f"{DISPATCH}|floor": 400,
-    "battery|ours": 10500, "battery|stock": 10000, "battery|floor": 8000,
-    "10 of Switch, made|ours": 3000, "10 of Switch, made|stock": 1500,
+    f"{DISPATCH}|ours": 900, f"{DISPATCH}|baseline": 400,
+    "battery|ours": 10500, "battery|counterpart": 10000, "battery|baseline": 8000,
+    "10 of Switch, made|ours": 3000, "10 of Switch, made|counterpart": 1500,
 }
 
 
@@ -32,7 +32,7 @@ class Tables(unittest.TestCase):
 
     def write_all(self):
         self.write("rows", ROWS)
-        self.write("allocations", "battery|ours\t14\t0\nbattery|stock\t39\t0\n10 of Switch, made|ours\t70\t5000\n")
+        self.write("allocations", "battery|ours\t14\t0\nbattery|counterpart\t39\t0\n10 of Switch, made|ours\t70\t5000\n")
         for number, (cell, count) in enumerate(COUNTS.items()):
             self.write(f"callgrind.{number + 1}", f"desc: Trigger: Client Request: {cell}\nsummary: {count}\n")
         runs = [{"run_name": "battery|ours", "aggregate_name": "median", "real_time": 2500.0},
@@ -64,10 +64,10 @@ class Tables(unittest.TestCase):
         self.write_all()
         self.assertIn("| 10,000 | FileBrowserWidget | 24 | 50 | 20 | 24 | 4,000 |", self.report())
 
-    def test_aims(self):
+    def test_thresholds(self):
         self.write_all()
         report = self.report()
-        self.assertIn("| own instructions by the floor's | battery | 1.25 | 1.05 | no |", report)
+        self.assertIn("| own instructions by the baseline's | battery | 1.25 | 1.05 | no |", report)
         self.assertIn("| battery by a QProgressBar | battery | 1.05 | 1 | no |", report)
         self.assertIn("| 10,000 files by a bare model and view | processor time | 1.20 | 1.1 | no |", report)
         self.assertIn("| bytes of the stripped library |  | 400,000 | 307,200 | no |", report)
@@ -79,7 +79,7 @@ class Tables(unittest.TestCase):
 
 
 class Documentation(unittest.TestCase):
-    """docs/benchmarks.md owns up to every row in which a stock widget wins."""
+    """docs/benchmarks.md owns up to every row in which the Qt counterpart wins."""
 
     def test_every_loss_is_explained(self):
         docs = SOURCE / "docs"
@@ -92,12 +92,12 @@ class Documentation(unittest.TestCase):
 
     @staticmethod
     def quotients(text):
-        """Of ours by the stock widget's instructions, by row, or by class where each phase has a row."""
+        """Of ours by the Qt counterpart's instructions, by row, or by class where each phase has a row."""
         column = None
         for line in text.splitlines():
             fields = [field.strip() for field in line.strip("|").split("|")]
-            if "ours / stock" in fields:
-                column = fields.index("ours / stock")
+            if "ours / counterpart" in fields:
+                column = fields.index("ours / counterpart")
             elif column is not None and len(fields) > column and re.fullmatch(r"[\d.]+", fields[column]):
                 yield re.sub(r"^\d+ of (.*), .*$", r"\1", fields[0]), float(fields[column])
             elif not line:

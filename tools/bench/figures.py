@@ -10,13 +10,13 @@ def quotient(counts, row, column):
     return ours / other if ours is not None and other else None
 
 
-def own_by_floor(counts, row):
-    """Ours by the floor, less what Qt spends to bring a painter to one widget."""
-    ours, floor = counts.get(f"{row}|ours"), counts.get(f"{row}|floor")
-    dispatch = counts.get(f"{DISPATCH}|ours"), counts.get(f"{DISPATCH}|floor")
-    if row == DISPATCH or None in (ours, floor, *dispatch):
+def own_by_baseline(counts, row):
+    """Ours by the baseline, less what Qt spends to bring a painter to one widget."""
+    ours, baseline = counts.get(f"{row}|ours"), counts.get(f"{row}|baseline")
+    dispatch = counts.get(f"{DISPATCH}|ours"), counts.get(f"{DISPATCH}|baseline")
+    if row == DISPATCH or None in (ours, baseline, *dispatch):
         return None
-    return max(0, ours - dispatch[0] + dispatch[1]) / floor
+    return max(0, ours - dispatch[0] + dispatch[1]) / baseline
 
 
 def shown(figure):
@@ -28,4 +28,4 @@ def ratio(counts, row, column):
 
 
 def own(counts, row):
-    return shown(own_by_floor(counts, row))
+    return shown(own_by_baseline(counts, row))

@@ -7,11 +7,11 @@ from statistics import median
 
 
 class Results:
-    """Figures by 'row|column', of whole runs; the columns are ours, stock and floor."""
+    """Figures by 'row|column', of whole runs; the columns are ours, counterpart and baseline."""
 
     def __init__(self, folder):
         self.folder = Path(folder)
-        self.rows = [(name, stock, int(parts)) for name, stock, parts in self.lines("rows")]
+        self.rows = [(name, counterpart, int(parts)) for name, counterpart, parts in self.lines("rows")]
         self.instructions = dict(self._counts())
         self.nanoseconds = dict(self._times())
         allocations = self.lines("allocations")

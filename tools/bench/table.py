@@ -9,11 +9,11 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
-from aims import aims  # noqa: E402
+from thresholds import thresholds  # noqa: E402
 from figures import LOADING, own, ratio  # noqa: E402
 from results import Results  # noqa: E402
 
-COLUMNS = ("ours", "stock", "floor")
+COLUMNS = ("ours", "counterpart", "baseline")
 WAYS = {"bare": "a bare model and list view", "ours": "FileBrowserWidget", "dialog": "QFileDialog"}
 
 
@@ -40,19 +40,19 @@ def microseconds(results, row, parts=1, columns=COLUMNS):
 
 
 def works(results):
-    for row, stock, parts in results.rows:
+    for row, counterpart, parts in results.rows:
         if parts == 1:
             counts = results.instructions
-            yield [row, stock, *whole(counts, row), ratio(counts, row, "stock"), own(counts, row),
+            yield [row, counterpart, *whole(counts, row), ratio(counts, row, "counterpart"), own(counts, row),
                    *microseconds(results, row), *whole(results.blocks, row)]
 
 
 def lives(results):
     two = COLUMNS[:2]
-    for row, stock, parts in results.rows:
+    for row, counterpart, parts in results.rows:
         if parts > 1:
             counts = results.instructions
-            yield [row, stock, *whole(counts, row, parts, two), ratio(counts, row, "stock"),
+            yield [row, counterpart, *whole(counts, row, parts, two), ratio(counts, row, "counterpart"),
                    *microseconds(results, row, parts, two), *whole(results.blocks, row, parts, two),
                    *whole(results.bytes, row, parts, two)]
 
@@ -72,20 +72,20 @@ def library(results):
 
 
 def report(results):
-    ours = [">ours", ">stock"]
+    ours = [">ours", ">counterpart"]
     return "\n".join(filter(None, [
-        table(["Aim", "Worst case", ">Measured", ">At most", "Reached"], aims(results)),
-        table(["Work", "Stock widget", ">Instructions: ours", ">stock", ">floor", ">ours / stock",
-               ">own / floor", ">µs: ours", ">stock", ">floor", ">heap blocks: ours", ">stock", ">floor"],
+        table(["Figure", "Worst case", ">Measured", ">At most", "Reached"], thresholds(results)),
+        table(["Work", "Qt counterpart", ">Instructions: ours", ">counterpart", ">baseline", ">ours / counterpart",
+               ">own / baseline", ">µs: ours", ">counterpart", ">baseline", ">heap blocks: ours", ">counterpart", ">baseline"],
               works(results)),
-        table(["Of each", "Stock widget", ">Instructions: ours", ">stock", ">ours / stock", ">µs: ours",
-               ">stock", ">heap blocks: ours", ">stock", ">bytes kept: ours", ">stock"], lives(results)),
+        table(["Of each", "Qt counterpart", ">Instructions: ours", ">counterpart", ">ours / counterpart", ">µs: ours",
+               ">counterpart", ">heap blocks: ours", ">counterpart", ">bytes kept: ours", ">counterpart"], lives(results)),
         table([">Files", "Opened with", ">first screenful, ms", ">all shown, ms", ">longest block, ms",
                ">processor, ms", ">memory, kB"], browsing(results)),
-        table(["Change", "Stock widget", ">Pixels of the widget", ">painted: ours", ">stock"],
+        table(["Change", "Qt counterpart", ">Pixels of the widget", ">painted: ours", ">counterpart"],
               results.lines("damage")),
-        table([">Milliseconds at rest", ">wake-ups with every widget", ">with an empty window"],
-              results.lines("rest")),
+        table([">Milliseconds idle", ">wake-ups with every widget", ">with an empty window"],
+              results.lines("idle")),
         table(["Library", ">"], library(results)),
     ]))
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# measure what the widgets cost beside stock widgets and bare drawing
+# measure what the widgets cost beside Qt counterparts and bare drawing
 #
 # usage: ./dev bench [--filter REGEX] [--peers] [--accept]
 #
@@ -38,7 +38,7 @@ mkdir -p "$results"
 measure_rows "$program" "$results" "$filter"
 if [ -z "$filter" ]; then
     measure_browsing "$program" "$results"
-    measure_rest "$program" "$results"
+    measure_idle "$program" "$results"
     measure_library "$build/src/libplatform_widgets.so.1.2" "$build/bench/platform_bench_loading" "$results"
     note_run "$results"
 fi

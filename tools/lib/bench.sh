@@ -12,7 +12,7 @@ timing=(
 
 file_counts=(100 10000 100000)
 repetitions=5
-rest=5000 # milliseconds
+idle=5000 # milliseconds
 
 # under_callgrind OUT COMMAND...: counts only where the command asks for it.
 under_callgrind() {
@@ -48,9 +48,9 @@ measure_browsing() {
     done >"$results/browsing"
 }
 
-measure_rest() {
+measure_idle() {
     "$1" --damage >"$2/damage" 2>>"$2/log"
-    "$1" --rest "$rest" >"$2/rest" 2>>"$2/log"
+    "$1" --idle "$idle" >"$2/idle" 2>>"$2/log"
 }
 
 # measure_library LIBRARY LOADER RESULTS

@@ -97,7 +97,7 @@ LineEditWatcher::LineEditWatcher(ui::LineEdit* field, Model* model)
     , m_model(model)
 {
     field->installEventFilter(this);
-    connect(field, &ui::LineEdit::resultValidated, this, &LineEditWatcher::checkVerdict);
+    connect(field, &ui::LineEdit::resultValidated, this, &LineEditWatcher::checkValidity);
     connect(field, &ui::LineEdit::signalCancelKey, this, &LineEditWatcher::checkRestored);
 }
 
@@ -124,14 +124,14 @@ bool LineEditWatcher::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void LineEditWatcher::checkVerdict(bool valid)
+void LineEditWatcher::checkValidity(bool valid)
 {
     m_valid = valid;
     // A Cancel asks about the text that was saved, even if the field can no longer hold all of it.
     const bool cut = m_saved.size() > m_field->maxLength();
     m_model->expect(valid == isAcceptable(m_field->text())
                         || (cut && valid == isAcceptable(m_saved)),
-                    "the verdict is the validator's");
+                    "the validity is the validator's");
     m_model->compare("inputValid in the signal", m_field->property("inputValid"), QVariant(valid));
 }
 

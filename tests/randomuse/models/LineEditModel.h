@@ -27,7 +27,7 @@ public:
 
 private:
     bool isAcceptable(QString text) const;
-    void checkVerdict(bool valid);
+    void checkValidity(bool valid);
     void checkRestored();
     bool isKeypadUp() const;
 

@@ -14,7 +14,7 @@
  * ARM. Without text, which follows the installed fonts. A changed look changes a picture: the
  * failing test leaves the new one in its working directory.
  */
-class tst_RecordedPictures : public QObject
+class tst_ReferenceImages : public QObject
 {
     Q_OBJECT
 
@@ -35,24 +35,24 @@ private Q_SLOTS:
 
 namespace {
 
-QImage recorded(const QString& name)
+QImage referenceImage(const QString& name)
 {
     return QImage(QStringLiteral(PICTURES "/%1.png").arg(name));
 }
 
 /// Transparent and enlarged, so that every partly covered pixel shows.
-bool isAsRecorded(QWidget& widget, const QSize& size)
+bool equalsReference(QWidget& widget, const QSize& size)
 {
     widget.resize(size);
     const QString name = QString::fromUtf8(QTest::currentTestFunction()) + QLatin1Char('-')
         + QString::fromUtf8(QTest::currentDataTag());
     return test::sameImage(test::paintedBy(widget, 2.0, QRegion(), Qt::transparent),
-                           recorded(name));
+                           referenceImage(name));
 }
 
 } // namespace
 
-void tst_RecordedPictures::battery_data()
+void tst_ReferenceImages::battery_data()
 {
     QTest::addColumn<bool>("present");
     QTest::addColumn<bool>("charging");
@@ -61,7 +61,7 @@ void tst_RecordedPictures::battery_data()
     QTest::newRow("absent") << false << false;
 }
 
-void tst_RecordedPictures::battery()
+void tst_ReferenceImages::battery()
 {
     QFETCH(bool, present);
     QFETCH(bool, charging);
@@ -71,26 +71,26 @@ void tst_RecordedPictures::battery()
     battery.setChargePercentage(63);
     battery.setBatteryPresent(present);
     battery.setBatteryCharging(charging);
-    QVERIFY(isAsRecorded(battery, QSize(53, 89)));
+    QVERIFY(equalsReference(battery, QSize(53, 89)));
 }
 
-void tst_RecordedPictures::button_data()
+void tst_ReferenceImages::button_data()
 {
     QTest::addColumn<bool>("down");
     QTest::newRow("up") << false;
     QTest::newRow("down") << true;
 }
 
-void tst_RecordedPictures::button()
+void tst_ReferenceImages::button()
 {
     QFETCH(bool, down);
 
     ui::CGridArrangedButton button;
     button.setDown(down);
-    QVERIFY(isAsRecorded(button, QSize(91, 43)));
+    QVERIFY(equalsReference(button, QSize(91, 43)));
 }
 
-void tst_RecordedPictures::frame_data()
+void tst_ReferenceImages::frame_data()
 {
     QTest::addColumn<QFrame::Shadow>("shadow");
     QTest::newRow("plain") << QFrame::Plain;
@@ -98,7 +98,7 @@ void tst_RecordedPictures::frame_data()
     QTest::newRow("sunken") << QFrame::Sunken;
 }
 
-void tst_RecordedPictures::frame()
+void tst_ReferenceImages::frame()
 {
     QFETCH(QFrame::Shadow, shadow);
 
@@ -107,17 +107,17 @@ void tst_RecordedPictures::frame()
     frame.setLineWidth(3);
     frame.setFrameShadow(shadow);
     frame.setAutoFillBackground(true);
-    QVERIFY(isAsRecorded(frame, QSize(101, 57)));
+    QVERIFY(equalsReference(frame, QSize(101, 57)));
 }
 
-void tst_RecordedPictures::scrollIndicator_data()
+void tst_ReferenceImages::scrollIndicator_data()
 {
     QTest::addColumn<Qt::Orientation>("orientation");
     QTest::newRow("horizontal") << Qt::Horizontal;
     QTest::newRow("vertical") << Qt::Vertical;
 }
 
-void tst_RecordedPictures::scrollIndicator()
+void tst_ReferenceImages::scrollIndicator()
 {
     QFETCH(Qt::Orientation, orientation);
 
@@ -126,10 +126,10 @@ void tst_RecordedPictures::scrollIndicator()
     bar.setPageStep(31);
     bar.setValue(23);
     const QSize lying(111, ui::widgets::ScrollIndicatorBar::PERPENDICULAR_SIZE);
-    QVERIFY(isAsRecorded(bar, orientation == Qt::Horizontal ? lying : lying.transposed()));
+    QVERIFY(equalsReference(bar, orientation == Qt::Horizontal ? lying : lying.transposed()));
 }
 
-void tst_RecordedPictures::toggle_data()
+void tst_ReferenceImages::toggle_data()
 {
     QTest::addColumn<bool>("checked");
     QTest::addColumn<bool>("enabled");
@@ -138,7 +138,7 @@ void tst_RecordedPictures::toggle_data()
     QTest::newRow("disabled") << true << false;
 }
 
-void tst_RecordedPictures::toggle()
+void tst_ReferenceImages::toggle()
 {
     QFETCH(bool, checked);
     QFETCH(bool, enabled);
@@ -147,10 +147,10 @@ void tst_RecordedPictures::toggle()
     control.setTrackOnBrush(Qt::darkCyan);
     control.setChecked(checked);
     control.setEnabled(enabled);
-    QVERIFY(isAsRecorded(control, QSize(97, 41)));
+    QVERIFY(equalsReference(control, QSize(97, 41)));
 }
 
-void tst_RecordedPictures::icon_data()
+void tst_ReferenceImages::icon_data()
 {
     QTest::addColumn<int>("size");
     for (const char* name : {"tile_view", "list_view"}) {
@@ -160,15 +160,16 @@ void tst_RecordedPictures::icon_data()
     }
 }
 
-void tst_RecordedPictures::icon()
+void tst_ReferenceImages::icon()
 {
     QFETCH(int, size);
 
     const QString row = QString::fromUtf8(QTest::currentDataTag());
     const QIcon icon(QStringLiteral(":/icons/%1.svg").arg(row.section(QLatin1Char('-'), 0, 0)));
-    QVERIFY(test::sameImage(icon.pixmap(size).toImage(), recorded(QStringLiteral("icon-") + row)));
+    QVERIFY(test::sameImage(icon.pixmap(size).toImage(),
+                            referenceImage(QStringLiteral("icon-") + row)));
 }
 
-const test::Registration<tst_RecordedPictures> registration;
+const test::Registration<tst_ReferenceImages> registration;
 
-#include "tst_RecordedPictures.moc"
+#include "tst_ReferenceImages.moc"

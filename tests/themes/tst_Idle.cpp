@@ -37,7 +37,7 @@ QVector<int> timers(QObject* object)
 } // namespace
 
 /// What a widget does while nobody does anything to it: nothing.
-class tst_AtRest : public QObject
+class tst_Idle : public QObject
 {
     Q_OBJECT
 
@@ -59,26 +59,26 @@ private:
     std::unique_ptr<QWidget> m_window;
 };
 
-void tst_AtRest::initTestCase()
+void tst_Idle::initTestCase()
 {
     test::dropOffscreenMessages();
 }
 
-void tst_AtRest::init()
+void tst_Idle::init()
 {
     m_window = std::make_unique<QWidget>();
     m_window->resize(800, 480);
     m_window->setFocusPolicy(Qt::StrongFocus);
 }
 
-void tst_AtRest::addWidgets()
+void tst_Idle::addWidgets()
 {
     QTest::addColumn<ClassInfo>("info");
     for (const ClassInfo& info : test::allWidgetClasses())
         QTest::newRow(info.name) << info;
 }
 
-QWidget* tst_AtRest::showWidget()
+QWidget* tst_Idle::showWidget()
 {
     QFETCH(ClassInfo, info);
     auto* widget = static_cast<QWidget*>(info.createTypical(m_window.get()));
@@ -87,18 +87,18 @@ QWidget* tst_AtRest::showWidget()
     return QTest::qWaitForWindowActive(m_window.get()) ? widget : nullptr;
 }
 
-void tst_AtRest::noTimerRuns_data()
+void tst_Idle::noTimerRuns_data()
 {
     addWidgets();
 }
 
-void tst_AtRest::noTimerRuns()
+void tst_Idle::noTimerRuns()
 {
     QVERIFY(showWidget());
     QTRY_COMPARE(timers(m_window.get()), QVector<int>());
 }
 
-void tst_AtRest::noTimerRunsAfterATransition()
+void tst_Idle::noTimerRunsAfterATransition()
 {
     auto* control = new Switch(m_window.get());
     m_window->show();
@@ -111,7 +111,7 @@ void tst_AtRest::noTimerRunsAfterATransition()
     QTRY_COMPARE(timers(m_window.get()), QVector<int>());
 }
 
-void tst_AtRest::noTimerRunsAfterTheKeypad()
+void tst_Idle::noTimerRunsAfterTheKeypad()
 {
     auto* field = new ui::KeypadLineEdit(m_window.get());
     m_window->show();
@@ -124,12 +124,12 @@ void tst_AtRest::noTimerRunsAfterTheKeypad()
     QTRY_COMPARE(timers(m_window.get()), QVector<int>());
 }
 
-void tst_AtRest::nothingIsPaintedAgain_data()
+void tst_Idle::nothingIsPaintedAgain_data()
 {
     addWidgets();
 }
 
-void tst_AtRest::nothingIsPaintedAgain()
+void tst_Idle::nothingIsPaintedAgain()
 {
     QWidget* widget = showWidget();
     QVERIFY(widget);
@@ -151,6 +151,6 @@ void tst_AtRest::nothingIsPaintedAgain()
     }
 }
 
-const test::Registration<tst_AtRest> registration;
+const test::Registration<tst_Idle> registration;
 
-#include "tst_AtRest.moc"
+#include "tst_Idle.moc"

@@ -1,4 +1,4 @@
-#include "Rest.h"
+#include "Idle.h"
 
 #include "AllClasses.h"
 
