@@ -9,8 +9,8 @@
 namespace {
 
 //! [MovingOn]
-/// Calls \a action once the edit whose signal is being handled is over: the field has given up the focus
-/// in the next iteration of the event loop, and its keypad is gone in the one after.
+/// Calls \a action once the edit whose signal is being handled is over: the field has given up the
+/// focus in the next iteration of the event loop, and its keypad is gone in the one after.
 template <typename Action>
 void afterTheEdit(QObject* context, const Action& action)
 {

@@ -36,7 +36,8 @@ bool showActive(QWidget& window)
 
 } // namespace
 
-/// A field with a keypad where it is no ordinary child of a window: in a graphics scene, and in a pop-up.
+/// A field with a keypad where it is no ordinary child of a window: in a graphics scene, and in a
+/// pop-up.
 class tst_EmbeddedKeypadField : public QObject
 {
     Q_OBJECT
