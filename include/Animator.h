@@ -19,6 +19,12 @@
  *
  * It paints nothing itself and has no hook for style sheets.
  *
+ * \anchor properties_Animator
+ * \par Properties
+ * | Property | Getter | Setter | Default | In a style sheet |
+ * |---|---|---|---|---|
+ * | \c targetObject | targetObject() | setTargetObject() | as constructed | none |
+ *
  * The nearest class of Qt is QPropertyAnimation, which writes a property of its target. The animator
  * writes nothing, so a value that only matters to the picture needs neither a property nor a field.
  *

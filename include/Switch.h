@@ -68,20 +68,38 @@ Q_DECLARE_METATYPE(Style::Animation)
  * | QPalette::ButtonText | the label, from the group Active or Disabled; black by default |
  * | `#Switch` | every switch that has not been given another object name |
  * | `color` | the label, as QPalette::ButtonText |
- * | `qproperty-height` | indicatorHeight() |
- * | `qproperty-thumbOnBrush`, `qproperty-thumbOffBrush` | colour of the thumb; black by default |
- * | `qproperty-trackOnBrush`, `qproperty-trackOffBrush` | colour of the track; black by default |
- * | `qproperty-thumbOnOpacity`, `qproperty-thumbOffOpacity` | its opacity, from 0 to 1; 1 by default |
- * | `qproperty-trackOnOpacity`, `qproperty-trackOffOpacity` | opacity of the track; 0.5 and 0.25 by default |
- * | `qproperty-thumbDisabled`, `qproperty-trackDisabled` | their colours when disabled; black by default |
- * | `qproperty-trackDisabledOpacity` | opacity of the track when disabled; 0.15 by default |
- * | `qproperty-disabledTextOpacity` | opacity of the label when disabled; 0.4 by default |
+ * | `qproperty-...` | the properties below, all but the three animations |
+ *
+ * \anchor properties_Switch
+ * \par Properties
+ * | Property | Getter | Setter | Default | In a style sheet |
+ * |---|---|---|---|---|
+ * | \c height | indicatorHeight() | setHeight() | 36 | `qproperty-height` |
+ * | \c font | labelFont() | setFont() | the application's | `qproperty-font` |
+ * | \c thumbOnBrush | thumbOnBrush() | setThumbOnBrush() | invalid, drawn as black | `qproperty-thumbOnBrush` |
+ * | \c thumbOnOpacity | thumbOnOpacity() | setThumbOnOpacity() | 1 | `qproperty-thumbOnOpacity` |
+ * | \c trackOnBrush | trackOnBrush() | setTrackOnBrush() | invalid, drawn as black | `qproperty-trackOnBrush` |
+ * | \c trackOnOpacity | trackOnOpacity() | setTrackOnOpacity() | 0.5 | `qproperty-trackOnOpacity` |
+ * | \c thumbOffBrush | thumbOffBrush() | setThumbOffBrush() | invalid, drawn as black | `qproperty-thumbOffBrush` |
+ * | \c thumbOffOpacity | thumbOffOpacity() | setThumbOffOpacity() | 1 | `qproperty-thumbOffOpacity` |
+ * | \c trackOffBrush | trackOffBrush() | setTrackOffBrush() | invalid, drawn as black | `qproperty-trackOffBrush` |
+ * | \c trackOffOpacity | trackOffOpacity() | setTrackOffOpacity() | 0.25 | `qproperty-trackOffOpacity` |
+ * | \c thumbDisabled | thumbDisabled() | setThumbDisabled() | invalid, drawn as black | `qproperty-thumbDisabled` |
+ * | \c thumbDisabledOpacity | thumbDisabledOpacity() | setThumbDisabledOpacity() | 1 | `qproperty-thumbDisabledOpacity` |
+ * | \c trackDisabled | trackDisabled() | setTrackDisabled() | invalid, drawn as black | `qproperty-trackDisabled` |
+ * | \c trackDisabledOpacity | trackDisabledOpacity() | setTrackDisabledOpacity() | 0.15 | `qproperty-trackDisabledOpacity` |
+ * | \c textColor | textColor() | setTextColor() | invalid | `qproperty-textColor` |
+ * | \c disabledTextOpacity | disabledTextOpacity() | setDisabledTextOpacity() | 0.4 | `qproperty-disabledTextOpacity` |
+ * | \c thumbBrushAnimation | thumbBrushAnimation() | setThumbBrushAnimation() | linear, 150 ms | none |
+ * | \c trackBrushAnimation | trackBrushAnimation() | setTrackBrushAnimation() | linear, 150 ms | none |
+ * | \c thumbPosAnimation | thumbPosAnimation() | setThumbPosAnimation() | in-out quadratic, 150 ms | none |
  *
  * \par Looks
  * Colours are those of the properties, and of the palette for the label alone. An application with a
  * dark palette sets the label's with setPalette(). A switch that nobody configured draws black in
- * different opacities: dark thumb, lighter track, the track lighter still when off. Track and thumb have fixed radii; at the default height and margins the track is a pill
- * of 36 x 16 pixels, and the thumb and its shadow just fit.
+ * different opacities: dark thumb, lighter track, the track lighter still when off. Track and
+ * thumb have fixed radii; at the default height and margins the track is a pill of 36 x 16 pixels, and
+ * the thumb and its shadow just fit.
  *
  * \par Opacities
  * Fractions 0...1. Where an opacity makes up the alpha of a colour (all but those of the disabled

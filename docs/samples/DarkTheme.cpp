@@ -6,7 +6,7 @@
 void samples::darkTheme()
 {
     //! [DarkTheme]
-    QPalette dark(QColor(48, 53, 58), QColor(28, 31, 34)); // buttons, windows; white text follows
+    QPalette dark(QColor(44, 48, 52), QColor(28, 31, 34)); // buttons, windows; white text follows
     dark.setColor(QPalette::Base, QColor(20, 22, 24));
     dark.setColor(QPalette::Highlight, QColor(92, 184, 224));
     dark.setColor(QPalette::HighlightedText, Qt::black);

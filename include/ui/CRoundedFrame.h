@@ -35,8 +35,16 @@ namespace ui {
  * | QPalette::Light, QPalette::Dark | the outline of a raised or a sunken frame |
  * | backgroundRole(), QPalette::Window by default | the inside, if it is filled |
  * | `ui--CRoundedFrame` | plain outline by \c color, filled inside by \c background-color |
- * | `qproperty-radius`, `qproperty-lineWidth` | outline and contents margins, in pixels |
- * | `qproperty-frameShadow`, `qproperty-frameShape` | look of the outline, by the names of the enumerators |
+ * | `qproperty-...` | the properties below; enumerators by their names |
+ *
+ * \anchor properties_CRoundedFrame
+ * \par Properties
+ * | Property | Getter | Setter | Default | In a style sheet |
+ * |---|---|---|---|---|
+ * | \c radius | radius() | setRadius() | 18 | `qproperty-radius` |
+ * | \c lineWidth | lineWidth() | setLineWidth() | 2 | `qproperty-lineWidth` |
+ * | \c frameShadow | frameShadow() | setFrameShadow() | Plain | `qproperty-frameShadow` |
+ * | \c frameShape | frameShape() | setFrameShape() | Box | `qproperty-frameShape` |
  *
  * No value is refused. Radii and widths that are too large for the widget leave no room for its
  * contents; then, and with margins of 0 or less, no outline is drawn and no mask is made.

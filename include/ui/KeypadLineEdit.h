@@ -31,6 +31,12 @@ class KeypadPopup;
  * | `[inputValid="false"]` | as of \ref looks_LineEdit "ui::LineEdit" |
  * | `ui--KeypadPopup` | its pop-up: see \ref looks_KeypadPopup "ui::KeypadPopup" |
  *
+ * \anchor properties_KeypadLineEdit
+ * \par Properties
+ * | Property | Getter | Setter | Default | In a style sheet |
+ * |---|---|---|---|---|
+ * | \c text | text() | setText() | empty | `qproperty-text` |
+ *
  * The pop-up is always shown and hidden one turn of the event loop after the request. It leaves the
  * focus with the field; focus that comes back because a pop-up was closed is given up at once. The
  * nearest neighbour in Qt is a QLineEdit with an input method, whose panel is not tied to one field.
