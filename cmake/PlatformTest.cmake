@@ -1,3 +1,9 @@
+# The faster linker of Debian's binutils, where there is one.
+if(NOT CMAKE_CROSSCOMPILING)
+    find_program(PLATFORM_GOLD ld.gold)
+    mark_as_advanced(PLATFORM_GOLD)
+endif()
+
 # platform_add_test(CLASS
 #     [PLATFORMS offscreen x11]  where it runs; offscreen alone by default
 #     [SCREENS WIDTHxHEIGHT...]  on x11, the sizes of the screens that it runs on one after the other
@@ -23,8 +29,7 @@ function(platform_add_test class)
         set(argument ${class})
     endif()
     if(NOT TARGET ${program})
-        add_executable(${program})
-        target_link_libraries(${program} PRIVATE platform_test_support)
+        platform_add_test_program(${program})
     endif()
     target_sources(${program} PRIVATE tst_${class}.cpp ${arg_SOURCES})
     target_link_libraries(${program} PRIVATE ${arg_LIBRARIES})
@@ -56,6 +61,18 @@ function(platform_add_test class)
             platform_register_test(x11.${class}.${screen} xcb "XSERVER_SCREEN=${screen}x24" ${in_x_server})
         endforeach()
     endforeach()
+endfunction()
+
+function(platform_add_test_program program)
+    add_executable(${program})
+    target_link_libraries(${program} PRIVATE platform_test_support)
+    platform_reuse_precompiled(${program} platform_test_support)
+    # It includes nearly nothing, and loading a precompiled header takes longer.
+    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${program}_autogen/mocs_compilation.cpp"
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+    if(PLATFORM_GOLD)
+        target_link_options(${program} PRIVATE -fuse-ld=gold)
+    endif()
 endfunction()
 
 # Registers the test NAME, which runs the command ARGN with Qt's platform plugin PLUGIN.

@@ -54,11 +54,13 @@ lint_cppcheck() {
         src include platform gallery designer docs
 }
 
-# The compile commands of the dev build, less what only g++ understands, in build/lint.
+# The compile commands of the dev build, less what only g++ understands and the precompiled headers, in
+# build/lint.
 clang_compile_commands() {
     build dev
     mkdir -p build/lint
-    sed -E 's/ (-fno-gnu-unique|-Werror)\b//g' build/dev/compile_commands.json >build/lint/compile_commands.json
+    sed -E 's/ (-fno-gnu-unique|-Werror|-Winvalid-pch|-include [^ ]*cmake_pch\.hxx)\b//g' \
+        build/dev/compile_commands.json >build/lint/compile_commands.json
 }
 
 readonly OWN_HEADERS="$DEV_ROOT/(src|include|platform|gallery|designer|docs)/"
