@@ -145,6 +145,7 @@ void CGridArrangedButton::addWidget(QWidget* widget, int row, int column,
     if (!acceptsCalls(m_gridLayout, *this, __func__) || !acceptsWidget(widget, *this)
         || !acceptsCells(row, column, 1, 1, __func__))
         return;
+    // mutant [dropped]: The grid makes the button the parent of its widgets as well.
     widget->setParent(this);
     m_gridLayout->addWidget(widget, row, column, alignment);
 }
@@ -155,6 +156,7 @@ void CGridArrangedButton::addWidget(QWidget* widget, int row, int column, int ro
     if (!acceptsCalls(m_gridLayout, *this, __func__) || !acceptsWidget(widget, *this)
         || !acceptsCells(row, column, rowSpan, columnSpan, __func__))
         return;
+    // mutant [dropped]: The grid makes the button the parent of its widgets as well.
     widget->setParent(this);
     m_gridLayout->addWidget(widget, row, column, rowSpan, columnSpan, alignment);
 }
@@ -176,6 +178,8 @@ void CGridArrangedButton::setColumnMinimumWidth(int column, int minSize)
 int CGridArrangedButton::columnStretch(int column) const
 {
     const bool exists =
+        // mutant [0 -> (-1); < -> <=]: Reads outside of Qt's array, which no test can see in a Qt
+        // without assertions.
         laysOut(m_gridLayout, *this) && column >= 0 && column < m_gridLayout->columnCount();
     return exists ? m_gridLayout->columnStretch(column) : 0;
 }
@@ -225,6 +229,7 @@ void CGridArrangedButton::setContentsMargins(int left, int top, int right, int b
 void CGridArrangedButton::create()
 {
     m_gridLayout = new QGridLayout(this);
+    // mutant [dropped]: A layout made with a widget as its parent is that widget's layout already.
     setLayout(m_gridLayout);
 }
 

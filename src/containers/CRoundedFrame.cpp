@@ -56,9 +56,11 @@ CRoundedFrame::CRoundedFrame(QWidget* parent)
     , m_lineWidth(defaultLineWidth)
     , m_frameShadow(QFrame::Plain)
     , m_frameShape(Box)
+    // mutant [0 -> (-1); 0 -> 1]: The constructor computes the margin in its body.
     , m_margin(0)
     , m_fillContents(false)
     , m_widgetMask(false)
+    // mutant [false -> true]: Read only while the mask is enabled, and enabling it sets it.
     , m_maskDirty(false)
 {
     updateMargins();
@@ -151,6 +153,7 @@ void CRoundedFrame::updateMargins()
 void CRoundedFrame::fullUpdate()
 {
     updateGeometry();
+    // mutant [order]: The margins do not depend on the mask, nor the mask on them.
     updateMargins();
     m_maskDirty = true;
     update();
@@ -183,6 +186,7 @@ void CRoundedFrame::paintEvent(QPaintEvent* event)
     if (m_widgetMask && m_maskDirty) {
         painter.setClipPath(roundedRect(QRectF(0, 0, width(), height()), m_radius),
                             Qt::ReplaceClip);
+        // mutant [order]: setMask() paints nothing before it returns.
         setMask(painter.clipRegion());
         m_maskDirty = false;
     }

@@ -63,8 +63,10 @@ bool awaitsContextMenuEvent(const QWidget& widget)
 /// Hides \a widget from user and program at once; Qt deletes it as soon as it has done with it.
 void retire(QWidget& widget)
 {
+    // mutant [order]: No event comes between the two.
     widget.hide();
     widget.setContextMenuPolicy(Qt::PreventContextMenu);
+    // mutant [order]: deleteLater() only asks for the deletion.
     widget.setObjectName(QString());
     widget.deleteLater();
 }
@@ -78,6 +80,7 @@ void clearLayout(QLayout& layout, int first)
             retire(*widget);
         else
             delete widget;
+        // mutant [dropped]: Leaks the item: the leak sanitizer fails the same tests.
         delete item;
     }
 }
@@ -109,7 +112,9 @@ BreadCrumbsWidget::BreadCrumbsWidget(QWidget* parent)
     m_moreButton = std::make_unique<QPushButton>(QStringLiteral("..."), this);
     m_moreButton->setMinimumWidth(minMoreButtonWidth);
     connect(m_moreButton.get(), &QPushButton::clicked, this, &BreadCrumbsWidget::showHiddenCrumbs);
+    // mutant [order]: The layout does not show what has been hidden.
     m_layout->addWidget(m_moreButton.get());
+    // mutant [order]: The margins do not depend on the button.
     m_moreButton->hide();
     m_layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
@@ -120,6 +125,7 @@ BreadCrumbsWidget::~BreadCrumbsWidget() = default;
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the public interface
 void BreadCrumbsWidget::setRootPath(QString path)
 {
+    // mutant [order]: Neither depends on the other.
     m_rootDir = QDir(path);
     m_currentDir = QDir(path);
     refresh();
@@ -134,10 +140,12 @@ void BreadCrumbsWidget::changeDir(QString path)
 
 void BreadCrumbsWidget::refresh()
 {
+    // mutant [order]: The old row does not depend on the new crumbs.
     clearLayout(*m_layout, 1); // item 0 is the "..." button
     m_crumbs = crumbsBelow(m_rootDir, m_currentDir);
     m_moreButton->setVisible(m_maxVisibleCrumbs < m_crumbs.size());
 
+    // mutant [0 -> (-1)]: Counts crumbs that are not there, of which none is shown.
     const int hidden = qMax(0, m_crumbs.size() - m_maxVisibleCrumbs);
     QDir dir = m_rootDir;
     for (int i = 0; i < m_crumbs.size(); ++i) {

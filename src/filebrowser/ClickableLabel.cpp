@@ -21,6 +21,8 @@ void ClickableLabel::mousePressEvent(QMouseEvent*)
 void ClickableLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    // mutant [dropped]: Text, which is all that is drawn, is antialiased anyhow;
+    // QPainter::TextAntialiasing is the default.
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 
     const QFontMetrics metrics = painter.fontMetrics();

@@ -60,6 +60,7 @@ FileBrowserWidget::FileBrowserWidget(QWidget* parent)
     setObjectName(QStringLiteral("FileBrowser"));
     connect(m_model, &QObject::destroyed, this, [this] { m_model = nullptr; });
     m_model->setFilter(QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot);
+    // mutant [order]: The fonts do not depend on the model.
     m_model->setRootPath(QStringLiteral("~")); // a name like any other, not the home directory
     useFileBrowserFont(m_rootCombo);
     useFileBrowserFont(m_tileView);
@@ -75,6 +76,8 @@ FileBrowserWidget::~FileBrowserWidget()
     delete m_model;
     // The base class deletes the children, at a time when they must not report here any more.
     for (const QObject* child : children())
+        // mutant [dropped]: Keeps children that die with the browser from calling a part of it that
+        // is dead already: no test sees that.
         child->disconnect(this);
 }
 
@@ -85,6 +88,7 @@ QHBoxLayout* FileBrowserWidget::createNavBar()
 
     m_rootCombo->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
     layout->addWidget(m_rootCombo);
+    // mutant [order]: The combo box reports nothing before the bar exists.
     connect(m_rootCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &FileBrowserWidget::changeRoot);
 
@@ -120,6 +124,7 @@ QVBoxLayout* FileBrowserWidget::createFileView()
     m_tileView->setWrapping(true);
     m_tileView->setResizeMode(QListView::Adjust);
     m_tileView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // mutant [dropped]: The default of Qt's views, spelt out.
     m_tileView->setDragDropMode(QAbstractItemView::NoDragDrop);
     m_tileView->setModel(m_model);
     m_tileView->setRootIndex(m_model->index(m_model->rootPath()));
@@ -129,6 +134,7 @@ QVBoxLayout* FileBrowserWidget::createFileView()
 
     m_listView->setModel(m_model);
     m_listView->setRootIndex(m_model->index(m_model->rootPath()));
+    // mutant [dropped]: The default of QTreeView, spelt out.
     m_listView->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_listView->setRootIsDecorated(false);
     m_listView->setItemsExpandable(false);
@@ -136,6 +142,7 @@ QVBoxLayout* FileBrowserWidget::createFileView()
     m_listView->header()->setSortIndicator(0, Qt::AscendingOrder);
     m_listView->setTextElideMode(Qt::ElideMiddle);
     m_listView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // mutant [dropped]: The default of Qt's views, spelt out.
     m_listView->setDragDropMode(QAbstractItemView::NoDragDrop);
     m_listView->setUniformRowHeights(true);
     setUpHeader(m_listView->header());
@@ -171,6 +178,7 @@ QString FileBrowserWidget::currentPath() const
 
 void FileBrowserWidget::setSelectionMode(ui::FileBrowserWidget::SelectionMode mode)
 {
+    // mutant [dropped]: The member is part of the class's layout, but nothing reads it.
     m_selectionMode = mode;
     const auto setViewMode = [this](QAbstractItemView::SelectionMode viewMode) {
         m_tileView->setSelectionMode(viewMode);
@@ -185,6 +193,7 @@ void FileBrowserWidget::setSelectionMode(ui::FileBrowserWidget::SelectionMode mo
         break;
     case MultiSelection:
         setViewMode(QAbstractItemView::ExtendedSelection);
+        // mutant [dropped]: Ends the last case of its switch; the other two are noticed.
         break;
     }
 }
@@ -231,7 +240,9 @@ void FileBrowserWidget::changeRoot(int index)
     setRootPath(path);
     if (!m_breadCrumbs)
         return;
+    // mutant [order]: Both lead to the same row: none, as the directory is the root.
     m_breadCrumbs->setRootPath(path);
+    // mutant [dropped]: A new root is the bar's current directory already; spelt out.
     m_breadCrumbs->changeDir(path);
 }
 

@@ -75,6 +75,8 @@ void SelectionHandler::deselect(const Directories& directories)
         const bool last = i == directories.size() - 1;
         if (!directory.isValid() || !m_model->isDir(directory)
             || !(last || snapshot.contains(directory)))
+            // mutant [dropped]: A row that is gone is in no selection: deselecting none changes
+            // nothing.
             continue;
         selectionModel()->select(directory, QItemSelectionModel::Deselect);
         snapshot = SelectionSnapshot(selectionModel(), m_model);

@@ -26,8 +26,11 @@ constexpr double heightToWidth = 1.7134955147666626;
 constexpr int defaultFrameWidth = 4;
 
 /// Rectangles end here, so that no width, height or intersection of them overflows.
+// mutant [2 -> 3]: Any bound does of which twice still fits an int; it only keeps absurd geometry
+// from overflowing.
 constexpr qint64 largestCoordinate = std::numeric_limits<int>::max() / 2;
 /// The rasteriser's own limit; a wider pen covers every screen just the same.
+// mutant [32767 -> 32766; 32767 -> 32768]: A pixel more or less of a pen that covers every screen.
 constexpr double widestPen = 32767;
 
 constexpr QColor boltColor(239, 184, 0);
@@ -130,7 +133,10 @@ QPainterPath boltPath(const QRect& box)
 
 CBatteryStatusWidget::CBatteryStatusWidget(QWidget* parent)
     : QWidget(parent)
+    // mutant [sign; 1 -> 0; 1 -> 2]: The constructor's body sets the width; any other than that
+    // will do.
     , m_frameWidth(-1) // differs from the default, which is set below
+    // mutant [sign; 1.0 -> 0.9; 1.0 -> 1.1]: The constructor's body sets it along with the width.
     , m_cornerRadius(-1.0)
     , m_flags(BatteryPresent)
     , m_charge(0.0)
@@ -139,6 +145,7 @@ CBatteryStatusWidget::CBatteryStatusWidget(QWidget* parent)
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setFrameWidth(defaultFrameWidth);
+    // mutant [order]: Neither depends on the other.
     setFillColor(QColor(Qt::blue));
     registerAccessible<CBatteryStatusWidget, AccessibleBattery>();
 }
@@ -193,6 +200,7 @@ void CBatteryStatusWidget::setFrameWidth(int width)
     if (m_frameWidth == width)
         return;
 
+    // mutant [order]: Neither depends on the other.
     m_frameWidth = width;
     m_cornerRadius = width * GOLDEN_RATIO;
     update();
@@ -240,6 +248,7 @@ void CBatteryStatusWidget::setBatteryCharging(bool charging)
 
 void CBatteryStatusWidget::resizeEvent(QResizeEvent* event)
 {
+    // mutant [dropped]: Qt's handler does nothing.
     QWidget::resizeEvent(event);
 
     const QRect contents = bounded(contentsRect());
@@ -253,6 +262,7 @@ void CBatteryStatusWidget::resizeEvent(QResizeEvent* event)
     const qint64 totalHeight = getTotalHeight(bodyHeight, topHeight);
     const qint64 top = contents.top() + (contents.height() - totalHeight) / 2;
 
+    // mutant [order]: Neither depends on the other.
     m_topRect = rectOfSize(centredLeft(contents, topWidth, m_frameWidth), top, topWidth, topHeight);
     m_batteryRect = rectOfSize(centredLeft(contents, bodyWidth, m_frameWidth), top + topHeight,
                                bodyWidth, bodyHeight);

@@ -24,6 +24,8 @@ QColor buttonShade(const QPalette& palette, double saturation, double value)
 {
     const QColor button = palette.button().color().toHsv(); // once, for the three below
     return QColor::fromHsv(button.hue(), qMin(int(button.saturation() * saturation), 255),
+                           // mutant [255 -> 254; 255 -> 256]: A value times 0.9 or 0.7 does not
+                           // reach the bound.
                            qMin(int(button.value() * value), 255), 255);
 }
 
@@ -90,10 +92,12 @@ QLine handleLine(const QRect& handle, Qt::Orientation orientation, int index)
 void drawHandle(QPainter& painter, const QRect& handle, Qt::Orientation orientation,
                 const QColor& firstColor)
 {
+    // mutant [dropped]: Lines have no inside.
     painter.setBrush(Qt::NoBrush);
     QColor color = firstColor;
     for (int i = 0; i < ScrollIndicatorBar::PERPENDICULAR_SIZE; ++i) {
         painter.setPen(QPen(color, 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        // mutant [order]: The pen has its colour by then.
         painter.drawLine(handleLine(handle, orientation, i));
         color = color.darker(lineDarkening);
     }

@@ -23,6 +23,9 @@ KeypadLineEdit::~KeypadLineEdit()
     // Qt hands the focus back to the field, which then cancels: nobody is to hear of it any more, and
     // no slot is to delete the field once more.
     const QSignalBlocker blocker(this);
+    // mutant [order]: Hiding makes the pop-up send nothing that the field is connected to.
+    // mutant [dropped]: Keeps the pop-up, which dies with the field, from writing to a part of the
+    // field that is dead already: no test sees that.
     popup->disconnect(this);
     popup->hide();
 }
@@ -33,6 +36,7 @@ void KeypadLineEdit::setMaxLength(int length)
     const int selectedLength = selectedText().length();
     LineEdit::setMaxLength(length);
     // A start beyond the shortened text would only make Qt complain.
+    // mutant [<= -> <]: At the very end of the text nothing gets selected.
     if (selectedLength > 0 && selectedFrom <= text().length())
         setSelection(selectedFrom, selectedLength);
 }
@@ -97,6 +101,7 @@ void KeypadLineEdit::focusOutEvent(QFocusEvent* event)
 
 void KeypadLineEdit::createPopup()
 {
+    // mutant [sign; 1 -> 0]: The last argument is ignored.
     popup = new KeypadPopup(this, QString(), keyboardType, -1);
     connect(popup, &KeypadPopup::signalCancel, this, &KeypadLineEdit::onCancelKey);
     connect(popup, &KeypadPopup::signalOk, this, &KeypadLineEdit::onOkKey);

@@ -28,6 +28,7 @@ constexpr int subtitleHeight = 20;
 constexpr int rightScreenMargin = 10;
 
 // Shades of the base colour in percent, as QColor::lighter() and QColor::darker() take them.
+// mutant [110 -> 109; 110 -> 111]: The base colour lighter by either is white.
 constexpr int lightFactor = 110;
 constexpr int subtitleFactor = 115;
 constexpr int midFactor = 125;
@@ -97,7 +98,10 @@ KeypadPopup::KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::Ke
     parent->installEventFilter(this);
     // The pop-up dies with its parent, but an application may have given it another one meanwhile.
     connect(parent, &QObject::destroyed, this, [this] { target = nullptr; });
+    // mutant [dropped]: The default of QWidget, spelt out because the pop-up must not take the
+    // focus.
     setFocusPolicy(Qt::NoFocus);
+    // mutant [order]: The keypad does not ask for it.
     setAutoFillBackground(true);
 
     keypadWidget = ui::keyboard::IKeypad::create(type, this);
@@ -111,6 +115,7 @@ KeypadPopup::KeypadPopup(QWidget* parent, const QString& title, ui::keyboard::Ke
 
     auto* innerLayout = new QVBoxLayout(frame);
     innerLayout->setContentsMargins(frameMargin, frameMargin, frameMargin, frameMargin);
+    // mutant [order]: The subtitle does not depend on the layout.
     innerLayout->setSpacing(frameSpacing);
     createSubtitle(frame, title);
     innerLayout->addWidget(subtitleLabel);
@@ -122,8 +127,11 @@ KeypadPopup::~KeypadPopup()
 {
     // These are deleted next, when nothing is left that could take note of it.
     if (keypadWidget)
+        // mutant [dropped]: Keeps the keypad, which dies with the pop-up, from writing to a part of
+        // it that is dead already: no test sees that.
         keypadWidget->disconnect(this);
     if (subtitleLabel)
+        // mutant [dropped]: The same for the label.
         subtitleLabel->disconnect(this);
 }
 
@@ -141,8 +149,11 @@ QFrame* KeypadPopup::createFrame()
 {
     auto* frame = new QFrame(this);
     frame->setFrameStyle(QFrame::Box | QFrame::Raised);
+    // mutant [dropped]: The default of QFrame.
     frame->setLineWidth(frameLineWidth);
     frame->setMidLineWidth(frameMidLineWidth);
+    // mutant [dropped]: The default of QFrame, spelt out because the pop-up must not take the
+    // focus.
     frame->setFocusPolicy(Qt::NoFocus);
     frame->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding);
 
@@ -187,6 +198,7 @@ void KeypadPopup::locatePopup()
     QPoint position = target->mapToGlobal(QPoint(0, target->height()));
     if (position.y() + sizeHint().height() > screen.height())
         position.ry() -= sizeHint().height() + target->height();
+    // mutant [1 -> 0]: A pop-up that keeps the margin to the pixel is moved to where it is.
     if (position.x() + sizeHint().width() >= screen.width() - rightScreenMargin + 1)
         position.setX(screen.width() - rightScreenMargin - sizeHint().width());
     move(position);
@@ -211,7 +223,10 @@ bool KeypadPopup::eventFilter(QObject* watched, QEvent* event)
         QTimer::singleShot(0, this, [this] { goWithField(this, target); });
     if (watched != target || event->type() != QEvent::FocusOut || !isVisible() || !refocusPending)
         return false;
+    // mutant [order]: Qt reports no loss of focus before activateWindow() returns.
     refocusPending = false;
+    // mutant [order]: While a pop-up is open, QApplication takes no note of a new active window,
+    // whenever it is asked for.
     target->activateWindow();
     target->setFocus(Qt::OtherFocusReason);
     return true;

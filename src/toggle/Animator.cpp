@@ -93,6 +93,7 @@ void Animator::setCurrentValue(const QVariant& value)
     setStartValue(value);
     setEndValue(value);
     const QVariant reached = currentValue();
+    // mutant [order]: Nothing is emitted between the two.
     blocker.unblock();
     target = listener;
 
@@ -109,6 +110,7 @@ void Animator::updateState(QAbstractAnimation::State newState, QAbstractAnimatio
         qWarning("Animation::updateState: Changing state of an animation without target");
         return;
     }
+    // mutant [dropped]: Does nothing in Qt 5.15.
     QVariantAnimation::updateState(newState, oldState);
     if (!endValue().isValid() && direction() == QAbstractAnimation::Forward) {
         qWarning("Animation::updateState (%s): starting an animation without end value",

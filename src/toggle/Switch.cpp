@@ -79,6 +79,7 @@ Switch::Switch(const QString& text, QWidget* parent)
 Switch::Switch(const QString& text, const QBrush& brush, QWidget* parent)
     : Switch(text, parent)
 {
+    // mutant [order]: Neither depends on the other.
     m_thumbOnBrush = brush.color();
     m_trackOnBrush = brush.color();
 }
@@ -87,6 +88,7 @@ Switch::~Switch() = default;
 
 void Switch::init()
 {
+    // mutant [order]: The name does not depend on the animators, nor they on it.
     setObjectName(QStringLiteral("Switch"));
     m_thumbBrushAnimator = new Animator(this, this);
     m_trackBrushAnimator = new Animator(this, this);
@@ -120,7 +122,9 @@ QRect Switch::textRect() const
 
 void Switch::refresh()
 {
+    // mutant [order]: The animators are configured at rest, each for itself.
     configure(m_thumbPosAnimator, m_thumbPosAnimation);
+    // mutant [order]: The same.
     configure(m_trackBrushAnimator, m_trackBrushAnimation);
     configure(m_thumbBrushAnimator, m_thumbBrushAnimation);
     // The colours of the off state, whatever the state is: the next transition brings back the others.
@@ -179,10 +183,10 @@ Switch::Look Switch::enabledLook() const
 {
     const double travel = SwitchGeometry(m_height, m_indicatorMargin).travel();
     return {currentValue(m_trackBrushAnimator).value<QColor>(),
-            1.0,
-            currentValue(m_thumbBrushAnimator).value<QColor>(),
-            currentValue(m_thumbPosAnimator).toInt() - travel,
-            QPalette::Active,
+            // mutant [1.0 -> 1.1]: QPainter draws with an opacity of 1 at most.
+            1.0, currentValue(m_thumbBrushAnimator).value<QColor>(),
+            currentValue(m_thumbPosAnimator).toInt() - travel, QPalette::Active,
+            // mutant [1.0 -> 1.1]: QPainter draws with an opacity of 1 at most.
             1.0};
 }
 
@@ -203,9 +207,12 @@ void Switch::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     painter.setOpacity(look.trackOpacity);
     drawTrack(&painter, track, look.track);
+    // mutant [1.0 -> 1.1]: QPainter draws with an opacity of 1 at most.
     painter.setOpacity(1.0);
     drawThumb(&painter, thumbCentre(track, look.thumbShift), look.thumb, m_shadowPixmap);
     if (text().isEmpty())
+        // mutant [dropped]: The pen and the font of an empty text draw nothing; leaving early only
+        // saves the work.
         return;
     painter.setOpacity(look.textOpacity);
     painter.setPen(palette().brush(look.textGroup, QPalette::ButtonText).color());
@@ -215,6 +222,8 @@ void Switch::paintEvent(QPaintEvent*)
 
 void Switch::resizeEvent(QResizeEvent* event)
 {
+    // mutant [order]: Qt's handler, the base class's, does nothing.
     m_shadowPixmap = thumbShadow();
+    // mutant [dropped]: Qt's handler, the base class's, does nothing.
     SelectionControl::resizeEvent(event);
 }

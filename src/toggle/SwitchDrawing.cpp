@@ -21,6 +21,8 @@ constexpr int shadowSize = 29; // the disc and 2 pixels around it for the blur
 constexpr double shadowDiameter = 25.0;
 constexpr double shadowBlurRadius = 8.0;
 constexpr int shadowAlpha = 70;
+// mutant [1.0 -> 1.1]: The centre lies on whole and half pixels, so that the picture starts in the
+// same row.
 constexpr double shadowDrop = 1.0; // the light comes from above
 
 QRectF disc(const QPointF& centre, double diameter)
@@ -41,6 +43,7 @@ QImage sharpShadow()
     QPainter painter(&shadow);
     painter.setPen(Qt::NoPen);
     painter.setRenderHint(QPainter::Antialiasing);
+    // mutant [0 -> 1]: Multiplied by the alpha it is no colour at all.
     painter.setBrush(QColor(0, 0, 0, shadowAlpha));
     painter.drawEllipse(disc(QPointF(shadowSize, shadowSize) / 2.0, shadowDiameter));
     return shadow;
@@ -50,7 +53,9 @@ QImage blurred(QImage image)
 {
     QImage result = transparentImage();
     QPainter painter(&result);
+    // mutant [false -> true]: The shadow is black: its alpha is all there is to blur.
     qt_blurImage(&painter, image, shadowBlurRadius, true, false);
+    // mutant [dropped]: The painter has nothing left to draw then, and ends with the function.
     painter.end();
     // An image that has been painted on keeps its paint engine, nearly as large as this picture.
     return result.copy();
@@ -62,7 +67,10 @@ QColor withOpacity(const QColor& color, double opacity)
 {
     const double alpha = opacity * 255.0;
     // Rounding is only defined for what an int can hold; the colour itself refuses -1 and 256.
+    // mutant [> -> >=; 2.0 -> 1.8; 2.0 -> 2.2; < -> <=; 257.0 -> 282.70000000000005]: QColor
+    // refuses every alpha below 0 and above 255.
     const bool roundable = alpha > -2.0 && alpha < 257.0;
+    // mutant [1 -> 2]: QColor refuses both.
     return {color.red(), color.green(), color.blue(), roundable ? qRound(alpha) : -1};
 }
 
@@ -83,6 +91,8 @@ void drawTrack(QPainter* painter, const QRectF& track, const QColor& color)
     painter->setBrush(color);
     painter->setRenderHint(QPainter::Antialiasing, true);
     painter->drawRoundedRect(track, trackRadius, trackRadius);
+    // mutant [dropped; false -> true]: What follows is a picture or text, which the hint does not
+    // change.
     painter->setRenderHint(QPainter::Antialiasing, false);
 }
 
@@ -95,6 +105,8 @@ void drawThumb(QPainter* painter, const QPointF& centre, const QColor& color, co
     painter->setBrush(color);
     painter->setRenderHint(QPainter::Antialiasing, true);
     painter->drawEllipse(disc(centre, thumbDiameter));
+    // mutant [dropped; false -> true]: What follows is a picture or text, which the hint does not
+    // change.
     painter->setRenderHint(QPainter::Antialiasing, false);
 }
 

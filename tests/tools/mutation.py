@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The ways to break a source: each sample's mutants, and nothing where there is no code."""
+"""The ways to break a source: each sample's mutants, nothing where there is no code, and the marks that accept some."""
 import os
 import sys
 import unittest
@@ -8,7 +8,8 @@ from pathlib import Path
 PROJECT = Path(__file__).resolve().parents[2]
 os.environ["DEV_ROOT"] = str(PROJECT)
 sys.path.insert(0, str(PROJECT / "tools" / "mutants"))
-from mutants import read_accepted  # noqa: E402
+from cpp import without_comments  # noqa: E402
+from marks import flaws, marks  # noqa: E402
 from mutate import mutants  # noqa: E402
 
 
@@ -58,13 +59,41 @@ class Mutation(unittest.TestCase):
         self.assertEqual(mutants("#define A 1\n#include <b>\nX::~X() = default;\n"), [])
         self.assertEqual(broken("QVector<int*> a;"), [])
 
-    def test_accepted_mutants_exist(self):
-        existing = set()
-        for path in (PROJECT / "src").rglob("*.cpp"):
-            text = path.read_text()
-            name = str(path.relative_to(PROJECT))
-            existing |= {(name, *mutant.difference(text)) for mutant in mutants(text)}
-        self.assertEqual(read_accepted() - existing, set())
+    def test_comments_do_not_count(self):
+        self.assertEqual(without_comments('a; // b\n/* c\n d */\n\nf("// g"); \n'), 'a;\nf("// g");')
+
+
+class Marks(unittest.TestCase):
+    head = "void f()\n{\n"
+    tail = "    a(0);\n    b(1);\n}\n"
+
+    def accepted(self, comment):
+        """The labels of the mutants that the mark in the comment accepts."""
+        text = self.head + comment + self.tail
+        return [mutant.label(text) for mutant in mutants(text) for mark in marks(text) if mark.accepts(mutant, text)]
+
+    def flaws(self, comment):
+        return list(flaws(self.head + comment + self.tail))
+
+    def test_accepts_what_it_names_in_its_line(self):
+        self.assertEqual(self.accepted("    // mutant [0 -> 1]: why\n"), ["0 -> 1"])
+        self.assertEqual(self.accepted("    // mutant [order; dropped]: why\n    // so\n"), ["dropped", "order"])
+        self.assertEqual(self.accepted("    // mutant [order]: why\n    // mutant [dropped]: so\n"),
+                         ["dropped", "order"])
+        self.assertEqual(self.accepted("    // a mutant [dropped]: why\n"), [])
+
+    def test_reason(self):
+        found = marks("// mutant [order]: why\n// so\na();\n")
+        self.assertEqual([(mark.number, mark.line, mark.reason) for mark in found], [(1, 3, "why so")])
+
+    def test_flaws(self):
+        self.assertEqual(self.flaws("    // mutant [0 -> 1]: why\n"), [])
+        self.assertEqual(self.flaws("    // mutant [0 -> 1]:\n"), ["3: a mark without a reason"])
+        self.assertEqual(self.flaws("    // mutant [1 -> 2]: why\n"), ["3: there is no mutant '1 -> 2' in line 4"])
+
+    def test_sources_have_no_flaws(self):
+        found = [f"{path.name}:{flaw}" for path in (PROJECT / "src").rglob("*.cpp") for flaw in flaws(path.read_text())]
+        self.assertEqual(found, [])
 
 
 if __name__ == "__main__":

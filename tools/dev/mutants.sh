@@ -8,8 +8,9 @@
 #   --minutes N    stop after that time; the next run goes on from there
 #   --jobs N       mutants at the same time, 2 by default
 #   --report       try nothing out, list what is known
+#   --accept       keep the counts as docs/figures/mutants.md
 #
-# Mutants that change nothing observable are listed with reasons in tools/mutants/accepted.txt.
+# A mutant that changes nothing observable has a mark above its line, with the reason.
 
 case "${1:-}" in
     --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
@@ -18,7 +19,7 @@ arguments=("$@")
 while [ $# -gt 0 ]; do
     case "$1" in
         --file | --sample | --minutes | --jobs) option_value mutants "$1" $# "${2:-}" >/dev/null; shift ;;
-        --report) ;;
+        --report | --accept) ;;
         *) unknown_option mutants "$1" ;;
     esac
     shift

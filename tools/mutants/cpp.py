@@ -20,6 +20,12 @@ def blank_out(text):
     return _NOT_CODE.sub(lambda match: re.sub(r"[^\n]", " ", match.group()), text)
 
 
+def without_comments(text):
+    """The text without comments and the lines that they leave empty."""
+    code = _NOT_CODE.sub(lambda match: "" if match.group().startswith(("//", "/*")) else match.group(), text)
+    return "\n".join(line.rstrip() for line in code.split("\n") if line.strip())
+
+
 def closing(code, opening):
     """The position of the parenthesis that closes the one at the given position."""
     depth = 0

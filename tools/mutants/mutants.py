@@ -16,12 +16,15 @@ import time
 from dataclasses import dataclass
 from pathlib import Path
 
+from cpp import without_comments
+from marks import flaws, marks
 from mutate import Mutant, mutants
 from trees import Tree
 
 PROJECT = Path(os.environ["DEV_ROOT"])
 PLACE = PROJECT / "build" / "mutants"
-ACCEPTED = PROJECT / "tools" / "mutants" / "accepted.txt"
+FIGURES = PROJECT / "docs" / "figures" / "mutants.md"
+THEMES = "themes"  # the folder of the tests that go over every class
 
 
 @dataclass
@@ -33,33 +36,20 @@ class Task:
     near_tests: list
     far_tests: list
     tests_digest: str
+    is_accepted: bool
 
     @property
     def key(self):
-        return digest(self.name, self.mutant.apply(self.text))
+        """The same whatever the comments say."""
+        return digest(self.name, without_comments(self.mutant.apply(self.text)))
 
     @property
-    def difference(self):
-        return (self.name, *self.mutant.difference(self.text))
+    def line(self):
+        return self.mutant.line(self.text)
 
 
 def digest(*texts):
     return hashlib.sha1("\0".join(texts).encode()).hexdigest()
-
-
-def read_accepted():
-    """The differences that are known to change nothing observable."""
-    accepted = set()
-    text = ACCEPTED.read_text() if ACCEPTED.exists() else ""
-    for paragraph in text.split("\n\n"):
-        lines = [line for line in paragraph.strip().split("\n") if not line.startswith("#")]
-        changes = [line for line in lines if line.startswith(("- ", "+ "))]
-        if changes:
-            reason = lines[1 + len(changes):]
-            if not " ".join(reason).strip():
-                raise SystemExit(f"mutants: no reason is given for accepting {lines[0]} {changes}")
-            accepted.add((lines[0], *changes))
-    return accepted
 
 
 def folder_of(name):
@@ -68,11 +58,12 @@ def folder_of(name):
 
 
 def tests_for(name, tests):
-    """The tests of the class that a source is named after, and the other tests of its folder."""
+    """The tests of the class that a source is named after, and those of its folder and over all classes."""
     folder, stem = folder_of(name), Path(name).stem
     in_folder = sorted(test for test, place in tests.items() if place == folder)
     near = [test for test in in_folder if test.split(".", 1)[1].startswith(stem) and test.startswith("offscreen.")]
-    return (near or in_folder), ([test for test in in_folder if test not in near] if near else [])
+    over_all = sorted(test for test, place in tests.items() if place == THEMES and test.startswith("offscreen."))
+    return (near or in_folder), [test for test in in_folder if near and test not in near] + over_all
 
 
 def read_tasks(pattern, sample, tests):
@@ -88,7 +79,10 @@ def read_tasks(pattern, sample, tests):
             continue
         folder = PROJECT / "tests" / folder_of(name)
         tests_digest = digest(*(file.read_text() for file in sorted(folder.glob("*.cpp"))))
-        tasks += [Task(name, text, mutant, near, far, tests_digest) for mutant in mutants(text)[::sample]]
+        accepting = marks(text)
+        tasks += [Task(name, text, mutant, near, far, tests_digest,
+                       any(mark.accepts(mutant, text) for mark in accepting))
+                  for mutant in mutants(text)[::sample]]
     return tasks
 
 
@@ -134,9 +128,9 @@ def work(tree, tasks, results, deadline):
             break
         fate = try_out(tree, task)
         results.add(task, fate)
-        print(f"{tasks.qsize():5d} left; {task.name}:{task.mutant.line(task.text)} {task.mutant.kind}: {fate}",
+        print(f"{tasks.qsize():5d} left; {task.name}:{task.line} {task.mutant.kind}: {fate}",
               flush=True)
-    tree.mend()
+    tree.restore()
 
 
 def prepare(tree, folders, names):
@@ -150,7 +144,7 @@ def run(tasks, trees, results, minutes):
     for task in tasks:
         waiting.put(task)
     names = sorted({test for task in tasks for test in task.near_tests + task.far_tests})
-    folders = {folder_of(task.name) for task in tasks}
+    folders = {THEMES} | {folder_of(task.name) for task in tasks}
     for tree in trees:
         prepare(tree, folders, names)
     deadline = time.monotonic() + minutes * 60
@@ -161,18 +155,45 @@ def run(tasks, trees, results, minutes):
         worker.join()
 
 
-def report(tasks, results, accepted):
-    """Prints the survivors as accepted.txt takes them, and a last line of counts."""
+def unneeded_marks(tasks, results):
+    """The labels of marks all of whose mutants are noticed, or do not compile."""
+    fates = collections.defaultdict(set)
+    for task in tasks:
+        for mark in marks(task.text) if task.is_accepted else []:
+            if mark.accepts(task.mutant, task.text):
+                fates[task.name, mark.number, task.mutant.label(task.text)].add(results.of(task))
+    return [f"{name}:{number}: no mutant needs the mark '{label}'"
+            for (name, number, label), known in fates.items() if not known & {"survived", None}]
+
+
+def flawed_marks(tasks):
+    texts = {task.name: task.text for task in tasks}
+    return [f"{name}:{flaw}" for name, text in texts.items() for flaw in flaws(text)]
+
+
+def keep(counts):
+    """The counts as a figure of the documentation."""
+    head = "<!-- Written by ./dev mutants --accept: the next run replaces it. -->"
+    lines = [f"| {fate} | {count:,} |" for fate, count in sorted(counts.items())]
+    FIGURES.write_text("\n".join([head, "", "| Mutants | Count |", "|---|--:|", *lines, ""]))
+
+
+def report(tasks, results, findings, accept):
+    """Prints the survivors as a mark names them, the findings, and a last line of counts."""
     fates = collections.Counter()
     for task in tasks:
         fate = results.of(task) or "not tried"
-        if fate != "killed" and task.difference in accepted:
+        if fate == "survived" and task.is_accepted:
             fate = "accepted"
         fates[fate] += 1
         if fate == "survived":
-            print(f"\n# line {task.mutant.line(task.text)}, {task.mutant.kind}", *task.difference, sep="\n")
-    print(f"\n{len(tasks)} mutants: " + ", ".join(f"{count} {fate}" for fate, count in sorted(fates.items())))
-    return 1 if fates["survived"] else 0
+            print(f"\n{task.name}:{task.line}: mutant [{task.mutant.label(task.text)}]",
+                  *task.mutant.difference(task.text), sep="\n")
+    print("", *findings, sep="\n")
+    print(f"{len(tasks)} mutants: " + ", ".join(f"{count} {fate}" for fate, count in sorted(fates.items())))
+    if accept:
+        keep(fates)
+    return 1 if fates["survived"] or findings else 0
 
 
 def read_arguments():
@@ -182,7 +203,11 @@ def read_arguments():
     parser.add_argument("--minutes", type=float, default=float("inf"))
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--report", action="store_true")
-    return parser.parse_args()
+    parser.add_argument("--accept", action="store_true")
+    arguments = parser.parse_args()
+    if arguments.accept and (arguments.file or arguments.sample > 1):
+        raise SystemExit("mutants: --accept is for all mutants, not for a part of them")
+    return arguments
 
 
 def main():
@@ -193,15 +218,11 @@ def main():
             tree.refresh()
             tree.configure()
     results = Results()
-    accepted = read_accepted()
     tasks = read_tasks(arguments.file, arguments.sample, trees[0].tests())
-    alike = collections.Counter(task.difference for task in tasks)
-    # Of several mutants that look alike, not all need change as little as the one that is accepted.
-    left = [task for task in tasks
-            if not results.of(task) and not (task.difference in accepted and alike[task.difference] == 1)]
+    left = [task for task in tasks if not results.of(task)]
     if left and not arguments.report:
         run(left, trees, results, arguments.minutes)
-    return report(tasks, results, accepted)
+    return report(tasks, results, flawed_marks(tasks) + unneeded_marks(tasks, results), arguments.accept)
 
 
 if __name__ == "__main__":

@@ -19,6 +19,12 @@ class Mutant:
     def line(self, text):
         return text.count("\n", 0, self.start) + 1
 
+    def label(self, text):
+        """How a mark names it, among those of its line: what is exchanged, or its kind."""
+        if self.kind in _EXCHANGED:
+            return f"{text[self.start:self.end]} -> {self.replacement}"
+        return self.kind
+
     def difference(self, text):
         """The lines before, marked -, and after, marked +, without their indentation."""
         first = text.rfind("\n", 0, self.start) + 1
@@ -38,6 +44,7 @@ _EXCHANGES = {
     "truth": {"true": "false", "false": "true"},
     "extreme": {"qMin": "qMax", "qMax": "qMin", "expandedTo": "boundedTo", "boundedTo": "expandedTo"},
 }
+_EXCHANGED = {*_EXCHANGES, "number"}
 _NUMBER = re.compile(r"(?<![\w.])(0x[0-9a-fA-F]+|\d+\.\d*|\d+)(?=[uUlLfF]*(?![\w.]))")
 # What only asks for something later does the same a statement sooner.
 _LATER = re.compile(r"(update|updateGeometry)\(")

@@ -74,13 +74,13 @@ class Tree:
         self._must_run(["ninja", "-C", str(self.build), "platform_widgets", *targets])
 
     def set_source(self, name, text):
-        """Breaks a source, and mends the one that was broken before."""
+        """Breaks a source, and restores the one that was broken before."""
         if self.broken and self.broken != name:
             shutil.copy(self.project / self.broken, self.source / self.broken)
         (self.source / name).write_text(text)
         self.broken = name
 
-    def mend(self):
+    def restore(self):
         if self.broken:
             shutil.copy(self.project / self.broken, self.source / self.broken)
         self.broken = None
