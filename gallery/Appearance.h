@@ -30,7 +30,7 @@ struct Appearance
     /// shade of it: light on what is dark and dark on what is light.
     static QPalette indicatorPalette(QPalette palette);
 
-    /// Leaves the buttons of \a browser with icons as light as in the light palette, since the icons are
-    /// dark.
+    /// Leaves the buttons of \a browser with icons as light as in the light palette, since the
+    /// icons are dark.
     static void keepIconButtonsLight(QWidget& browser);
 };

@@ -5,9 +5,9 @@
 /**
  * Fusion for touch screens.
  *
- * Whatever can be tapped is at least touch::targetSize pixels high, a slider goes where it is pressed,
- * and a text that is too long for its control is elided. A text that is written from left to right is
- * so in a mirrored application, too, with its numbers and signs.
+ * Whatever can be tapped is at least touch::targetSize pixels high, a slider goes where it is
+ * pressed, and a text that is too long for its control is elided. A text that is written from left
+ * to right is so in a mirrored application, too, with its numbers and signs.
  */
 class TouchStyle : public QProxyStyle
 {

@@ -9,11 +9,11 @@
 /**
  * Animates one value on behalf of a target object.
  *
- * At every change of its current value the animator sends the target a QEvent::StyleAnimationUpdate,
- * not accepted. A widget that receives it schedules a repaint, and its paint code then reads
- * currentValue():
+ * At every change of its current value the animator sends the target a
+ * QEvent::StyleAnimationUpdate, not accepted. A widget that receives it schedules a repaint, and
+ * its paint code then reads currentValue():
  *
- * \image html Animator.png "The sample below while it lights up: its value after so many milliseconds"
+ * \image html Animator.png "The sample below lighting up: its value after so many milliseconds"
  *
  * \snippet Glow.cpp Animator
  *
@@ -25,8 +25,9 @@
  * |---|---|---|---|---|
  * | \c targetObject | targetObject() | setTargetObject() | as constructed | none |
  *
- * The nearest class of Qt is QPropertyAnimation, which writes a property of its target. The animator
- * writes nothing, so a value that only matters to the picture needs neither a property nor a field.
+ * The nearest class of Qt is QPropertyAnimation, which writes a property of its target. The
+ * animator writes nothing, so a value that only matters to the picture needs neither a property nor
+ * a field.
  *
  * The target is not owned. Once it has been destroyed the animator runs on, but tells nobody.
  */
@@ -54,8 +55,8 @@ public:
 public Q_SLOTS:
     /**
      * Sets the \a duration in milliseconds, 0 or more, and the \a easing curve; a running animation
-     * runs on. Until then the animation takes 250 ms, linearly. A negative duration is refused by Qt
-     * with a warning and leaves the former one in place.
+     * runs on. Until then the animation takes 250 ms, linearly. A negative duration is refused by
+     * Qt with a warning and leaves the former one in place.
      */
     void setup(int duration, QEasingCurve easing = QEasingCurve(QEasingCurve::Linear));
 

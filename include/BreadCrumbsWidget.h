@@ -22,7 +22,7 @@ QT_END_NAMESPACE
  * changeDir() to follow. Qt has no such widget; QFileDialog's list of recent and parent directories
  * comes nearest.
  *
- * \image html BreadCrumbsWidget.png "A path bar below the root /data, mostly with a style sheet for fingers"
+ * \image html BreadCrumbsWidget.png "A path bar below /data, mostly with a style sheet for fingers"
  *
  * \snippet BreadCrumbsWidget.cpp BreadCrumbsWidget
  *
@@ -73,8 +73,8 @@ public:
 Q_SIGNALS:
     /**
      * Emitted when a crumb is pressed or an entry of the "..." menu is chosen. The bar itself does
-     * not change. In a slot the bar may be deleted if the left button was pressed on a crumb; a menu
-     * is open otherwise, or about to be asked for, so use deleteLater() where that can happen.
+     * not change. In a slot the bar may be deleted if the left button was pressed on a crumb; a
+     * menu is open otherwise, or about to be asked for, so use deleteLater() where that can happen.
      *
      * \param path the directory picked: the root's path, a slash and the components up to it. Below
      * the root "/" it begins with two slashes.

@@ -35,13 +35,14 @@ public:
 
 Q_SIGNALS:
     /**
-     * Emitted when a mouse button is pressed on the label. The label may be deleted in a slot; while
-     * the right button is down use deleteLater(), as Qt has a context menu event for it then.
+     * Emitted when a mouse button is pressed on the label. The label may be deleted in a slot;
+     * while the right button is down use deleteLater(), as Qt has a context menu event for it then.
      */
     void clicked();
 
 protected:
-    /// Emits clicked(); the label's own press handling, such as selecting text, does not take place.
+    /// Emits clicked(); the label's own press handling, such as selecting text, does not take
+    /// place.
     void mousePressEvent(QMouseEvent* event) override;
 
     /**

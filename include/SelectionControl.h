@@ -16,8 +16,8 @@
  * \snippet Lamp.h SelectionControl
  * \snippet Lamp.cpp SelectionControl
  *
- * The nearest class of Qt is QCheckBox. Unlike it, this one leaves all painting to the subclass, has
- * no partially checked state, and also reports a state that is set again to what it was.
+ * The nearest class of Qt is QCheckBox. Unlike it, this one leaves all painting to the subclass,
+ * has no partially checked state, and also reports a state that is set again to what it was.
  *
  * Clicks, keys, shortcuts, groups and accessibility are those of QAbstractButton.
  *

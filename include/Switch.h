@@ -95,10 +95,10 @@ Q_DECLARE_METATYPE(Style::Animation)
  * | \c thumbPosAnimation | thumbPosAnimation() | setThumbPosAnimation() | in-out quadratic, 150 ms | none |
  *
  * \par Looks
- * Colours are those of the properties, and of the palette for the label alone. An application with a
- * dark palette sets the label's with setPalette(). A switch that nobody configured draws black in
- * different opacities: dark thumb, lighter track, the track lighter still when off. Track and
- * thumb have fixed radii; at the default height and margins the track is a pill of 36 x 16 pixels, and
+ * Colours are those of the properties, and of the palette for the label alone. An application with
+ * a dark palette sets the label's with setPalette(). A switch that nobody configured draws black in
+ * different opacities: dark thumb, lighter track, the track lighter still when off. Track and thumb
+ * have fixed radii; at the default height and margins the track is a pill of 36 x 16 pixels, and
  * the thumb and its shadow just fit.
  *
  * \par Opacities
@@ -114,9 +114,9 @@ Q_DECLARE_METATYPE(Style::Animation)
  *
  * \par Motion
  * Every setting of the state starts a transition, also to the state that the switch already has.
- * Switching on moves the thumb from the off end, switching off from where it is. A switch that is not
- * visible changes at once. A disabled one shows its state without motion. In a right-to-left layout
- * the switch is at the right edge, but its on end stays on the right.
+ * Switching on moves the thumb from the off end, switching off from where it is. A switch that is
+ * not visible changes at once. A disabled one shows its state without motion. In a right-to-left
+ * layout the switch is at the right edge, but its on end stays on the right.
  */
 class PLATFORM_WIDGETS_EXPORT Switch : public SelectionControl
 {
@@ -150,15 +150,18 @@ public:
     /// Makes a switch with the label \a text.
     explicit Switch(const QString& text, QWidget* parent = nullptr);
 
-    /// Makes a switch with the label \a text whose track and thumb have the colour of \a brush when on.
+    /// Makes a switch with the label \a text whose track and thumb have the colour of \a brush when
+    /// on.
     Switch(const QString& text, const QBrush& brush, QWidget* parent = nullptr);
 
     ~Switch() override;
 
-    /// The indicator and the label in the widget's font, side by side; indicatorHeight() pixels tall.
+    /// The indicator and the label in the widget's font, side by side; indicatorHeight() pixels
+    /// tall.
     QSize sizeHint() const override;
 
-    /// The area of track and thumb with the margins: at the leading edge, indicatorHeight() pixels tall.
+    /// The area of track and thumb with the margins: at the leading edge, indicatorHeight() pixels
+    /// tall.
     QRect indicatorRect() const;
 
     /// The area of the label: what indicatorRect() leaves of the width, in the full height.
@@ -182,7 +185,8 @@ public:
     /// Sets labelFont().
     void setFont(QFont font);
 
-    /// Colour of the thumb when on, at thumbOnOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    /// Colour of the thumb when on, at thumbOnOpacity(); its own alpha is ignored. Default:
+    /// invalid, drawn as black.
     QColor thumbOnBrush() const;
     /// Sets thumbOnBrush().
     void setThumbOnBrush(QColor color);
@@ -192,7 +196,8 @@ public:
     /// Sets thumbOnOpacity().
     void setThumbOnOpacity(double opacity);
 
-    /// Colour of the track when on, at trackOnOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    /// Colour of the track when on, at trackOnOpacity(); its own alpha is ignored. Default:
+    /// invalid, drawn as black.
     QColor trackOnBrush() const;
     /// Sets trackOnBrush().
     void setTrackOnBrush(QColor color);
@@ -202,7 +207,8 @@ public:
     /// Sets trackOnOpacity().
     void setTrackOnOpacity(double opacity);
 
-    /// Colour of the thumb when off, at thumbOffOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    /// Colour of the thumb when off, at thumbOffOpacity(); its own alpha is ignored. Default:
+    /// invalid, drawn as black.
     QColor thumbOffBrush() const;
     /// Sets thumbOffBrush().
     void setThumbOffBrush(QColor color);
@@ -212,7 +218,8 @@ public:
     /// Sets thumbOffOpacity().
     void setThumbOffOpacity(double opacity);
 
-    /// Colour of the track when off, at trackOffOpacity(); its own alpha is ignored. Default: invalid, drawn as black.
+    /// Colour of the track when off, at trackOffOpacity(); its own alpha is ignored. Default:
+    /// invalid, drawn as black.
     QColor trackOffBrush() const;
     /// Sets trackOffBrush().
     void setTrackOffBrush(QColor color);
@@ -222,27 +229,32 @@ public:
     /// Sets trackOffOpacity().
     void setTrackOffOpacity(double opacity);
 
-    /// Colour of the thumb when disabled, with its own alpha. Default: invalid, drawn as opaque black.
+    /// Colour of the thumb when disabled, with its own alpha. Default: invalid, drawn as opaque
+    /// black.
     QColor thumbDisabled() const;
     /// Sets thumbDisabled().
     void setThumbDisabled(QColor color);
 
-    /// Kept for the application, any value; the disabled thumb is drawn at full opacity. Default 1.0.
+    /// Kept for the application, any value; the disabled thumb is drawn at full opacity. Default
+    /// 1.0.
     double thumbDisabledOpacity() const;
     /// Sets thumbDisabledOpacity().
     void setThumbDisabledOpacity(double opacity);
 
-    /// Colour of the track when disabled, with its own alpha. Default: invalid, drawn as opaque black.
+    /// Colour of the track when disabled, with its own alpha. Default: invalid, drawn as opaque
+    /// black.
     QColor trackDisabled() const;
     /// Sets trackDisabled().
     void setTrackDisabled(QColor color);
 
-    /// Opacity of the track when disabled, from 0 to 1, on top of the colour's own alpha. Default 0.15.
+    /// Opacity of the track when disabled, from 0 to 1, on top of the colour's own alpha. Default
+    /// 0.15.
     double trackDisabledOpacity() const;
     /// Sets trackDisabledOpacity().
     void setTrackDisabledOpacity(double opacity);
 
-    /// Kept for the application; the label has the colour of QPalette::ButtonText. Default: invalid.
+    /// Kept for the application; the label has the colour of QPalette::ButtonText. Default:
+    /// invalid.
     QColor textColor() const;
     /// Sets textColor().
     void setTextColor(QColor color);
@@ -274,7 +286,8 @@ public:
      */
     void setIndicatorMargin(QMargins margin);
 
-    /// Hands the animation properties and the colours of the off state to the animators and repaints.
+    /// Hands the animation properties and the colours of the off state to the animators and
+    /// repaints.
     void refresh();
 
     /// The slot toggle() inverts the state.

@@ -2,7 +2,8 @@
 
 class QApplication;
 
-/// The two looks of the application: one style sheet, in which each theme replaces names by colours.
+/// The two looks of the application: one style sheet, in which each theme replaces names by
+/// colours.
 namespace Theme {
 
 /// Gives the whole application the dark or the light theme.

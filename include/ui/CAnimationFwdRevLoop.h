@@ -13,7 +13,7 @@ namespace ui {
 /**
  * Makes an animation run back and forth for ever.
  *
- * \image html CAnimationFwdRevLoop.png "A light whose brightness runs from 1 to 0 in 800 ms, and back"
+ * \image html CAnimationFwdRevLoop.png "A light that runs from bright to dark in 800 ms, and back"
  *
  * \snippet CAnimationFwdRevLoop.cpp CAnimationFwdRevLoop
  *

@@ -36,8 +36,8 @@ namespace ui {
  *
  * Most functions do what the functions of QGridLayout with the same names do. Rows and columns
  * count from 0 to 999. Null pointers, cells outside of these, widgets that contain the button and
- * layout items that belong to another layout or a widget already are refused with a warning and left
- * alone; so is everything once the application has deleted or replaced the button's layout().
+ * layout items that belong to another layout or a widget already are refused with a warning and
+ * left alone; so is everything once the application has deleted or replaced the button's layout().
  */
 class PLATFORM_WIDGETS_EXPORT CGridArrangedButton : public QPushButton
 {
@@ -66,8 +66,9 @@ public:
     /**
      * Puts \a item, which the grid takes over, into one or several cells.
      *
-     * Nothing gets another parent. The widgets of a nested layout become children of the button if the
-     * layout is a child of layout() before they are added to it: `nested->setParent(button->layout())`.
+     * Nothing gets another parent. The widgets of a nested layout become children of the button if
+     * the layout is a child of layout() before they are added to it:
+     * `nested->setParent(button->layout())`.
      */
     void addItem(QLayoutItem* item, int row, int column, int rowSpan = 1, int columnSpan = 1,
                  QFlags<Qt::AlignmentFlag> alignment = Qt::Alignment());

@@ -58,7 +58,8 @@ class PLATFORM_WIDGETS_EXPORT CRoundedFrame : public QWidget
     Q_PROPERTY(Shape frameShape READ frameShape WRITE setFrameShape)
 
 public:
-    /// What is drawn around the contents. The type is open to any int; all but NoFrame count as Box.
+    /// What is drawn around the contents. The type is open to any int; all but NoFrame count as
+    /// Box.
     enum Shape : int {
         NoFrame = 0, ///< No outline, and no room for one.
         Box = 1, ///< A rounded outline.
@@ -78,8 +79,8 @@ public:
     void setRadius(int radius);
 
     /**
-     * Width of the outline in pixels, 2 by default; with 0 it is drawn one pixel wide, with less not.
-     * The outline lies half a line width inside the widget's edge.
+     * Width of the outline in pixels, 2 by default; with 0 it is drawn one pixel wide, with less
+     * not. The outline lies half a line width inside the widget's edge.
      */
     int lineWidth() const;
     /// Sets the line width, and with it the contents margins.
@@ -125,8 +126,8 @@ public:
     void fullUpdate();
 
 protected:
-    /// Draws the fill and then the outline of \a path in the colours of \a palette; those of a raised
-    /// or a sunken outline are the frame's own.
+    /// Draws the fill and then the outline of \a path in the colours of \a palette; those of a
+    /// raised or a sunken outline are the frame's own.
     void paintFrame(QPainter* painter, QPainterPath const& path, QPalette const& palette);
 
     /// Paints fill and outline, or of the interior no more than what is damaged.

@@ -76,7 +76,8 @@ public:
     /**
      * Offers \a dirs in the combo box, in this order and with these texts, and shows the first.
      * Directories that do not exist at this moment are left out. With nothing left the browser and
-     * the path bar are given an empty path, but only if there were directories to choose from before.
+     * the path bar are given an empty path, but only if there were directories to choose from
+     * before.
      *
      * The user is confined to these directories by what is offered; setRootPath() is not.
      */
@@ -99,8 +100,8 @@ public:
 
     /**
      * Shows the directory \a path in both views, whether it lies in an allowed directory or not.
-     * The path bar is not changed. A path that does not exist is ignored; an empty one shows the top
-     * of the file system.
+     * The path bar is not changed. A path that does not exist is ignored; an empty one shows the
+     * top of the file system.
      */
     void setRootPath(QString path);
 
@@ -116,8 +117,8 @@ Q_SIGNALS:
     /**
      * Emitted when the selection of either view has changed, after a directory selected in the tile
      * view has been opened or, among several rows, deselected. Each such deselection adds one
-     * emission. By the first of them they have all been made, unless directories alone had been
-     * selected: the last of these is opened first.
+     * emission. All of them come before the first emission. Only if nothing but directories had
+     * been selected is the last of them opened before the first emission, and deselected after it.
      *
      * The browser may be deleted in a slot if the selection was changed by the program. The views'
      * own event handling is still under way if the user changed it: use deleteLater() then.

@@ -30,7 +30,8 @@ public:
     explicit FileSystemModel(QObject* parent = nullptr);
     ~FileSystemModel() override;
 
-    /// The base class's data, but for the date column, which is aligned with a plain Qt::AlignRight.
+    /// The base class's data, but for the date column, which is aligned with a plain
+    /// Qt::AlignRight.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /**

@@ -13,8 +13,9 @@ class KeypadPopup;
  * A ui::LineEdit that opens the device's on-screen keypad while it is being edited.
  *
  * When the field gains the focus, a ui::KeypadPopup opens beside it. The keypad's OK and Cancel end
- * the edit as Return and Escape do; a tap outside both closes the pop-up and reverts the text, and so
- * does hiding the field. The pop-up is made on first use and serves the field for its whole life.
+ * the edit as Return and Escape do; a tap outside both closes the pop-up and reverts the text, and
+ * so does hiding the field. The pop-up is made on first use and serves the field for its whole
+ * life.
  *
  * \image html KeypadLineEdit.png "A field for a number, at rest and with its keypad"
  *
@@ -39,10 +40,11 @@ class KeypadPopup;
  *
  * The pop-up is always shown and hidden one turn of the event loop after the request. It leaves the
  * focus with the field; focus that comes back because a pop-up was closed is given up at once. The
- * nearest neighbour in Qt is a QLineEdit with an input method, whose panel is not tied to one field.
+ * nearest neighbour in Qt is a QLineEdit with an input method, whose panel is not tied to one
+ * field.
  *
- * How to move on from one field to the next, and what to know of completers, of fields in pop-ups and
- * of fields in a QGraphicsProxyWidget, tells \ref textfields.
+ * How to move on from one field to the next, and what to know of completers, of fields in pop-ups
+ * and of fields in a QGraphicsProxyWidget, tells \ref textfields.
  */
 class PLATFORM_WIDGETS_EXPORT KeypadLineEdit : public LineEdit
 {
@@ -62,8 +64,8 @@ public:
 
     /**
      * Sets the maximum length of the text to \a length characters, 32767 by default, as
-     * QLineEdit::setMaxLength() does, but keeps what was selected, as far as the shortened text still
-     * holds it.
+     * QLineEdit::setMaxLength() does, but keeps what was selected, as far as the shortened text
+     * still holds it.
      */
     virtual void setMaxLength(int length);
 

@@ -20,19 +20,21 @@ class IKeypad;
 /**
  * A pop-up window that carries the device's on-screen keypad beside the widget being edited.
  *
- * The pop-up places itself right under the edited widget, or above it where there is no room below. It
- * leaves the keyboard focus with that widget while it is up: key presses that reach the pop-up, from
- * the keypad or from a hardware keyboard, and taps on the edited widget are passed on. The keypad is
- * told the verdict of a ui::LineEdit, so that it can refuse OK while the text is not acceptable.
+ * The pop-up places itself right under the edited widget, or above it where there is no room below.
+ * It leaves the keyboard focus with that widget while it is up: key presses that reach the pop-up,
+ * from the keypad or from a hardware keyboard, and taps on the edited widget are passed on. The
+ * keypad is told the verdict of a ui::LineEdit, so that it can refuse OK while the text is not
+ * acceptable.
  *
  * \image html KeypadPopup.png "The pop-up with the keypads of the desktop's keyboard library"
  *
  * \snippet KeypadPopup.cpp KeypadPopup
  *
- * ui::KeypadLineEdit does all of this by itself. The nearest neighbour in Qt is any QWidget with the
- * window type Qt::Popup, which takes the keyboard from the focused widget instead of feeding it. As
- * there, a press outside the pop-up, but not on the edited widget, closes it. Once the edited widget is
- * hidden, with its window or without, the next iteration of the event loop hides the pop-up too.
+ * ui::KeypadLineEdit does all of this by itself. The nearest neighbour in Qt is any QWidget with
+ * the window type Qt::Popup, which takes the keyboard from the focused widget instead of feeding
+ * it. As there, a press outside the pop-up, but not on the edited widget, closes it. Once the
+ * edited widget is hidden, with its window or without, the next iteration of the event loop hides
+ * the pop-up too.
  *
  * \anchor looks_KeypadPopup
  * \par Palette roles and style-sheet hooks
@@ -68,9 +70,9 @@ public:
      * Moves the pop-up, measured by its size hint, next to the edited widget.
      *
      * Its top left corner goes under the widget's bottom left corner; if it would reach below the
-     * bottom of the screen, its bottom goes to the widget's top edge instead; if fewer than 10 pixels
-     * would stay free at the right edge of the screen, it is moved left to leave 10. Nothing pulls it
-     * back at the left and top edges.
+     * bottom of the screen, its bottom goes to the widget's top edge instead; if fewer than 10
+     * pixels would stay free at the right edge of the screen, it is moved left to leave 10. Nothing
+     * pulls it back at the left and top edges.
      */
     void locatePopup();
 
@@ -81,7 +83,8 @@ public:
      */
     void setKeypadSectionVisible(int section, bool visible);
 
-    /// Gives the focus back to the field once after each showing, and hides the pop-up with the field.
+    /// Gives the focus back to the field once after each showing, and hides the pop-up with the
+    /// field.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:

@@ -10,10 +10,10 @@ namespace ui {
  * A single-line text field that commits on OK and reverts on Cancel.
  *
  * The text that the field holds when it gains the focus is kept. OK (Return, Enter or the signal
- * signalOkKey()) ends editing with the new text; Cancel (Escape, the signal signalCancelKey() or any
- * loss of the focus) ends it with the kept text. Every edit by the user, and every Cancel, runs the
- * field's validator and publishes the verdict as the dynamic property "inputValid" and as the signal
- * resultValidated().
+ * signalOkKey()) ends editing with the new text; Cancel (Escape, the signal signalCancelKey() or
+ * any loss of the focus) ends it with the kept text. Every edit by the user, and every Cancel, runs
+ * the field's validator and publishes the verdict as the dynamic property "inputValid" and as the
+ * signal resultValidated().
  *
  * \image html LineEdit.png "A field with a QIntValidator from 1 to 65535"
  *
@@ -51,9 +51,9 @@ namespace ui {
  * The field reacts to its own signals first: a slot that an application connects to signalOkKey(),
  * signalCancelKey() or textEdited() runs after what that signal sets off: \ref textfields shows it.
  *
- * A slot of one of these signals may delete the field, and the rest of the sequence is dropped. Only
- * while Qt itself handles typed text or a change of the focus does a slot have to use deleteLater(), as
- * with any QLineEdit.
+ * A slot of one of these signals may delete the field, and the rest of the sequence is dropped.
+ * Only while Qt itself handles typed text or a change of the focus does a slot have to use
+ * deleteLater(), as with any QLineEdit.
  */
 class PLATFORM_WIDGETS_EXPORT LineEdit : public QLineEdit
 {
@@ -82,11 +82,12 @@ Q_SIGNALS:
 
 protected Q_SLOTS:
     /**
-     * Validates \a text, which the user has edited or a Cancel has restored: writes the verdict to the
-     * property "inputValid", polishes the field again so that a style sheet can react, and emits
-     * resultValidated().
+     * Validates \a text, which the user has edited or a Cancel has restored: writes the verdict to
+     * the property "inputValid", polishes the field again so that a style sheet can react, and
+     * emits resultValidated().
      *
-     * The text is valid if the validator calls it QValidator::Acceptable, or if there is no validator.
+     * The text is valid if the validator calls it QValidator::Acceptable, or if there is no
+     * validator.
      */
     virtual void textEditedSlot(const QString& text);
 

@@ -27,8 +27,8 @@ namespace widgets {
  * | QPalette::Highlight | the handle of an enabled bar that is highlighted |
  * | `ui--widgets--ScrollIndicatorBar` | the roles by \c background-color and \c selection-background-color |
  *
- * The handle's length stands to the groove's as the page step to range and page step together; it
- * has one pixel at least, and just one where the range is larger than 0x3FFFFFFF.
+ * The handle is as long as groove * pageStep / (maximum - minimum + pageStep), but at least one
+ * pixel, and just one where the range is larger than 0x3FFFFFFF.
  *
  * It can be painted with any range. Of one that is larger than an int, say from INT_MIN to INT_MAX,
  * QScrollBar divides by zero where the mouse presses it.

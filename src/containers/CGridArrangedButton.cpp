@@ -12,7 +12,8 @@ namespace {
 /// that thousands of them take seconds to lay out.
 constexpr int indexLimit = 1000;
 
-/// QGridLayout adds up the stretches of all rows or columns, and may hang if an int cannot hold the sum.
+/// QGridLayout adds up the stretches of all rows or columns, and may hang if an int cannot hold the
+/// sum.
 constexpr int stretchLimit = std::numeric_limits<int>::max() / indexLimit;
 
 int boundedStretch(int stretch)
@@ -65,8 +66,8 @@ bool acceptsWidget(const QWidget* widget, const QWidget& button)
     return false;
 }
 
-/// Whether something else is going to delete \a item, or \a grid twice. A layout that is a child of the
-/// grid before it is in a cell is as QGridLayout::addLayout() would leave it.
+/// Whether something else is going to delete \a item, or \a grid twice. A layout that is a child of
+/// the grid before it is in a cell is as QGridLayout::addLayout() would leave it.
 bool hasOwner(QLayoutItem& item, const QGridLayout& grid)
 {
     const QLayout* layout = item.layout();

@@ -6,7 +6,8 @@ class ClickableLabel;
 
 namespace ui {
 
-/// A clickable label as a link that can be pressed, and else what any label is to assistive technology.
+/// A clickable label as a link that can be pressed, and else what any label is to assistive
+/// technology.
 class AccessibleLink : public QAccessibleWidget
 {
 public:

@@ -89,8 +89,9 @@ void clearLayout(QLayout& layout, int first)
 QStringList crumbsBelow(const QDir& root, const QDir& dir)
 {
     QString relative = root.relativeFilePath(dir.path());
-    // Empties the path of the root itself (".") and of all that lies outside ("../…"). A dot further
-    // on keeps as many characters of the end as stand before it, which is wanted, odd as it looks.
+    // Empties the path of the root itself (".") and of all that lies outside ("../…"). A dot
+    // further on keeps as many characters of the end as stand before it, which is wanted, odd as it
+    // looks.
     relative = relative.right(relative.indexOf(QLatin1Char('.')));
     return QDir::toNativeSeparators(relative).split(QDir::separator(), Qt::SkipEmptyParts);
 }

@@ -22,7 +22,8 @@ class SelectionSnapshot;
 class DeselectionOrder
 {
 public:
-    /// For the first \a count directories that \a selectionModel, whose model is \a model, has selected.
+    /// For the first \a count directories that \a selectionModel, whose model is \a model, has
+    /// selected.
     DeselectionOrder(const QItemSelectionModel& selectionModel, const QFileSystemModel& model,
                      int count);
 

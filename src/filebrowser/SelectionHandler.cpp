@@ -69,8 +69,8 @@ void SelectionHandler::deselect(const Directories& directories)
     deselectWithoutNesting(directories.size() - maxNestedRuns);
     SelectionSnapshot snapshot(selectionModel(), m_model);
     for (int i = 0; i < directories.size() && selectionModel(); ++i) {
-        // The nested runs deselect what follows. To do so here once more changes nothing, but for the
-        // last one: the selection model's last command is what Shift and a tap take back.
+        // The nested runs deselect what follows. To do so here once more changes nothing, but for
+        // the last one: the selection model's last command is what Shift and a tap take back.
         const QModelIndex directory = directories.at(i);
         const bool last = i == directories.size() - 1;
         if (!directory.isValid() || !m_model->isDir(directory)

@@ -19,14 +19,16 @@ class FileBrowserWidget;
 class FileSystemModel;
 
 /**
- * Opens the directory, or sorts the directories out of the files, that were selected in the tile view.
+ * Opens the directory, or sorts the directories out of the files, that were selected in the tile
+ * view.
  *
  * A run of the handler reads the selected rows. A single directory is opened; otherwise every
  * directory among the rows is deselected. Each deselection changes the selection, and so runs the
  * handler again before the run under way goes on. At its end each run emits selectionChanged().
  *
- * A run with more directories than can nest on the stack leaves the last of them to nested runs. The
- * others it takes out first and reports afterwards, in the order in which those runs would return.
+ * A run with more directories than can nest on the stack leaves the last of them to nested runs.
+ * The others it takes out first and reports afterwards, in the order in which those runs would
+ * return.
  */
 class SelectionHandler
 {

@@ -14,16 +14,18 @@ namespace ui {
  * The ranges that a selection model holds, read once.
  *
  * QItemSelectionModel::selectedRows() asks every range about every row, and a range asks the model
- * for its parent each time. A selection of a thousand rows from which single cells have been taken has
- * about as many ranges, and takes a tenth of a second then.
+ * for its parent each time. A selection of a thousand rows from which single cells have been taken
+ * has about as many ranges, and takes a tenth of a second then.
  */
 class SelectionSnapshot
 {
 public:
-    /// Empty if one is null, or \a selectionModel has another model: a program may give a view its own.
+    /// Empty if one is null, or \a selectionModel has another model: a program may give a view its
+    /// own.
     SelectionSnapshot(const QItemSelectionModel* selectionModel, const QAbstractItemModel* model);
 
-    /// The indexes in column 0 of the rows selected in all columns: those of selectedRows(), in its order.
+    /// The indexes in column 0 of the rows selected in all columns: those of selectedRows(), in its
+    /// order.
     QModelIndexList rows() const;
 
     /// Whether the cell \a index is selected.

@@ -11,9 +11,9 @@ namespace ui {
 /**
  * Lets one tap open one directory.
  *
- * The press that opens a directory leaves the finger on whatever that directory has at this place. A
- * finger that trembles then, or taps twice, would select there, and so open the next one. The view
- * does not learn of those moves and of that double click.
+ * The press that opens a directory leaves the finger on whatever that directory has at this place.
+ * A finger that trembles then, or taps twice, would select there, and so open the next one. The
+ * view does not learn of those moves and of that double click.
  */
 class TapGuard : public QObject
 {

@@ -30,10 +30,10 @@ private:
 /**
  * An \a Interface for \a object if it is a \a Widget and Qt has come to the base class of that.
  *
- * Qt asks all factories for the object's own class first, then for one base class after the other. An
- * answer for the base class, where Qt's own factory has one as well, leaves the name of \a Widget to
- * any factory that the application installs, whenever it does so. The name alone does not tell what
- * the object is: an application may have a class of its own by that name.
+ * Qt asks all factories for the object's own class first, then for one base class after the other.
+ * An answer for the base class, where Qt's own factory has one as well, leaves the name of \a
+ * Widget to any factory that the application installs, whenever it does so. The name alone does not
+ * tell what the object is: an application may have a class of its own by that name.
  */
 template <typename Widget, typename Interface>
 QAccessibleInterface* makeAccessible(const QString& className, QObject* object)
@@ -48,7 +48,8 @@ QAccessibleInterface* makeAccessible(const QString& className, QObject* object)
  * Has assistive technology find an \a Interface for every \a Widget.
  *
  * For the constructors of \a Widget, so that nothing happens when the library is loaded. Each call
- * counts, since an application object that goes takes all factories with it; Qt keeps one only once.
+ * counts, since an application object that goes takes all factories with it; Qt keeps one only
+ * once.
  */
 template <typename Widget, typename Interface>
 void registerAccessible()

@@ -86,7 +86,8 @@ QBrush diagonalGradient(const QColor& bottomLeft, const QColor& topRight)
     return gradient;
 }
 
-// While no assistive technology listens Qt passes nothing on either, but looks for the interface first.
+// While no assistive technology listens Qt passes nothing on either, but looks for the interface
+// first.
 
 void announceCharge(QWidget* battery, int percent)
 {

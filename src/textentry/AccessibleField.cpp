@@ -30,7 +30,8 @@ public:
     bool isInPlace = false;
 };
 
-/// Lets Qt ask for a new interface of \a field, and keeps the present one, which deleting would not.
+/// Lets Qt ask for a new interface of \a field, and keeps the present one, which deleting would
+/// not.
 void releaseInterfaceOf(LineEdit* field)
 {
     auto* standIn = new StandIn(field);

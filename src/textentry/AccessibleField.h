@@ -7,8 +7,8 @@ namespace ui {
 class LineEdit;
 
 /**
- * What assistive technology learns of a ui::LineEdit: all that it would learn of a QLineEdit, and in
- * the description whether the input is invalid.
+ * What assistive technology learns of a ui::LineEdit: all that it would learn of a QLineEdit, and
+ * in the description whether the input is invalid.
  *
  * Qt has no accessible state for that, and its own interface of line edits, which alone knows where
  * each character is, cannot be derived from. So this one passes every question on to it.

@@ -9,9 +9,9 @@ QT_END_NAMESPACE
 namespace ui {
 
 /**
- * Remembers the verdict on the input of \a field, for those who begin to listen later, and announces a
- * new one to assistive technology. Nobody else can notice: neither the properties of the field nor its
- * events have a part in it.
+ * Remembers the verdict on the input of \a field, for those who begin to listen later, and
+ * announces a new one to assistive technology. Nobody else can notice: neither the properties of
+ * the field nor its events have a part in it.
  */
 void publishValidity(QObject* field, bool valid);
 

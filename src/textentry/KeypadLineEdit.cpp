@@ -20,8 +20,8 @@ KeypadLineEdit::~KeypadLineEdit()
 {
     if (!popup)
         return;
-    // Qt hands the focus back to the field, which then cancels: nobody is to hear of it any more, and
-    // no slot is to delete the field once more.
+    // Qt hands the focus back to the field, which then cancels: nobody is to hear of it any more,
+    // and no slot is to delete the field once more.
     const QSignalBlocker blocker(this);
     // mutant [order]: Hiding makes the pop-up send nothing that the field is connected to.
     // mutant [dropped]: Keeps the pop-up, which dies with the field, from writing to a part of the

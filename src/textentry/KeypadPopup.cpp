@@ -39,7 +39,8 @@ QColor baseColor()
     return QColor(235, 235, 235);
 }
 
-/// From the innermost layout out, since a layout tells the next outer one only when it is activated.
+/// From the innermost layout out, since a layout tells the next outer one only when it is
+/// activated.
 // NOLINTNEXTLINE(misc-no-recursion): no deeper than the keypad's widgets are nested
 void activateLayouts(QWidget* widget)
 {
@@ -83,7 +84,8 @@ Qt::WindowFlags windowFlagsFor(const QWidget* target)
 void goWithField(QWidget* popup, const QPointer<QWidget>& field)
 {
     popup->hide(); // may delete both
-    // With a pop-up open, Qt leaves the focus in a window that is hidden: the next tap would be none.
+    // With a pop-up open, Qt leaves the focus in a window that is hidden: the next tap would be
+    // none.
     if (field && !field->isVisible() && field->hasFocus())
         field->clearFocus();
 }
@@ -278,7 +280,8 @@ void KeypadPopup::showEvent(QShowEvent*)
     refocusPending = true;
 }
 
-// Closing and hiding go ahead as usual; what they mean for the edit is decided by the edited widget.
+// Closing and hiding go ahead as usual; what they mean for the edit is decided by the edited
+// widget.
 void KeypadPopup::closeEvent(QCloseEvent*) { }
 
 void KeypadPopup::hideEvent(QHideEvent*) { }

@@ -17,8 +17,8 @@ int startTime(const QAbstractAnimation& animation)
 }
 
 /**
- * Lets a running \a animator begin again, which start() does not do, and stop() not without ending it
- * for everybody who listens.
+ * Lets a running \a animator begin again, which start() does not do, and stop() not without ending
+ * it for everybody who listens.
  */
 void restart(Animator& animator)
 {

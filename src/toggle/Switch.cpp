@@ -127,7 +127,8 @@ void Switch::refresh()
     // mutant [order]: The same.
     configure(m_trackBrushAnimator, m_trackBrushAnimation);
     configure(m_thumbBrushAnimator, m_thumbBrushAnimation);
-    // The colours of the off state, whatever the state is: the next transition brings back the others.
+    // The colours of the off state, whatever the state is: the next transition brings back the
+    // others.
     const Rest off = restAt(false);
     rest(m_trackBrushAnimator, off.track);
     rest(m_thumbBrushAnimator, off.thumb);

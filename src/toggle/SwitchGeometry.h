@@ -3,7 +3,8 @@
 #include <QMargins>
 #include <QRect>
 
-/// Where the parts of a switch lie, in widget coordinates. Absurd measures are bounded, so nothing overflows.
+/// Where the parts of a switch lie, in widget coordinates. Absurd measures are bounded, so nothing
+/// overflows.
 class SwitchGeometry
 {
 public:

@@ -60,7 +60,8 @@ bool describes(const QString& said, const QMetaProperty& property, const QObject
     return !isNumber || said == QString::number(number);
 }
 
-/// Of the class itself; one without Q_OBJECT has its base's meta-object, and no properties of its own.
+/// Of the class itself; one without Q_OBJECT has its base's meta-object, and no properties of its
+/// own.
 int ownPropertyCount(const test::ClassInfo& info)
 {
     const QMetaObject& meta = *info.metaObject;

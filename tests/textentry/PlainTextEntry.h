@@ -9,8 +9,8 @@ class QLabel;
 QT_END_NAMESPACE
 
 /**
- * The text fields of the library a second time, written down step by step as they are documented and
- * with none of the library's precautions, to compare the library with.
+ * The text fields of the library a second time, written down step by step as they are documented
+ * and with none of the library's precautions, to compare the library with.
  */
 namespace plain {
 

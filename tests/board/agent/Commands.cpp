@@ -89,8 +89,8 @@ std::string Commands::start(const std::vector<std::string>& words)
 {
     m_application.stop();
     m_frameBuffer.clear();
-    // A new one, since the kernel keeps back coordinates that have not changed, which a program that has just
-    // started does not know.
+    // A new one, since the kernel keeps back coordinates that have not changed, which a program
+    // that has just started does not know.
     m_touchscreen.reset();
     m_touchscreen = std::make_unique<Touchscreen>(m_frameBuffer.width(), m_frameBuffer.height());
     std::vector<std::string> all = inputEnvironment(m_touchscreen->device());

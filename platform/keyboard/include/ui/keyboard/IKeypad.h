@@ -13,8 +13,8 @@ namespace keyboard {
  * An on-screen keypad.
  *
  * Keys are delivered as key events to the keypad's parent widget, which passes them on to the
- * field being edited. OK and Cancel are signals. The keys lie as on a keyboard, in whatever direction
- * the language runs.
+ * field being edited. OK and Cancel are signals. The keys lie as on a keyboard, in whatever
+ * direction the language runs.
  */
 class PLATFORM_KEYBOARD_EXPORT IKeypad : public QWidget
 {
