@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QListView>
+#include <QPointer>
 #include <QPushButton>
 #include <QSharedPointer>
 #include <QTreeView>
@@ -45,6 +46,44 @@ void setUpHeader(QHeaderView* header)
     header->setSectionResizeMode(3, QHeaderView::Stretch);
     header->setMaximumSectionSize(maxSectionSize);
 }
+
+/**
+ * Lays out what a visible widget holds once it goes, and not before.
+ *
+ * While one view is shown and the other not hidden yet, the layout would give each half of the height,
+ * and the tiles of all files would be arranged at that height, only to be arranged anew.
+ */
+class LayoutPause
+{
+public:
+    explicit LayoutPause(const QWidget& widget)
+    {
+        QLayout* layout = widget.layout();
+        if (!widget.isVisible() || !layout || !layout->isEnabled() || growsForBoth(widget))
+            return;
+        m_layout = layout;
+        m_layout->setEnabled(false);
+    }
+
+    ~LayoutPause()
+    {
+        if (!m_layout)
+            return;
+        m_layout->setEnabled(true);
+        m_layout->activate();
+    }
+
+    Q_DISABLE_COPY(LayoutPause)
+
+private:
+    /// Whether \a widget may be too low for both views: it grows then, or its window does, and stays so.
+    static bool growsForBoth(const QWidget& widget)
+    {
+        return widget.height() < 2 * widget.layout()->totalMinimumSize().height();
+    }
+
+    QPointer<QLayout> m_layout;
+};
 
 } // namespace
 
@@ -100,15 +139,21 @@ QHBoxLayout* FileBrowserWidget::createNavBar()
 
     auto* tileButton = newToolbarButton(QStringLiteral(":/icons/tile_view.svg"), this);
     connect(tileButton, &QPushButton::clicked, this, [this] {
+        const LayoutPause pause(*this);
+        const QPointer<FileBrowserWidget> guard(this);
         m_tileView->show();
-        m_listView->hide();
+        if (guard) // a slot may have deleted it
+            m_listView->hide();
     });
     layout->addWidget(tileButton);
 
     auto* listButton = newToolbarButton(QStringLiteral(":/icons/list_view.svg"), this);
     connect(listButton, &QPushButton::clicked, this, [this] {
+        const LayoutPause pause(*this);
+        const QPointer<FileBrowserWidget> guard(this);
         m_tileView->hide();
-        m_listView->show();
+        if (guard)
+            m_listView->show();
     });
     layout->addWidget(listButton);
     return layout;
