@@ -98,6 +98,7 @@ def a_trembling_tap_is_a_tap(user):
               "release 0")
     user.sees("window", "path", "/tmp/photos/2020")
 
+
 def a_double_tap_opens_one_directory(user):
     user.opens("browser")
     user.taps("FileBrowser > 2019", "FileBrowser > 2019", pause=80)
