@@ -105,14 +105,14 @@ public:
     /// again.
     void showAll(int count)
     {
-        constexpr qint64 patience = 300000;
+        constexpr qint64 timeout = 300000;
         constexpr int quiet = 100;
         constexpr std::chrono::milliseconds pause(1);
-        int quietTurns = 0;
-        while (quietTurns < quiet && m_clock.elapsed() < patience) {
-            turn();
+        int quietIterations = 0;
+        while (quietIterations < quiet && m_clock.elapsed() < timeout) {
+            processEvents();
             note(count);
-            quietTurns = m_busy || m_all < 0 ? 0 : quietTurns + 1;
+            quietIterations = m_busy || m_all < 0 ? 0 : quietIterations + 1;
             std::this_thread::sleep_for(pause); // leaves the processor to the model's thread
         }
     }
@@ -131,7 +131,7 @@ public:
     }
 
 private:
-    void turn()
+    void processEvents()
     {
         m_painted = false;
         m_busy = false;

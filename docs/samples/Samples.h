@@ -42,7 +42,7 @@ void styledSwitch(QWidget* window);
 void changeStyleSheet(QWidget* window, const QString& styleSheet);
 /// Makes the whole application dark.
 void darkTheme();
-/// Gives \a name the \a text, and its validator's verdict on it.
+/// Gives \a name the \a text, and its validator's result on it.
 void setTextAndValidate(ui::LineEdit* name, const QString& text);
 
 struct Sample

@@ -23,7 +23,7 @@ class IKeypad;
  * The pop-up places itself right under the edited widget, or above it where there is no room below.
  * It leaves the keyboard focus with that widget while it is up: key presses that reach the pop-up,
  * from the keypad or from a hardware keyboard, and taps on the edited widget are passed on. The
- * keypad is told the verdict of a ui::LineEdit, so that it can refuse OK while the text is not
+ * keypad is told the result of a ui::LineEdit, so that it can refuse OK while the text is not
  * acceptable.
  *
  * \image html KeypadPopup.png "The pop-up with the keypads of the desktop's keyboard library"

@@ -12,7 +12,7 @@ namespace ui {
  * The text that the field holds when it gains the focus is kept. OK (Return, Enter or the signal
  * signalOkKey()) ends editing with the new text; Cancel (Escape, the signal signalCancelKey() or
  * any loss of the focus) ends it with the kept text. Every edit by the user, and every Cancel, runs
- * the field's validator and publishes the verdict as the dynamic property "inputValid" and as the
+ * the field's validator and publishes the result as the dynamic property "inputValid" and as the
  * signal resultValidated().
  *
  * \image html LineEdit.png "A field with a QIntValidator from 1 to 65535"
@@ -74,7 +74,7 @@ Q_SIGNALS:
     /// Never emitted by the library: for applications to emit and to connect.
     void signalClicked();
 
-    /// The text has been validated, with the verdict: true if it is acceptable.
+    /// The text has been validated, with the result: true if it is acceptable.
     void resultValidated(bool valid);
 
     /// An OK has committed the text; not emitted by a Cancel.
@@ -82,7 +82,7 @@ Q_SIGNALS:
 
 protected Q_SLOTS:
     /**
-     * Validates \a text, which the user has edited or a Cancel has restored: writes the verdict to
+     * Validates \a text, which the user has edited or a Cancel has restored: writes the result to
      * the property "inputValid", polishes the field again so that a style sheet can react, and
      * emits resultValidated().
      *

@@ -9,13 +9,13 @@ QT_END_NAMESPACE
 namespace ui {
 
 /**
- * Remembers the verdict on the input of \a field, for those who begin to listen later, and
+ * Remembers how the input of \a field was validated, for those who begin to listen later, and
  * announces a new one to assistive technology. Nobody else can notice: neither the properties of
  * the field nor its events have a part in it.
  */
 void publishValidity(QObject* field, bool valid);
 
-/// Whether the last verdict on the input of \a field was that it is invalid.
+/// Whether the input of \a field was invalid when last validated.
 bool hasInvalidInput(const QObject* field);
 
 /// Forgets \a field, which is being deleted.

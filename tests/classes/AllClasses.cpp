@@ -213,7 +213,7 @@ QVector<ClassInfo> allWidgetClasses()
     return result;
 }
 
-QStringList uncovered(const QStringList& covered, const QVector<ClassInfo>& classes)
+QString uncovered(const QStringList& covered, const QVector<ClassInfo>& classes)
 {
     QStringList missing;
     QStringList unknown = covered;
@@ -222,7 +222,7 @@ QStringList uncovered(const QStringList& covered, const QVector<ClassInfo>& clas
         if (unknown.removeAll(name) == 0)
             missing.append(name);
     }
-    return missing + unknown;
+    return (missing + unknown).join(QLatin1Char(' '));
 }
 
 } // namespace test

@@ -38,7 +38,7 @@ const QVector<ClassInfo>& allClasses();
 QVector<ClassInfo> allWidgetClasses();
 
 /// The names of \a classes that \a covered lacks, and what \a covered names that is none of them.
-QStringList uncovered(const QStringList& covered, const QVector<ClassInfo>& classes = allClasses());
+QString uncovered(const QStringList& covered, const QVector<ClassInfo>& classes = allClasses());
 
 } // namespace test
 

@@ -94,7 +94,7 @@ void tst_ClassPictures::everyClassHasPicture()
     const QVector<StateGallery> galleries = stategalleries::all();
     for (const StateGallery& gallery : galleries)
         names.append(gallery.className);
-    QCOMPARE(test::uncovered(names), QStringList());
+    QCOMPARE(test::uncovered(names), QString());
 }
 
 void tst_ClassPictures::everyStateLooksDifferent_data()

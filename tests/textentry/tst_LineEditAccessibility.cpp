@@ -342,7 +342,7 @@ void tst_LineEditAccessibility::tellsThePresentStateLater()
     QCOMPARE(descriptionOf(&unknown), QString());
 }
 
-/// The last verdict counts, which is that of the inner edit.
+/// The last result counts, which is that of the inner edit.
 void tst_LineEditAccessibility::followsASlotThatEdits()
 {
     NumberEdit field;

@@ -74,7 +74,7 @@ QColor cornerColor(QWidget& widget)
 
 } // namespace
 
-/// The verdict on the text: when it is made, what it is and where it goes.
+/// The result of the validation: when it is made, what it is and where it goes.
 class tst_LineEditValidation : public QObject
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ private Q_SLOTS:
     }
 
     void verdict_data();
-    void verdict();
+    void result();
     void validatorGetsACopyAndPositionZero();
     void withoutValidator();
     void everyEditIsValidated();
@@ -108,7 +108,7 @@ void tst_LineEditValidation::verdict_data()
     QTest::newRow("invalid") << "invalid" << false;
 }
 
-void tst_LineEditValidation::verdict()
+void tst_LineEditValidation::result()
 {
     QFETCH(QString, text);
     QFETCH(bool, valid);

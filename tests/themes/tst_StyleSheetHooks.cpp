@@ -168,7 +168,7 @@ void tst_StyleSheetHooks::everyWidgetHasHook()
     QStringList covered;
     for (const Hook& hook : hooks)
         covered.append(QString::fromLatin1(hook.className));
-    QCOMPARE(test::uncovered(covered, test::allWidgetClasses()), QStringList());
+    QCOMPARE(test::uncovered(covered, test::allWidgetClasses()), QString());
 }
 
 void tst_StyleSheetHooks::colors_data()

@@ -101,7 +101,7 @@ QStringList modelNames()
     return names << QLatin1String(loop) << QLatin1String(together);
 }
 
-QStringList classesWithoutModel()
+QString classesWithoutModel()
 {
     QStringList covered{QStringLiteral("CAnimationFwdRevLoop")};
     for (const Entry& entry : widgets)

@@ -13,7 +13,7 @@ namespace test {
 QStringList modelNames();
 
 /// The classes of the library that no model uses.
-QStringList classesWithoutModel();
+QString classesWithoutModel();
 
 /// Null if there is none of that name.
 std::unique_ptr<Model> newModel(const QString& name);
