@@ -67,6 +67,12 @@ void FileDialog::showSelection()
 {
     const QString file = selectedFile();
     m_open->setEnabled(!file.isEmpty());
-    m_open->setText(file.isEmpty() ? tr("Open") : tr("Open %1").arg(QFileInfo(file).fileName()));
+    if (file.isEmpty()) {
+        m_open->setText(tr("Open"));
+        return;
+    }
+    const QString name = QFileInfo(file).fileName(); // may be too long for the screen
+    m_open->setText(
+        tr("Open %1").arg(fontMetrics().elidedText(name, Qt::ElideMiddle, width() / 3)));
 }
 //! [FileDialog]

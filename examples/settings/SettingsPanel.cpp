@@ -96,6 +96,7 @@ QLayout* SettingsPanel::makeHeader()
     title->setObjectName("title");
     m_report->setObjectName("report");
     m_report->setAlignment(Qt::AlignCenter);
+    m_report->setWordWrap(true);
     auto* battery = new ui::CBatteryStatusWidget;
     battery->setObjectName("battery");
     battery->setFixedWidth(batteryWidth); // the layout asks it for its height
@@ -202,8 +203,10 @@ void SettingsPanel::chooseUpdate()
     auto* dialog = new FileDialog(m_updateFolders, {"*.bin", "*.img"}, this);
     dialog->setObjectName("updates");
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &FileDialog::chosen, m_update,
-            [this](const QString& path) { m_update->setText(QFileInfo(path).fileName()); });
+    connect(dialog, &FileDialog::chosen, m_update, [this](const QString& path) {
+        m_update->setText(m_update->fontMetrics().elidedText(QFileInfo(path).fileName(),
+                                                             Qt::ElideMiddle, m_update->width()));
+    });
     dialog->setGeometry(QRect(mapToGlobal(QPoint(0, 0)), size()));
     dialog->open();
 }

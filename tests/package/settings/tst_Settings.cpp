@@ -99,6 +99,7 @@ private Q_SLOTS:
     void highlightsIndicatorWhileDragged();
     void showsStatesInTheColorsOfTheTheme();
     void choosesAnUpdate();
+    void elidesLongNames();
     void canBeRead_data();
     void canBeRead();
 
@@ -353,6 +354,33 @@ void tst_Settings::choosesAnUpdate()
     QVERIFY(XPointer::tap(*open));
     QTRY_VERIFY(!closed);
     QCOMPARE(label("update")->text(), QStringLiteral("panel-1.5.img"));
+}
+
+void tst_Settings::elidesLongNames()
+{
+    const QString name = QString(150, QLatin1Char('m')) + QStringLiteral(".img");
+    QFile file(m_folder->filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QSize size = m_panel->size();
+    m_panel->findChild<QPushButton*>(QStringLiteral("chooseUpdate"))->click();
+    auto* dialog = m_panel->findChild<QDialog*>();
+    QVERIFY(dialog);
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    auto* tiles = dialog->findChild<QListView*>();
+    const auto find = [&] {
+        return tiles->model()
+            ->match(tiles->model()->index(0, 0, tiles->rootIndex()), Qt::DisplayRole, name)
+            .value(0);
+    };
+    QTRY_VERIFY(find().isValid());
+    tiles->setCurrentIndex(find());
+    auto* open = dialog->findChild<QPushButton*>(QStringLiteral("open"));
+    QTRY_VERIFY(open->isEnabled());
+    QVERIFY(open->fontMetrics().horizontalAdvance(open->text()) < size.width() / 2);
+    QVERIFY(XPointer::tap(*open));
+    QTRY_VERIFY(label("update")->text().startsWith(QStringLiteral("mmm")));
+    QTRY_VERIFY(label("update")->text().size() < name.size());
+    QVERIFY(m_panel->minimumSizeHint().width() <= size.width());
 }
 
 void tst_Settings::canBeRead_data()
