@@ -259,7 +259,7 @@ void tst_FileBrowserSelection::selectedFilesOfAnySelectionOfCells()
     QItemSelectionModel& selection = *m_parts->listView->selectionModel();
     const QModelIndex root = m_parts->listView->rootIndex();
     QRandomGenerator random(3);
-    for (int round = 0; round < 400; ++round) {
+    for (int iteration = 0; iteration < 400; ++iteration) {
         const int top = random.bounded(6);
         const int left = random.bounded(4);
         const QItemSelection cells(

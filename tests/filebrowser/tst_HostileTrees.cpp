@@ -238,7 +238,7 @@ void tst_HostileTrees::linksThatLoop()
     m_tree->makeLink(m_tree->path(QStringLiteral("pong")), QStringLiteral("ping"));
     m_tree->makeLink(m_tree->path(QStringLiteral("ping")), QStringLiteral("pong"));
     m_browser->setAllowedDirs({m_tree->path()});
-    for (int round = 0; round < 5; ++round) {
+    for (int iteration = 0; iteration < 5; ++iteration) {
         QVERIFY(open(QStringLiteral("dir")));
         QVERIFY(open(QStringLiteral("up")));
         QCOMPARE(QFileInfo(m_browser->currentPath()).canonicalFilePath(), m_tree->path());
@@ -452,7 +452,7 @@ void tst_HostileTrees::navigatingWhileLoading()
     for (const QString& name : names)
         m_tree->makeFile(name);
     m_tree->makeDir(QStringLiteral("few/inside"));
-    for (int round = 0; round < 5; ++round) {
+    for (int iteration = 0; iteration < 5; ++iteration) {
         m_browser->setAllowedDirs(
             {m_tree->path(QStringLiteral("many")), m_tree->path(QStringLiteral("few"))});
         QCoreApplication::processEvents();
@@ -469,7 +469,7 @@ void tst_HostileTrees::deletedWhileLoading()
     const QStringList names = Tree::names(QStringLiteral("f"), 2000);
     for (const QString& name : names)
         m_tree->makeFile(name);
-    for (int round = 0; round < 5; ++round) {
+    for (int iteration = 0; iteration < 5; ++iteration) {
         ui::FileBrowserWidget browser;
         browser.setAllowedDirs({m_tree->path()});
         QCoreApplication::processEvents();

@@ -265,8 +265,8 @@ void tst_NestedSelectionRuns::matchPlainRecursion()
 void tst_NestedSelectionRuns::matchPlainRecursionForAnySelection()
 {
     QRandomGenerator random(1);
-    for (int round = 0; round < 30; ++round) {
-        const bool mixed = round % 2;
+    for (int iteration = 0; iteration < 30; ++iteration) {
+        const bool mixed = iteration % 2;
         const int count = directoryCount + (mixed ? fileCount : 0);
         const Program program{mixed ? m_mixed.path() : m_directories.path(),
                               count,
@@ -280,15 +280,16 @@ void tst_NestedSelectionRuns::matchPlainRecursionForAnySelection()
 void tst_NestedSelectionRuns::matchPlainRecursionWhateverSlotsDo()
 {
     QRandomGenerator random(2);
-    for (quint32 round = 0; round < 50; ++round) {
-        const bool mixed = round % 2;
+    for (quint32 iteration = 0; iteration < 50; ++iteration) {
+        const bool mixed = iteration % 2;
         const int count = directoryCount + (mixed ? fileCount : 0);
         const QString path = mixed ? m_mixed.path() : m_directories.path();
         const Program program{path,
                               count,
                               {randomRanges(random, count)},
-                              randomSlot(round * 100, path),
-                              round % 3 ? ChangeSlot(leaveAlone) : ChangeSlot(mirrorInListView)};
+                              randomSlot(iteration * 100, path),
+                              iteration % 3 ? ChangeSlot(leaveAlone)
+                                            : ChangeSlot(mirrorInListView)};
         const QStringList expected = log<RecursiveBrowser>(program);
         QVERIFY(!expected.isEmpty());
         QCOMPARE(log<ui::FileBrowserWidget>(program), expected);

@@ -165,7 +165,7 @@ void tst_LibraryLoading::iconsAreTheOnlyAdditionToTheRoot()
 
 void tst_LibraryLoading::reloadsAnyNumberOfTimes()
 {
-    for (int round = 0; round < 5; ++round) {
+    for (int iteration = 0; iteration < 5; ++iteration) {
         {
             const LoadedLibrary library;
             QCOMPARE(missingIcons(), QStringList());

@@ -115,7 +115,7 @@ void tst_EmbeddedKeypadField::inAPopup()
     const QPoint outside = window.mapToGlobal(QPoint(780, 460));
     const auto tapField = [&] { tap(panel, field.mapToGlobal(field.rect().center())); };
 
-    for (int round = 0; round < 2; ++round) {
+    for (int iteration = 0; iteration < 2; ++iteration) {
         panel.move(window.mapToGlobal(QPoint(50, 50)));
         panel.show();
         QVERIFY(QTest::qWaitForWindowExposed(&panel));

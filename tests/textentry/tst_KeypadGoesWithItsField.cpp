@@ -143,7 +143,7 @@ void tst_KeypadGoesWithItsField::hidden_data()
 void tst_KeypadGoesWithItsField::hidden()
 {
     QFETCH(Hiding, hide);
-    for (int round = 0; round < 2; ++round) {
+    for (int iteration = 0; iteration < 2; ++iteration) {
         QVERIFY(m_dialog->openKeypad());
         test::tapKey(*m_dialog->field->keypad(), QStringLiteral("4"));
         hide(*m_dialog);

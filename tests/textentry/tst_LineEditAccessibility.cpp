@@ -257,7 +257,7 @@ void tst_LineEditAccessibility::saysThatTheInputIsInvalid()
 {
     NumberEdit field;
     QCOMPARE(descriptionOf(&field), QString());
-    for (int round = 0; round < 2; ++round) {
+    for (int iteration = 0; iteration < 2; ++iteration) {
         type(field, Qt::Key_1);
         QCOMPARE(descriptionOf(&field), QStringLiteral("Invalid input"));
         type(field, Qt::Key_2);
@@ -509,7 +509,7 @@ void tst_LineEditAccessibility::interfaceIsMadeAgain()
 {
     NumberEdit field;
     type(field, Qt::Key_1);
-    for (int round = 0; round < 2; ++round) {
+    for (int iteration = 0; iteration < 2; ++iteration) {
         QCOMPARE(descriptionOf(&field), QStringLiteral("Invalid input"));
         QAccessible::deleteAccessibleInterface(
             QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&field)));
@@ -519,7 +519,7 @@ void tst_LineEditAccessibility::interfaceIsMadeAgain()
 void tst_LineEditAccessibility::nothingIsRememberedOfADeletedField()
 {
     alignas(ui::LineEdit) char place[sizeof(ui::LineEdit)];
-    for (int round = 0; round < 2; ++round) {
+    for (int iteration = 0; iteration < 2; ++iteration) {
         auto* field = new (place) ui::LineEdit;
         QCOMPARE(descriptionOf(field), QString());
         field->setValidator(new QIntValidator(10, 99, field));

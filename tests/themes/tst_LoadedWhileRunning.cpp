@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int rounds = 20;
+constexpr int iterations = 20;
 
 bool isMapped()
 {
@@ -63,7 +63,7 @@ void tst_LoadedWhileRunning::comesAndGoes()
         QStringLiteral("Switch { color: red; } *[inputValid=\"true\"] { color: blue; }"));
     auto* label = new QLabel(QStringLiteral("the application's own"), &window);
     window.show();
-    for (int round = 0; round < rounds; ++round) {
+    for (int iteration = 0; iteration < iterations; ++iteration) {
         QVERIFY(!isMapped());
         void* part = dlopen(LOADED_FORM, RTLD_NOW | RTLD_LOCAL);
         QVERIFY2(part, part ? "" : dlerror());
@@ -79,7 +79,7 @@ void tst_LoadedWhileRunning::comesAndGoes()
         QVERIFY(!isMapped());
 
         takeAddresses();
-        label->setText(QString::number(round));
+        label->setText(QString::number(iteration));
         QCoreApplication::processEvents();
         QVERIFY(!window.grab().isNull());
         QLabel unknown; // for which Qt asks every factory

@@ -106,7 +106,7 @@ void tst_CAnimationFwdRevLoop::runsBackAndForth()
     new CAnimationFwdRevLoop(&animation);
     QSignalSpy finished(&animation, &QAbstractAnimation::finished);
     animation.start();
-    for (int round = 1; round <= 3; ++round) {
+    for (int iteration = 1; iteration <= 3; ++iteration) {
         finish(animation);
         QCOMPARE(animation.direction(), QAbstractAnimation::Backward);
         QCOMPARE(animation.state(), QAbstractAnimation::Running);
@@ -118,7 +118,7 @@ void tst_CAnimationFwdRevLoop::runsBackAndForth()
         QCOMPARE(animation.state(), QAbstractAnimation::Running);
         QCOMPARE(animation.currentTime(), 0);
         QCOMPARE(animation.currentValue().toDouble(), 0.0);
-        QCOMPARE(finished.count(), 2 * round);
+        QCOMPARE(finished.count(), 2 * iteration);
     }
 }
 
