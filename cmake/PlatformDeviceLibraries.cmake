@@ -6,13 +6,14 @@ function(platform_import_device_library name header)
         return()
     endif()
     find_library(PLATFORM_DEVICE_${name}_LIBRARY
-        NAMES libplatform_${name}.so.1.2 platform_${name}
+        NAMES libplatform_${name}${PLATFORM_QT_SUFFIX}.so.1.2 platform_${name}${PLATFORM_QT_SUFFIX}
         HINTS "${PLATFORM_DEVICE_PREFIX}/lib" "${PLATFORM_DEVICE_PREFIX}"
         PATH_SUFFIXES "${CMAKE_LIBRARY_ARCHITECTURE}"
         REQUIRED)
     find_path(PLATFORM_DEVICE_${name}_INCLUDE_DIR
         NAMES "${header}"
-        HINTS "${PLATFORM_DEVICE_PREFIX}/include" "${PLATFORM_DEVICE_PREFIX}/include/platform_widgets"
+        HINTS "${PLATFORM_DEVICE_PREFIX}/include"
+            "${PLATFORM_DEVICE_PREFIX}/include/platform_widgets${PLATFORM_QT_SUFFIX}"
         REQUIRED)
     add_library(platform::${name} SHARED IMPORTED GLOBAL)
     set_target_properties(platform::${name} PROPERTIES

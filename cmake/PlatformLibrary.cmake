@@ -1,7 +1,9 @@
 include(GenerateExportHeader)
 
+set(PLATFORM_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/${PLATFORM_PACKAGE_NAME})
+
 # platform_add_library(NAME COMPONENT EXPORTED...): a shared library whose file name and soname are
-# libplatform_NAME.so.1.2 and which leaves no symbol undefined. It exports what carries its export
+# libplatform_NAME.so.1.2 (with Qt 6 libplatform_NAME6.so.1.2) and which leaves no symbol undefined. It exports what carries its export
 # macro, as far as that belongs to the namespaces and classes EXPORTED (patterns of names).
 # It is installed in the given component and exported as platform::NAME.
 function(platform_add_library name component)
@@ -10,6 +12,7 @@ function(platform_add_library name component)
     add_library(platform::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${name}
+        OUTPUT_NAME ${target}${PLATFORM_QT_SUFFIX}
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION}
         INSTALL_RPATH "$ORIGIN") # an installed tree works from any prefix
@@ -18,7 +21,7 @@ function(platform_add_library name component)
         EXPORT_FILE_NAME "${PROJECT_BINARY_DIR}/include/${target}_export.h")
     target_include_directories(${target} PUBLIC
         "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>"
-        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/platform_widgets>")
+        "$<INSTALL_INTERFACE:${PLATFORM_INSTALL_INCLUDEDIR}>")
 
     # A GNU unique symbol would pin the library in memory: dlclose() must really unload it.
     target_compile_options(${target} PRIVATE
@@ -30,9 +33,9 @@ function(platform_add_library name component)
     platform_limit_exports(${target} ${ARGN})
 
     install(FILES "${PROJECT_BINARY_DIR}/include/${target}_export.h"
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/platform_widgets
+        DESTINATION ${PLATFORM_INSTALL_INCLUDEDIR}
         COMPONENT development)
-    install(TARGETS ${target} EXPORT platform_widgets
+    install(TARGETS ${target} EXPORT ${PLATFORM_PACKAGE_NAME}
         LIBRARY
             DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT ${component}
@@ -43,7 +46,7 @@ endfunction()
 # Applications have to be compiled with -fPIC then, as Qt insists, since any other code would have its
 # own addresses of the library's signals and meta-objects.
 function(platform_bind_symbols target)
-    get_target_property(demands Qt5::Core INTERFACE_COMPILE_OPTIONS)
+    get_target_property(demands Qt${PLATFORM_QT}::Core INTERFACE_COMPILE_OPTIONS)
     if("-fPIC" IN_LIST demands)
         target_link_options(${target} PRIVATE LINKER:-Bsymbolic)
     endif()
@@ -72,6 +75,6 @@ endfunction()
 # platform_install_headers(FOLDER): everything below FOLDER as public headers.
 function(platform_install_headers folder)
     install(DIRECTORY "${folder}/"
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/platform_widgets
+        DESTINATION ${PLATFORM_INSTALL_INCLUDEDIR}
         COMPONENT development)
 endfunction()

@@ -34,53 +34,68 @@ macro(platform_describe_package component package)
 endmacro()
 
 set(same_version "(= ${PROJECT_VERSION})")
-set(runtime libplatform-widgets${PROJECT_VERSION}) # with the soname, as another one may lie beside it
+set(prefix platform-widgets${PLATFORM_QT_SUFFIX})
+set(device platform-device-libraries${PLATFORM_QT_SUFFIX})
+# With the soname, as another one may lie beside it.
+if(PLATFORM_QT EQUAL 5)
+    set(runtime lib${prefix}${PROJECT_VERSION})
+    set(qt_svg libqt5svg5)
+    set(qt_development "qtbase5-dev (>= ${PLATFORM_QT_MINIMUM})")
+    set(qt_translations qttranslations5-l10n)
+    set(qt_designer qttools5-dev-tools)
+else()
+    set(runtime lib${prefix}-${PROJECT_VERSION})
+    set(qt_svg libqt6svg6)
+    set(qt_development "qt6-base-dev (>= ${PLATFORM_QT_MINIMUM})")
+    set(qt_translations qt6-translations-l10n)
+    set(qt_designer designer-qt6)
+endif()
 
 # The device brings libraries of its own in place of the stand-ins: built against those, the
 # library's package leaves them to the device.
-set(device_libraries "platform-widgets-standins ${same_version} | platform-device-libraries")
-set(standins "platform-widgets-standins ${same_version}")
+set(device_libraries "${prefix}-standins ${same_version} | ${device}")
+set(standins "${prefix}-standins ${same_version}")
 if(PLATFORM_DEVICE_PREFIX)
     set(device_libraries)
     set(standins)
 endif()
 
 platform_describe_package(runtime ${runtime}
-    SUMMARY "touch-screen widgets for Qt 5"
+    SUMMARY "touch-screen widgets for Qt ${PLATFORM_QT}"
     DESCRIPTION "This package contains the shared library."
     SECTION libs
-    DEPENDS ${device_libraries} libqt5svg5 # Qt loads the plugin that reads the icons by itself
-    SHLIBS "libplatform_widgets ${PROJECT_VERSION} ${runtime} (>= ${PROJECT_VERSION})")
-platform_describe_package(standins platform-widgets-standins
-    SUMMARY "touch-screen widgets for Qt 5 - stand-ins for a device's libraries"
+    DEPENDS ${device_libraries} ${qt_svg} # Qt loads the plugin that reads the icons by itself
+    SHLIBS "libplatform_widgets${PLATFORM_QT_SUFFIX} ${PROJECT_VERSION} ${runtime} (>= ${PROJECT_VERSION})")
+platform_describe_package(standins ${prefix}-standins
+    SUMMARY "touch-screen widgets for Qt ${PLATFORM_QT} - stand-ins for a device's libraries"
     DESCRIPTION "This package contains a style and a keyboard library for machines that have
 none. A device brings its own, in a package that provides
-platform-device-libraries."
+${device}."
     SECTION libs
-    REPLACES platform-device-libraries
+    REPLACES ${device}
     SHLIBS
-        "libplatform_style ${PROJECT_VERSION} platform-widgets-standins | platform-device-libraries"
-        "libplatform_keyboard ${PROJECT_VERSION} platform-widgets-standins | platform-device-libraries")
-platform_describe_package(development libplatform-widgets-dev
-    SUMMARY "touch-screen widgets for Qt 5 - development files"
+        "libplatform_style${PLATFORM_QT_SUFFIX} ${PROJECT_VERSION} ${prefix}-standins | ${device}"
+        "libplatform_keyboard${PLATFORM_QT_SUFFIX} ${PROJECT_VERSION} ${prefix}-standins | ${device}")
+platform_describe_package(development lib${prefix}-dev
+    SUMMARY "touch-screen widgets for Qt ${PLATFORM_QT} - development files"
     DESCRIPTION "This package contains the headers and what CMake, pkg-config and qmake need to
 find the library."
     SECTION libdevel
-    DEPENDS "${runtime} ${same_version}" ${standins} "qtbase5-dev (>= 5.15)")
-platform_describe_package(gallery platform-widgets-gallery
-    SUMMARY "touch-screen widgets for Qt 5 - gallery"
+    DEPENDS "${runtime} ${same_version}" ${standins} ${qt_development})
+platform_describe_package(gallery ${prefix}-gallery
+    SUMMARY "touch-screen widgets for Qt ${PLATFORM_QT} - gallery"
     DESCRIPTION "This package contains an application that shows every widget live and takes
 pictures of all of them."
     SECTION x11
-    DEPENDS "${runtime} ${same_version}" fonts-dejavu-core qttranslations5-l10n)
-platform_describe_package(designer platform-widgets-designer
-    SUMMARY "touch-screen widgets for Qt 5 - plugin for Qt Designer"
+    DEPENDS "${runtime} ${same_version}" fonts-dejavu-core ${qt_translations})
+platform_describe_package(designer ${prefix}-designer
+    SUMMARY "touch-screen widgets for Qt ${PLATFORM_QT} - plugin for Qt Designer"
     DESCRIPTION "This package contains the plugin with which Qt Designer offers the widgets and
 QUiLoader makes them."
     SECTION devel
-    DEPENDS "${runtime} ${same_version}" qttools5-dev-tools)
-platform_describe_package(documentation libplatform-widgets-doc
-    SUMMARY "touch-screen widgets for Qt 5 - reference"
+    DEPENDS "${runtime} ${same_version}" ${qt_designer})
+platform_describe_package(documentation lib${prefix}-doc
+    SUMMARY "touch-screen widgets for Qt ${PLATFORM_QT} - reference"
     DESCRIPTION "This package contains the reference as HTML pages and as a file for Qt
 Assistant."
     SECTION doc

@@ -28,7 +28,7 @@ function(platform_precompile_application target)
         file(CONFIGURE OUTPUT "${source}" CONTENT "")
         add_library(platform_precompiled OBJECT "${source}")
         set_target_properties(platform_precompiled PROPERTIES AUTOMOC OFF)
-        target_link_libraries(platform_precompiled PRIVATE Qt5::Widgets)
+        target_link_libraries(platform_precompiled PRIVATE Qt${PLATFORM_QT}::Widgets)
         platform_precompile(platform_precompiled
             <QApplication> <QLabel> <QLayout> <QPainter> <QPushButton> <QStyleOption> <QVector>)
     endif()

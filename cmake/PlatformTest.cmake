@@ -97,7 +97,7 @@ if(CMAKE_CROSSCOMPILING)
     set(default_timeout 1200) # an emulated program is some ten times slower
     # The emulator redirects only some of the calls by which Qt looks for its plugins into the sysroot.
     list(APPEND PLATFORM_TEST_ENVIRONMENT
-        "QT_PLUGIN_PATH=$<TARGET_FILE_DIR:Qt5::QOffscreenIntegrationPlugin>/..")
+        "QT_PLUGIN_PATH=$<TARGET_FILE_DIR:Qt${PLATFORM_QT}::QOffscreenIntegrationPlugin>/..")
 endif()
 
 set(PLATFORM_TEST_TIMEOUT ${default_timeout} CACHE STRING "Seconds after which a test program counts as hanging")

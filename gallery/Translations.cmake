@@ -1,10 +1,10 @@
 # Compiles the translations of the gallery into it, as :/translations/gallery_LANGUAGE.qm.
 set(languages de)
 
-# A program of the build host: find_package(Qt5LinguistTools) would look in the sysroot when
+# A program of the build host: find_package() of the Linguist tools would look in the sysroot when
 # cross-building.
 find_program(PLATFORM_LRELEASE NAMES lrelease
-    HINTS /usr/lib/qt5/bin "${Qt5_DIR}/../../../bin" REQUIRED)
+    HINTS ${PLATFORM_QT_PROGRAMS} NO_DEFAULT_PATH REQUIRED)
 
 set(entries)
 foreach(language IN LISTS languages)
@@ -19,4 +19,4 @@ endforeach()
 set(qrc "${CMAKE_CURRENT_BINARY_DIR}/translations.qrc")
 file(CONFIGURE OUTPUT "${qrc}"
     CONTENT "<RCC><qresource prefix=\"/translations\">${entries}</qresource></RCC>\n")
-qt5_add_resources(gallery_translations "${qrc}")
+qt_add_resources(gallery_translations "${qrc}")

@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # What must hold for the shared libraries as files: names, hardening, and nothing exported by accident.
 #
-# usage: elf-facts.sh SOURCE_DIR LIBRARY...
+# usage: elf-facts.sh SOURCE_DIR SUFFIX LIBRARY...
+# SUFFIX is what the names of the libraries end in: nothing with Qt 5, 6 with Qt 6.
 set -euo pipefail
 export LC_ALL=C
 
 source_dir=$1
-shift
+suffix=$2
+shift 2
 
 . "$source_dir/tests/library/own-names.sh"
 
@@ -26,8 +28,8 @@ exports() {
 }
 
 check_name() {
-    local name=libplatform_$1.so.1.2 link
-    link=$(dirname "$library")/libplatform_$1.so
+    local name=libplatform_$1$suffix.so.1.2 link
+    link=$(dirname "$library")/libplatform_$1$suffix.so
     [ "$(basename "$library")" = "$name" ] || fail "is not named $name"
     grep -qF "soname: [$name]" <<<"$dynamic" || fail "its soname is not $name"
     [ "$(readlink "$link")" = "$name" ] || fail "$link does not point to it"
@@ -59,7 +61,7 @@ check_exports() {
 
 for library in "$@"; do
     dynamic=$(readelf -dW "$library")
-    kind=$(basename "$library" | sed -E 's/^libplatform_([a-z]+)\..*/\1/')
+    kind=$(basename "$library" | sed -E 's/^libplatform_([a-z]+)6?\..*/\1/')
     check_name "$kind"
     check_hardening
     check_unloading

@@ -8,20 +8,22 @@ set -euo pipefail
 
 source_dir=$1
 build_dir=$2
+. "$source_dir/tests/package/example.sh"
+runtime=libplatform-widgets${suffix:+$suffix-}1.2
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 # The device's prefix holds its two libraries and their headers, nothing of the widget library.
 cmake --install "$build_dir" --prefix "$scratch/all" >/dev/null
-headers=$scratch/all/include/platform_widgets
+headers=$scratch/all/include/$package
 mkdir -p "$scratch/device/lib" "$scratch/device/include/ui"
-find "$scratch/all" \( -name 'libplatform_style.so*' -o -name 'libplatform_keyboard.so*' \) \
+find "$scratch/all" \( -name "libplatform_style$suffix.so*" -o -name "libplatform_keyboard$suffix.so*" \) \
     -exec cp -P {} "$scratch/device/lib" \;
 cp -r "$headers/platform" "$headers"/platform_{style,keyboard}_export.h "$scratch/device/include"
 cp -r "$headers/ui/keyboard" "$scratch/device/include/ui"
 
 cmake -S "$source_dir" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-    -DPLATFORM_DEVICE_PREFIX="$scratch/device" \
+    -DPLATFORM_QT="$qt" -DPLATFORM_DEVICE_PREFIX="$scratch/device" \
     -DPLATFORM_BUILD_TESTS=OFF -DPLATFORM_BUILD_GALLERY=OFF >/dev/null
 cmake --build "$scratch/build"
 
@@ -31,14 +33,14 @@ if find "$scratch/build" -name 'libplatform_style*' -o -name 'libplatform_keyboa
 fi
 
 (cd "$scratch/build" && cpack >cpack.log 2>&1) || { cat "$scratch/build/cpack.log" >&2; exit 1; }
-if dpkg-deb -f "$scratch"/build/libplatform-widgets1.2_*.deb Depends | grep platform; then
+if dpkg-deb -f "$scratch/build/$runtime"_*.deb Depends | grep platform; then
     echo "the package asks for another one with the device's libraries" >&2
     exit 1
 fi
 
-for package in "$scratch"/build/*.deb; do
-    name=$(dpkg-deb -f "$package" Package)
-    dpkg-deb --fsys-tarfile "$package" | tar -x --to-stdout "./usr/share/doc/$name/copyright" \
+for deb in "$scratch"/build/*.deb; do
+    name=$(dpkg-deb -f "$deb" Package)
+    dpkg-deb --fsys-tarfile "$deb" | tar -x --to-stdout "./usr/share/doc/$name/copyright" \
         | cmp - "$source_dir/LICENSE" || { echo "$name does not hold the license" >&2; exit 1; }
 done
 
@@ -47,7 +49,7 @@ mkdir "$scratch/consumer"
 cat >"$scratch/consumer/CMakeLists.txt" <<'END'
 cmake_minimum_required(VERSION 3.16)
 project(consumer LANGUAGES CXX)
-find_package(platform_widgets 1.2 REQUIRED)
+find_package(${PACKAGE} 1.2 REQUIRED)
 add_executable(consumer main.cpp)
 target_link_libraries(consumer PRIVATE platform::widgets)
 END
@@ -60,7 +62,8 @@ int main(int argc, char** argv)
     return ui::FileBrowserWidget(nullptr).selectedFiles().size();
 }
 END
-cmake -S "$scratch/consumer" -B "$scratch/consumer/build" -G Ninja -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
+cmake -S "$scratch/consumer" -B "$scratch/consumer/build" -G Ninja -DPACKAGE="$package" \
+    -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
 cmake --build "$scratch/consumer/build"
 # On a device its libraries lie where the loader looks by itself.
 LD_LIBRARY_PATH="$scratch/device/lib" "$scratch/consumer/build/consumer"

@@ -1,4 +1,9 @@
-# What the tests of the installed library share. Sourced, never run.
+# What the tests of the installed library share. Sourced, never run. PLATFORM_QT is 6 for Qt 6.
+
+qt=${PLATFORM_QT:-5}
+suffix=
+[ "$qt" = 5 ] || suffix=$qt
+package=platform_widgets$suffix
 
 # Prints the first C++ block of the README: the example that users copy.
 readme_example() {

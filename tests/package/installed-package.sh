@@ -16,7 +16,7 @@ prefix=$scratch/prefix
 
 # A program that includes every installed header and runs an application object.
 all_headers() {
-    (cd "$prefix/include/platform_widgets" && find . -name '*.h' | sort) \
+    (cd "$prefix/include/$package" && find . -name '*.h' | sort) \
         | sed 's|^\./\(.*\)|#include <\1>|'
     echo '#include <QApplication>'
     echo 'int main(int argc, char** argv) { QApplication application(argc, argv); return Switch().isChecked(); }'
@@ -29,28 +29,29 @@ readme_example "$source_dir" >"$scratch/consumer/main.cpp"
 all_headers >"$scratch/consumer/all_headers.cpp"
 
 echo "== CMake"
-cmake -S "$scratch/consumer" -B "$scratch/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake -S "$scratch/consumer" -B "$scratch/cmake" -G Ninja -DPACKAGE="$package" \
+    -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$scratch/cmake"
 "$scratch/cmake/all_headers"
 "$scratch/cmake/icons"
 runs_until_stopped "$scratch/cmake/example"
 
 echo "== pkg-config"
-PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name platform_widgets.pc)")
+PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name "$package.pc")")
 export PKG_CONFIG_PATH
-[ "$(pkg-config --modversion platform_widgets)" = 1.2 ]
+[ "$(pkg-config --modversion "$package")" = 1.2 ]
 # shellcheck disable=SC2046,SC2086
 ${CXX:-c++} -std=c++17 -fPIC ${CXXFLAGS:-} "$scratch/consumer/main.cpp" -o "$scratch/example" \
-    $(pkg-config --cflags --libs platform_widgets) -Wl,-rpath,"$(pkg-config --variable=libdir platform_widgets)"
+    $(pkg-config --cflags --libs "$package") -Wl,-rpath,"$(pkg-config --variable=libdir "$package")"
 runs_until_stopped "$scratch/example"
 
 echo "== qmake"
-QMAKEPATH=$(dirname "$(dirname "$(dirname "$(find "$prefix" -name qt_lib_platform_widgets.pri)")")")
+QMAKEPATH=$(dirname "$(dirname "$(dirname "$(find "$prefix" -name "qt_lib_$package.pri")")")")
 export QMAKEPATH
 mkdir "$scratch/qmake"
 (
     cd "$scratch/qmake"
-    qmake -qt=5 "QMAKE_CXXFLAGS+=${CXXFLAGS:-}" "QMAKE_LFLAGS+=${CXXFLAGS:-}" "$scratch/consumer/example.pro" >/dev/null
+    /usr/lib/qt$qt/bin/qmake "QMAKE_CXXFLAGS+=${CXXFLAGS:-}" "QMAKE_LFLAGS+=${CXXFLAGS:-}" "$scratch/consumer/example.pro" >/dev/null
     make -s
 )
 runs_until_stopped "$scratch/qmake/example"

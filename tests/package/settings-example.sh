@@ -16,10 +16,12 @@ trap 'rm -rf "$scratch"' EXIT
 cmake --install "$build_dir" --prefix "$scratch/prefix" >/dev/null
 
 echo "== By itself"
-cmake -S "$example" -B "$scratch/settings" -G Ninja -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
+cmake -S "$example" -B "$scratch/settings" -G Ninja -DPACKAGE="$package" \
+    -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
 
 echo "== With its test"
-cmake -S "$source_dir/tests/package/settings" -B "$scratch/test" -G Ninja -DCMAKE_PREFIX_PATH="$scratch/prefix" \
+cmake -S "$source_dir/tests/package/settings" -B "$scratch/test" -G Ninja \
+    -DPACKAGE="$package" -DPLATFORM_QT="$qt" -DCMAKE_PREFIX_PATH="$scratch/prefix" \
     -DSETTINGS_DIR="$example" -DTESTS_DIR="$source_dir/tests" >/dev/null
 cmake --build "$scratch/test"
 for theme in "" --dark; do

@@ -17,11 +17,13 @@ QFont repeatableFont()
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(fontPixelSize);
     font.setHintingPreference(QFont::PreferNoHinting);
-    // Deprecated, but the only switch that keeps advances the same on every platform.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Deprecated, but the only switch that keeps advances the same on every platform. Qt 6 has none.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     font.setStyleStrategy(QFont::ForceIntegerMetrics);
     QT_WARNING_POP
+#endif
     return font;
 }
 
