@@ -47,6 +47,7 @@ private Q_SLOTS:
     void browserDeletedInTheSlot_data();
     void browserDeletedInTheSlot();
     void browserDeletedWhileDirectoriesAreDeselected();
+    void onlyEntryOpensAgainOnceCleared();
     void browserDeletedLaterByAClick();
     void modelDeletedInTheSlot();
     void tileViewDeletedInTheSlot();
@@ -359,6 +360,30 @@ void tst_FileBrowserSelection::browserDeletedWhileDirectoriesAreDeselected()
     select({"alpha", "one", "beta"});
     QVERIFY(m_browser.isNull());
     QCOMPARE(m_changes, 1); // the innermost run's: it comes before the slot
+}
+
+/// As the class's page says of a directory with one entry.
+void tst_FileBrowserSelection::onlyEntryOpensAgainOnceCleared()
+{
+    m_tree->makeDir(QStringLiteral("alpha/only"));
+    const QString only = m_tree->path(QStringLiteral("alpha/only"));
+    const QString above = m_tree->path(QStringLiteral("alpha"));
+    const auto openOnly = [this] {
+        QTRY_VERIFY(entry(*m_parts->tileView, QStringLiteral("only")).isValid());
+        click(*m_parts->tileView, QStringLiteral("only"));
+    };
+    m_browser->setRootPath(above);
+    openOnly();
+    QCOMPARE(m_browser->currentPath(), only);
+    Q_EMIT m_parts->bar->dirChanged(above);
+    openOnly();
+    QCOMPARE(m_browser->currentPath(), above);
+
+    connect(m_parts->bar, &BreadCrumbsWidget::dirChanged, m_parts->tileView,
+            &QListView::clearSelection);
+    Q_EMIT m_parts->bar->dirChanged(above);
+    openOnly();
+    QCOMPARE(m_browser->currentPath(), only);
 }
 
 void tst_FileBrowserSelection::browserDeletedLaterByAClick()
