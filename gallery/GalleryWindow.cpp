@@ -230,6 +230,9 @@ void GalleryWindow::applyStyleSheet(bool on)
 {
     m_appearance.styleSheet = on ? m_styleSheet : QString();
     applyAppearance();
+    // Properties that a style sheet has set outlive it.
+    if (!on && m_page)
+        makePage(m_list->currentRow());
 }
 
 void GalleryWindow::chooseTool()

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int margin = 12;
 constexpr int spacing = 4;
+constexpr QSize leastPictureSize(600, 400);
 
 } // namespace
 
@@ -43,6 +44,15 @@ PageView::PageView(const PageEntry& entry, QWidget* parent)
 GalleryPage* PageView::page() const
 {
     return m_page;
+}
+
+QSize PageView::pictureSize() const
+{
+    QSize size = minimumSizeHint().expandedTo(leastPictureSize);
+    size.setHeight(qMax(size.height(), sizeHint().height()));
+    if (hasHeightForWidth())
+        size.setHeight(qMax(leastPictureSize.height(), heightForWidth(size.width())));
+    return size;
 }
 
 QWidget* PageView::makeLinks(const QStringList& classes)

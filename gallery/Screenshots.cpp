@@ -19,10 +19,6 @@ struct Variant
     qreal devicePixelRatio;
 };
 
-/// What the page gets in a gallery window of 800 x 480 without the property editor, and about as
-/// much height as it wants.
-constexpr QSize leastSize(600, 400);
-
 QVector<Variant> variants(const QString& styleSheet)
 {
     return {{QStringLiteral("light"), {false, false, false, styleSheet}, 1.0},
@@ -30,15 +26,6 @@ QVector<Variant> variants(const QString& styleSheet)
             {QStringLiteral("dark"), {true, false, false, styleSheet}, 1.0},
             {QStringLiteral("right-to-left"), {false, true, false, styleSheet}, 1.0},
             {QStringLiteral("disabled"), {false, false, true, styleSheet}, 1.0}};
-}
-
-QSize sizeOf(const QWidget& view)
-{
-    QSize size = view.minimumSizeHint().expandedTo(leastSize);
-    size.setHeight(qMax(size.height(), view.sizeHint().height()));
-    if (view.hasHeightForWidth())
-        size.setHeight(qMax(leastSize.height(), view.heightForWidth(size.width())));
-    return size;
 }
 
 QImage picture(const PageEntry& entry, const Variant& variant)
@@ -49,7 +36,7 @@ QImage picture(const PageEntry& entry, const Variant& variant)
     GalleryPage* page = view->page();
     variant.appearance.applyToPage(*page);
     view->ensurePolished();
-    view->resize(sizeOf(*view));
+    view->resize(view->pictureSize());
     stage.resize(view->size());
     rendering::showUnseen(&stage);
     rendering::waitUntil([page] { return page->isReady(); });

@@ -1,5 +1,6 @@
 #include "Beacon.h"
 #include "ColouredSwitch.h"
+#include "FlowLayout.h"
 #include "GalleryPage.h"
 #include "Glow.h"
 #include "Lamp.h"
@@ -22,7 +23,6 @@
 
 #include <QBoxLayout>
 #include <QCoreApplication>
-#include <QGridLayout>
 #include <QGuiApplication>
 #include <QIntValidator>
 #include <QLabel>
@@ -37,7 +37,7 @@ namespace {
 
 constexpr int margin = 12;
 constexpr int spacing = 8;
-constexpr int columns = 3;
+constexpr int cardWidth = 200; // three of them beside the list of pages, two on a tall screen
 constexpr int demoHeight = 64;
 constexpr QSize lightSize(56, 56);
 constexpr int textPixelSize = 18;
@@ -53,6 +53,8 @@ class OverviewPage : public GalleryPage
 public:
     explicit OverviewPage(QWidget* parent);
 
+    bool isReady() const override;
+
 private:
     void addCard(const QString& name, const QString& page, QWidget* demo);
     void addContainers();
@@ -61,8 +63,8 @@ private:
     void addIndicators();
     void addFiles();
 
-    QGridLayout* m_grid;
-    int m_cards = 0;
+    FlowLayout* m_cards;
+    QListView* m_files = nullptr;
 };
 
 QLabel* makeHeading(const QString& text)
@@ -218,7 +220,7 @@ QWidget* makeLabel()
 }
 
 /// The top of the file system, of which there is something to be seen on every device.
-QWidget* makeFiles()
+QListView* makeFiles()
 {
     auto* view = new QListView;
     auto* model = new ui::FileSystemModel(view);
@@ -231,16 +233,14 @@ QWidget* makeFiles()
 
 OverviewPage::OverviewPage(QWidget* parent)
     : GalleryPage(parent)
-    , m_grid(new QGridLayout)
+    , m_cards(new FlowLayout)
 {
-    m_grid->setSpacing(spacing);
+    m_cards->setSpacing(spacing);
     addContainers();
     addControls();
     addFields();
     addIndicators();
     addFiles();
-    for (int column = 0; column < columns; ++column)
-        m_grid->setColumnStretch(column, 1);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
@@ -248,11 +248,16 @@ OverviewPage::OverviewPage(QWidget* parent)
     column->addWidget(makeHeading(QStringLiteral("platform_widgets " GALLERY_VERSION)));
     column->addWidget(makeParagraph(
         tr("Every widget of the library, alive. A button below a widget opens its page.")));
-    column->addLayout(m_grid);
+    column->addLayout(m_cards);
     column->addStretch();
     column->addWidget(
         makeParagraph(tr("Qt %1, platform plugin \"%2\"")
                           .arg(QString::fromLatin1(qVersion()), QGuiApplication::platformName())));
+}
+
+bool OverviewPage::isReady() const
+{
+    return m_files->model()->rowCount(m_files->rootIndex()) > 0;
 }
 
 void OverviewPage::addContainers()
@@ -300,7 +305,8 @@ void OverviewPage::addFiles()
 {
     addCard(QStringLiteral("BreadCrumbsWidget"), QStringLiteral("path"), makePath());
     addCard(QStringLiteral("ClickableLabel"), QStringLiteral("path"), makeLabel());
-    addCard(QStringLiteral("FileSystemModel"), QStringLiteral("file-browser"), makeFiles());
+    m_files = makeFiles();
+    addCard(QStringLiteral("FileSystemModel"), QStringLiteral("file-browser"), m_files);
     auto* open = new QPushButton(tr("Open"));
     connect(open, &QPushButton::clicked, this,
             [this] { Q_EMIT pageRequested(QStringLiteral("file-browser")); });
@@ -333,8 +339,8 @@ void OverviewPage::addCard(const QString& name, const QString& page, QWidget* de
     row->addWidget(demo, 0, Qt::AlignCenter);
     column->addWidget(stage, 1);
     column->addWidget(link);
-    m_grid->addWidget(card, m_cards / columns, m_cards % columns);
-    ++m_cards;
+    card->setFixedWidth(cardWidth);
+    m_cards->addWidget(card);
 }
 
 } // namespace

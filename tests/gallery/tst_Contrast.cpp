@@ -81,7 +81,7 @@ struct Shot
         appearance.applyToApplication();
         view = new PageView(entry, &window);
         view->ensurePolished();
-        view->resize(view->minimumSizeHint().expandedTo(QSize(600, 400)));
+        view->resize(view->pictureSize());
         window.resize(view->size());
         rendering::showUnseen(&window);
         const GalleryPage* page = view->page();

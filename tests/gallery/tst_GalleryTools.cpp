@@ -1,0 +1,636 @@
+#include "Appearance.h"
+#include "GalleryPage.h"
+#include "GalleryWindow.h"
+#include "OffscreenMessages.h"
+#include "pages/Pages.h"
+#include "properties/HiddenValues.h"
+#include "properties/PropertyEditor.h"
+#include "properties/PropertyRow.h"
+#include "properties/ValueEditor.h"
+#include "StyleSheetFile.h"
+#include "TestApplication.h"
+#include "tools/CodeView.h"
+#include "tools/SignalLog.h"
+#include "tools/TargetMark.h"
+#include "TouchStyle.h"
+
+#include <ClickableLabel.h>
+#include <Switch.h>
+#include <ui/CBatteryStatusWidget.h>
+#include <ui/KeypadLineEdit.h>
+
+#include <QAbstractEventDispatcher>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolButton>
+
+namespace {
+
+/// The gallery with all its pages, on a stage that keeps the platform from being asked for more.
+struct Gallery
+{
+    explicit Gallery(const char* page, const QSize& size = QSize(800, 480))
+        : window(allPages(), QString(), &stage)
+    {
+        window.showPage(QString::fromLatin1(page));
+        stage.resize(size);
+        window.resize(size);
+        stage.show();
+        QVERIFY(QTest::qWaitForWindowActive(&stage));
+    }
+
+    void chooseTool(const char* name)
+    {
+        window.findChild<QComboBox*>(QStringLiteral("toolChoice"))
+            ->setCurrentText(QString::fromLatin1(name));
+    }
+
+    PropertyEditor* properties()
+    {
+        return window.findChild<PropertyEditor*>();
+    }
+
+    QWidget* demo(const char* name)
+    {
+        for (const GalleryPage::DemoWidget& demo : window.page()->demoWidgets()) {
+            if (demo.name == QLatin1String(name))
+                return demo.widget;
+        }
+        return nullptr;
+    }
+
+    /// Shown or not.
+    PropertyRow* row(const char* name)
+    {
+        for (PropertyRow* row : properties()->findChildren<PropertyRow*>()) {
+            if (row->name() == name
+                && !row->parentWidget()->parentWidget()->parentWidget()->isHidden())
+                return row;
+        }
+        return nullptr;
+    }
+
+    QString log()
+    {
+        return window.findChild<SignalLog*>()->toPlainText();
+    }
+
+    QWidget stage;
+    GalleryWindow window;
+};
+
+void tap(QWidget* widget)
+{
+    const QPoint position = widget->mapTo(widget->window(), widget->rect().center());
+    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {}, position);
+}
+
+QImage imageOf(QWidget* widget)
+{
+    return widget->grab().toImage();
+}
+
+} // namespace
+
+/// What the gallery tells of its pages: properties, code, signals, style sheet and reference.
+class tst_GalleryTools : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void overviewLeadsToEveryPage();
+    void everyPageFits_data();
+    void everyPageFits();
+    void everyControlCanBeTapped_data();
+    void everyControlCanBeTapped();
+    void toolLiesBelowOnTallScreen();
+    void linksToReference();
+    void everyPageShowsCode_data();
+    void everyPageShowsCode();
+    void logsSignals();
+    void logHidesSecrets();
+    void logCountsRepetitions();
+    void logForgetsWithPage();
+    void showsHiddenValues();
+    void editsHiddenValue();
+    void resetsValue();
+    void filtersRows();
+    void hidesSecrets();
+    void editsPalette();
+    void editsSizePolicy();
+    void switchThatIsOnShowsItsColour();
+    void keepsWhatIsTyped();
+    void marksTarget();
+    void restsWithoutTimers();
+    void styleSheetTakesEffectWhileWritten();
+    void styleSheetErrors_data();
+    void styleSheetErrors();
+    void exampleHasRuleForEveryPage_data();
+    void exampleHasRuleForEveryPage();
+    void readsFromLeftToRight();
+};
+
+namespace {
+
+void addPages()
+{
+    QTest::addColumn<QString>("id");
+    const QVector<PageEntry> pages = allPages();
+    for (const PageEntry& entry : pages)
+        QTest::newRow(qPrintable(entry.id)) << entry.id;
+}
+
+} // namespace
+
+void tst_GalleryTools::initTestCase()
+{
+    test::dropOffscreenMessages();
+    TouchStyle::install();
+    QFont font = QApplication::font();
+    font.setPointSize(9); // as the gallery finds it, which makes larger ones of it
+    QApplication::setFont(font);
+}
+
+void tst_GalleryTools::cleanup()
+{
+    Appearance().applyToApplication();
+}
+
+void tst_GalleryTools::overviewLeadsToEveryPage()
+{
+    QSet<QString> expected;
+    const QVector<PageEntry> pages = allPages();
+    for (const PageEntry& entry : pages)
+        expected.insert(entry.id);
+    expected.remove(QStringLiteral("overview"));
+
+    QSet<QString> reached;
+    Gallery gallery("overview", QSize(800, 1200));
+    const int links =
+        gallery.window.page()->findChildren<QPushButton*>(QStringLiteral("pageLink")).size();
+    QCOMPARE(links, 15);
+    for (int link = 0; link < links; ++link) {
+        auto* button =
+            gallery.window.page()->findChildren<QPushButton*>(QStringLiteral("pageLink")).at(link);
+        tap(button);
+        QTRY_VERIFY(gallery.window.page()->objectName() != QLatin1String("overview"));
+        reached.insert(gallery.window.page()->objectName());
+        gallery.window.showPage(QStringLiteral("overview"));
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(reached, expected);
+}
+
+void tst_GalleryTools::everyPageFits_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QSize>("size");
+    const QVector<PageEntry> pages = allPages();
+    for (const PageEntry& entry : pages) {
+        // The first one is what a window manager's frame leaves of the screen.
+        for (const QSize& size : {QSize(792, 448), QSize(480, 800)})
+            QTest::addRow("%s, %d x %d", qPrintable(entry.id), size.width(), size.height())
+                << entry.id << size;
+    }
+}
+
+void tst_GalleryTools::everyPageFits()
+{
+    QFETCH(QString, id);
+    QFETCH(QSize, size);
+    Gallery gallery(qPrintable(id), size);
+    QCOMPARE(gallery.window.size(), size);
+    for (const QScrollArea* area : gallery.window.findChildren<QScrollArea*>()) {
+        if (area->isVisible() && area->objectName() != QLatin1String("panorama")
+            && area->widgetResizable())
+            QVERIFY2(area->horizontalScrollBar()->maximum() == 0,
+                     qPrintable(QString::number(area->horizontalScrollBar()->maximum())));
+    }
+}
+
+void tst_GalleryTools::everyControlCanBeTapped_data()
+{
+    addPages();
+}
+
+void tst_GalleryTools::everyControlCanBeTapped()
+{
+    QFETCH(QString, id);
+    constexpr int least = 40;
+    Gallery gallery(qPrintable(id), QSize(800, 1400));
+    const auto isTapped = [](const QWidget* widget) {
+        return qobject_cast<const QAbstractButton*>(widget)
+            || qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLineEdit*>(widget)
+            || (qobject_cast<const QAbstractSlider*>(widget)
+                && !qobject_cast<const QScrollBar*>(widget))
+            || qobject_cast<const ClickableLabel*>(widget);
+    };
+    int tapped = 0;
+    for (const QWidget* widget : gallery.window.findChildren<QWidget*>()) {
+        // The switch as it comes, and the demo widgets of it, are as high as the library makes
+        // them.
+        if (!widget->isVisible() || !isTapped(widget) || widget->inherits("Switch"))
+            continue;
+        ++tapped;
+        QVERIFY2(widget->height() >= least && (widget->width() >= least),
+                 qPrintable(QStringLiteral("%1 \"%2\": %3 x %4")
+                                .arg(QString::fromLatin1(widget->metaObject()->className()),
+                                     widget->objectName())
+                                .arg(widget->width())
+                                .arg(widget->height())));
+    }
+    QVERIFY(tapped > 0);
+}
+
+void tst_GalleryTools::toolLiesBelowOnTallScreen()
+{
+    Gallery gallery("battery", QSize(480, 800));
+    const QWidget* tool = gallery.properties();
+    QVERIFY(tool->mapTo(&gallery.window, QPoint()).y() > 400);
+    QCOMPARE(tool->width() > 400, true);
+    QVERIFY(!gallery.window.findChild<QListWidget*>()->isVisible());
+    auto* choice = gallery.window.findChild<QComboBox*>(QStringLiteral("pageChoice"));
+    QVERIFY(choice->isVisible());
+    QCOMPARE(choice->currentText(), QStringLiteral("Battery"));
+
+    choice->setFocus();
+    QTest::keyClick(choice, Qt::Key_Down);
+    QCOMPARE(gallery.window.page()->objectName(), QStringLiteral("scroll-indicator"));
+
+    gallery.stage.resize(800, 480);
+    gallery.window.resize(800, 480);
+    QVERIFY(gallery.window.findChild<QListWidget*>()->isVisible());
+    QTRY_VERIFY(gallery.properties()->mapTo(&gallery.window, QPoint()).x() > 400);
+}
+
+void tst_GalleryTools::linksToReference()
+{
+    Gallery gallery("path");
+    QStringList texts;
+    for (const auto* link :
+         gallery.window.findChildren<QToolButton*>(QStringLiteral("referenceLink")))
+        texts.append(link->text());
+    QCOMPARE(texts,
+             QStringList({QStringLiteral("BreadCrumbsWidget"), QStringLiteral("ClickableLabel")}));
+
+    // There is none beside the program of the tests.
+    auto* message = gallery.window.findChild<QLabel*>(QStringLiteral("referenceMessage"));
+    QVERIFY(!message->isVisible());
+    tap(gallery.window.findChild<QToolButton*>(QStringLiteral("referenceLink")));
+    QTRY_VERIFY(message->isVisible());
+    QVERIFY(message->text().contains(QStringLiteral("./dev docs")));
+}
+
+void tst_GalleryTools::everyPageShowsCode_data()
+{
+    addPages();
+}
+
+void tst_GalleryTools::everyPageShowsCode()
+{
+    QFETCH(QString, id);
+    if (id == QLatin1String("overview"))
+        return; // it leads to the others
+    Gallery gallery(qPrintable(id));
+    gallery.chooseTool("Code");
+    auto* choice = gallery.window.findChild<QComboBox*>(QStringLiteral("classChoice"));
+    QVERIFY(choice->count() > 0);
+    for (int index = 0; index < choice->count(); ++index) {
+        choice->setCurrentIndex(index);
+        const QString code =
+            gallery.window.findChild<QPlainTextEdit*>(QStringLiteral("code"))->toPlainText();
+        QVERIFY2(code.count(QLatin1Char('\n')) > 1, qPrintable(choice->itemText(index)));
+        QVERIFY2(!code.contains(QStringLiteral("//! [")), qPrintable(code));
+        QVERIFY2(!code.startsWith(QLatin1Char(' ')), qPrintable(code));
+    }
+}
+
+void tst_GalleryTools::logsSignals()
+{
+    Gallery gallery("switch");
+    gallery.chooseTool("Signals");
+    QVERIFY(gallery.log().isEmpty());
+    auto* control = qobject_cast<Switch*>(gallery.demo("Plain, off"));
+    tap(control);
+    QTRY_VERIFY(control->isChecked());
+    QVERIFY(gallery.log().contains(QStringLiteral("Plain, off: pressed()")));
+    QVERIFY(gallery.log().contains(QStringLiteral("Plain, off: toggled(true)")));
+    QVERIFY(gallery.log().contains(QStringLiteral("Plain, off: stateChanged(2)")));
+}
+
+void tst_GalleryTools::logHidesSecrets()
+{
+    Gallery gallery("text-entry");
+    auto* pin = qobject_cast<QLineEdit*>(gallery.demo("PIN, 4 to 6 digits"));
+    pin->setText(QStringLiteral("98765"));
+    QVERIFY(gallery.log().contains(QStringLiteral("textChanged")));
+    QVERIFY(!gallery.log().contains(QStringLiteral("98765")));
+    auto* address = qobject_cast<QLineEdit*>(gallery.demo("IP address"));
+    address->setText(QStringLiteral("10.0.0.1"));
+    QVERIFY(gallery.log().contains(QStringLiteral("IP address: textChanged(\"10.0.0.1\")")));
+}
+
+void tst_GalleryTools::logCountsRepetitions()
+{
+    Gallery gallery("path");
+    auto* label = qobject_cast<ClickableLabel*>(gallery.demo("Short label"));
+    for (int i = 0; i < 3; ++i)
+        tap(label);
+    QTRY_COMPARE(gallery.log(), QStringLiteral("Short label: clicked()  \u00d73"));
+    QCOMPARE(gallery.window.findChild<QLabel*>(QStringLiteral("report"))->text(),
+             QStringLiteral("Tapped: 3"));
+}
+
+void tst_GalleryTools::logForgetsWithPage()
+{
+    Gallery gallery("path");
+    tap(gallery.demo("Short label"));
+    QTRY_VERIFY(!gallery.log().isEmpty());
+    gallery.window.showPage(QStringLiteral("frames"));
+    QVERIFY(gallery.log().isEmpty());
+}
+
+void tst_GalleryTools::showsHiddenValues()
+{
+    Gallery gallery("battery");
+    gallery.properties()->setTarget(gallery.demo("Charging"));
+    QCOMPARE(gallery.row("chargePercentage")->findChild<QLineEdit*>()->text(),
+             QStringLiteral("60"));
+    QVERIFY(gallery.row("batteryCharging")->findChild<Switch*>()->isChecked());
+    QVERIFY(gallery.row("batteryPresent")->findChild<Switch*>()->isChecked());
+    QCOMPARE(gallery.row("frameWidth")->findChild<QLineEdit*>()->text(), QStringLiteral("4"));
+    QVERIFY(gallery.row("fillColor"));
+
+    gallery.window.showPage(QStringLiteral("frames"));
+    gallery.properties()->setTarget(gallery.demo("Masked"));
+    QVERIFY(gallery.row("fillContents")->findChild<Switch*>()->isChecked());
+    QVERIFY(gallery.row("widgetMask")->findChild<Switch*>()->isChecked());
+
+    gallery.window.showPage(QStringLiteral("scroll-indicator"));
+    QVERIFY(gallery.row("highlightBar"));
+    gallery.window.showPage(QStringLiteral("file-browser"));
+    for (const char* name : {"allowedDirs", "filters", "selectionMode"})
+        QVERIFY2(gallery.row(name), name);
+}
+
+void tst_GalleryTools::editsHiddenValue()
+{
+    Gallery gallery("battery");
+    auto* battery = gallery.demo("Try me");
+    gallery.properties()->setTarget(battery);
+    const QImage before = imageOf(battery);
+    gallery.row("chargePercentage")->findChild<QToolButton*>(QStringLiteral("stepDown"))->click();
+    QCOMPARE(hiddenvalues::value(*battery, "chargePercentage"), QVariant(59));
+    QVERIFY(imageOf(battery) != before);
+
+    hiddenvalues::set(battery, "chargePercentage", 20); // as the slider of the page does
+    QTRY_COMPARE(gallery.row("chargePercentage")->findChild<QLineEdit*>()->text(),
+                 QStringLiteral("20"));
+}
+
+void tst_GalleryTools::resetsValue()
+{
+    Gallery gallery("battery");
+    auto* battery = gallery.demo("Try me");
+    gallery.properties()->setTarget(battery);
+    PropertyRow* row = gallery.row("frameWidth");
+    auto* reset = row->findChild<QToolButton*>(QStringLiteral("resetButton"));
+    QVERIFY(reset->isHidden());
+    for (int i = 0; i < 3; ++i)
+        row->findChild<QToolButton*>(QStringLiteral("stepUp"))->click();
+    QCOMPARE(hiddenvalues::value(*battery, "frameWidth"), QVariant(7));
+    QVERIFY(!reset->isHidden());
+
+    // The row is made anew for it, and still knows.
+    gallery.properties()->setTarget(gallery.demo("Small"));
+    gallery.properties()->setTarget(battery);
+    row = gallery.row("frameWidth");
+    reset = row->findChild<QToolButton*>(QStringLiteral("resetButton"));
+    QVERIFY(!reset->isHidden());
+    reset->click();
+    QCOMPARE(hiddenvalues::value(*battery, "frameWidth"), QVariant(4));
+    QCOMPARE(row->findChild<QLineEdit*>()->text(), QStringLiteral("4"));
+    QVERIFY(reset->isHidden());
+}
+
+void tst_GalleryTools::filtersRows()
+{
+    Gallery gallery("battery");
+    auto* filter = gallery.properties()->findChild<QLineEdit*>(QStringLiteral("filter"));
+    QVERIFY(!gallery.row("minimumWidth")); // folded away
+    filter->setText(QStringLiteral("WIDTH"));
+    QVERIFY(gallery.row("minimumWidth")->isVisible());
+    QVERIFY(gallery.row("frameWidth")->isVisible());
+    QVERIFY(!gallery.row("chargePercentage")->isVisible());
+    filter->clear();
+    QVERIFY(gallery.row("chargePercentage")->isVisible());
+    QVERIFY(!gallery.row("minimumWidth")->isVisible());
+}
+
+void tst_GalleryTools::hidesSecrets()
+{
+    Gallery gallery("text-entry");
+    auto* pin = gallery.demo("PIN, 4 to 6 digits");
+    gallery.properties()->setTarget(pin);
+    auto* text = gallery.row("text")->findChild<QLineEdit*>();
+    QCOMPARE(text->echoMode(), QLineEdit::Password);
+    gallery.properties()
+        ->findChild<QLineEdit*>(QStringLiteral("filter"))
+        ->setText(QStringLiteral("selectedText"));
+    qobject_cast<QLineEdit*>(pin)->selectAll();
+    gallery.properties()->refresh();
+    for (const QLabel* label : gallery.row("selectedText")->editor()->findChildren<QLabel*>()) {
+        QCOMPARE(label->text().size(), 4);
+        QVERIFY(!label->text().contains(QStringLiteral("1234")));
+    }
+}
+
+void tst_GalleryTools::editsPalette()
+{
+    QWidget widget;
+    PropertyRow row(&widget, "palette");
+    row.editor()->findChild<QToolButton*>()->click();
+    // The window colour is the first of the roles, and a button unfolds it.
+    auto* color = row.editor()->findChildren<ValueEditor*>().constFirst();
+    Q_EMIT color->edited(QColor(1, 2, 3));
+    QCOMPARE(widget.palette().color(QPalette::Window), QColor(1, 2, 3));
+    QVERIFY(row.editor()->findChild<QToolButton*>()->text().endsWith(QStringLiteral("#010203")));
+}
+
+void tst_GalleryTools::editsSizePolicy()
+{
+    QWidget widget;
+    PropertyRow row(&widget, "sizePolicy");
+    row.editor()->findChild<QToolButton*>()->click();
+    auto* horizontal = row.editor()->findChild<QComboBox*>();
+    QCOMPARE(horizontal->currentText(), QStringLiteral("Preferred"));
+    QTest::keyClicks(horizontal, QStringLiteral("Fixed"));
+    QCOMPARE(widget.sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(widget.sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    row.editor()->findChildren<QToolButton*>(QStringLiteral("stepUp")).at(1)->click();
+    QCOMPARE(widget.sizePolicy().verticalStretch(), 1);
+}
+
+void tst_GalleryTools::switchThatIsOnShowsItsColour()
+{
+    Gallery gallery("switch");
+    auto* control = qobject_cast<Switch*>(gallery.demo("Plain, on"));
+    gallery.properties()->setTarget(control);
+    Q_EMIT gallery.row("thumbOnBrush")->editor()->edited(QColor(Qt::red));
+    QVERIFY(control->isChecked());
+    const QImage image = imageOf(control);
+    int red = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y)
+            red += image.pixelColor(x, y) == QColor(Qt::red);
+    }
+    QVERIFY2(red > 50, qPrintable(QString::number(red)));
+}
+
+void tst_GalleryTools::keepsWhatIsTyped()
+{
+    Gallery gallery("animation");
+    QWidget* beacon = gallery.demo("Pulsing light");
+    gallery.properties()->setTarget(beacon);
+    auto* field = gallery.row("brightness")->findChild<ui::KeypadLineEdit*>();
+    const QString before = field->text();
+    QTRY_VERIFY(field->text() != before); // it follows the animation
+    tap(field);
+    QTRY_VERIFY(field->hasFocus());
+    QTRY_VERIFY(field->hasSelectedText());
+    field->setText(QStringLiteral("0.7"));
+    const double shown = beacon->property("brightness").toDouble();
+    QTRY_VERIFY(beacon->property("brightness").toDouble() != shown);
+    gallery.properties()->refresh();
+    QCOMPARE(field->text(), QStringLiteral("0.7"));
+    QTest::keyClick(field, Qt::Key_Escape);
+    QTRY_VERIFY(field->text() != QStringLiteral("0.7"));
+}
+
+void tst_GalleryTools::marksTarget()
+{
+    Gallery gallery("battery");
+    QWidget* battery = gallery.demo("50 %");
+    gallery.properties()->setTarget(battery);
+    const auto* mark = gallery.window.findChild<TargetMark*>();
+    QVERIFY(mark->isVisible());
+    const QRect around(battery->mapTo(&gallery.window, QPoint()), battery->size());
+    QTRY_VERIFY(QRect(mark->mapTo(&gallery.window, QPoint()), mark->size()).contains(around));
+    QVERIFY(!mark->mask().contains(mark->rect().center())); // the battery is seen
+
+    battery->setFixedSize(60, 100);
+    QTRY_VERIFY(mark->width() >= 60 && mark->height() >= 100);
+    gallery.chooseTool("Code");
+    QVERIFY(!mark->isVisible());
+    gallery.chooseTool("Properties");
+    QVERIFY(mark->isVisible());
+    gallery.window.showPage(QStringLiteral("frames"));
+    QVERIFY(gallery.window.findChild<TargetMark*>());
+}
+
+/// Nothing wakes the processor while nobody touches anything.
+void tst_GalleryTools::restsWithoutTimers()
+{
+    Gallery gallery("switch");
+    const auto timers = [&gallery] {
+        int count = 0;
+        for (QObject* object : gallery.window.findChildren<QObject*>())
+            count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+        return count;
+    };
+    QTRY_COMPARE(timers(), 0);
+    gallery.demo("Plain, off")->update();
+    QTRY_VERIFY(timers() > 0); // the editor looks, once
+    QTRY_COMPARE(timers(), 0);
+}
+
+void tst_GalleryTools::styleSheetTakesEffectWhileWritten()
+{
+    Gallery gallery("grid-button");
+    gallery.chooseTool("Style sheet");
+    auto* text = gallery.window.findChild<QPlainTextEdit*>(QStringLiteral("styleSheetText"));
+    auto* message = gallery.window.findChild<QLabel*>(QStringLiteral("styleSheetMessage"));
+    QCOMPARE(text->toPlainText(), exampleStyleSheet());
+    text->setPlainText(QStringLiteral("QPushButton { min-height: 77px; }"));
+    QTRY_COMPARE(qApp->styleSheet(), QStringLiteral("QPushButton { min-height: 77px; }"));
+    QVERIFY(gallery.window.findChild<Switch*>(QStringLiteral("styleSheetSwitch"))->isChecked());
+    QVERIFY(!message->isVisible());
+
+    text->setPlainText(QStringLiteral("QPushButton { min-height: 77px; }\nQLabel { color: "));
+    QTRY_VERIFY(message->isVisible());
+    QCOMPARE(message->text(), QStringLiteral("line 2: this rule is not well-formed"));
+    QCOMPARE(qApp->styleSheet(), QStringLiteral("QPushButton { min-height: 77px; }"));
+}
+
+void tst_GalleryTools::styleSheetErrors_data()
+{
+    QTest::addColumn<QString>("styleSheet");
+    QTest::addColumn<QStringList>("errors");
+    QTest::newRow("none") << "QLabel { color: red; }" << QStringList();
+    QTest::newRow("example") << exampleStyleSheet() << QStringList();
+    QTest::newRow("empty") << "" << QStringList();
+    QTest::newRow("comment alone") << "/* QLabel { colr } */" << QStringList();
+    QTest::newRow("unknown property") << "/* a\n b */\nQLabel,\nQPushButton { colr: red; }"
+                                      << QStringList("line 3: there is no property \"colr\"");
+    QTest::newRow("two errors") << "QLabel { colr: red; }\nQFrame { x y z( }"
+                                << QStringList({"line 1: there is no property \"colr\"",
+                                                "line 2: this rule is not well-formed"});
+    QTest::newRow("no braces") << "a b c" << QStringList("line 1: this rule is not well-formed");
+    QTest::newRow("brace too many")
+        << "QLabel { color: red; }\n}" << QStringList("line 2: this rule is not well-formed");
+}
+
+void tst_GalleryTools::styleSheetErrors()
+{
+    QFETCH(QString, styleSheet);
+    QFETCH(QStringList, errors);
+    QCOMPARE(::styleSheetErrors(styleSheet), errors);
+}
+
+void tst_GalleryTools::exampleHasRuleForEveryPage_data()
+{
+    addPages();
+}
+
+void tst_GalleryTools::exampleHasRuleForEveryPage()
+{
+    QFETCH(QString, id);
+    QVERIFY2(exampleStyleSheet().contains(QLatin1Char('#') + id + QLatin1Char(' '))
+                 || id == QLatin1String("file-browser"), // by the name of the browser itself
+             qPrintable(id));
+    Gallery gallery(qPrintable(id));
+    GalleryPage* page = gallery.window.page();
+    QTRY_VERIFY(page->isReady());
+    const QImage plain = imageOf(page);
+    const QString rules = exampleStyleSheet();
+    Appearance appearance;
+    appearance.styleSheet = rules;
+    appearance.applyToApplication();
+    QVERIFY(imageOf(page) != plain);
+}
+
+void tst_GalleryTools::readsFromLeftToRight()
+{
+    QLabel label(QStringLiteral("#12 %"));
+    label.setAlignment(Qt::AlignCenter);
+    label.resize(120, 40);
+    QToolButton button;
+    button.setText(QStringLiteral("#12 %"));
+    button.resize(120, 40);
+    for (QWidget* widget : std::initializer_list<QWidget*>{&label, &button}) {
+        const QImage leftToRight = imageOf(widget);
+        widget->setLayoutDirection(Qt::RightToLeft);
+        QCOMPARE(imageOf(widget), leftToRight);
+    }
+}
+
+const test::Registration<tst_GalleryTools> registration;
+
+#include "tst_GalleryTools.moc"
