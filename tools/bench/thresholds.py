@@ -37,7 +37,8 @@ THRESHOLDS = [
     ("frame's interior by a QFrame", 0.5, by_counterpart("child's update inside")),
     ("switch in transition by a QCheckBox", 2, by_counterpart("^switch, a transition")),
     ("idle switch by a QCheckBox", 2, by_counterpart("^switch(, o| with)")),
-    ("10,000 files by a bare model and view", 1.1, by_bare_view),
+    # The browser's second view measures its columns too, hidden or not.
+    ("10,000 files by a bare model and view", 1.25, by_bare_view),
     ("bytes of the stripped library", 300 * 1024, fact("bytes, stripped")),
     ("relocations", 1500, fact("relocations")),
 ]
