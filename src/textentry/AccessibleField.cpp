@@ -4,7 +4,6 @@
 #include "InvalidInput.h"
 #include "ui/LineEdit.h"
 
-#include <QAccessibleWidget>
 #include <QColor>
 #include <QCoreApplication>
 #include <QScopedValueRollback>
@@ -12,33 +11,6 @@
 namespace ui {
 
 namespace {
-
-/// Stands for a widget in Qt's cache of interfaces, from the moment that it is told to.
-class StandIn : public QAccessibleWidget
-{
-public:
-    explicit StandIn(QWidget* widget)
-        : QAccessibleWidget(widget)
-    {
-    }
-
-    QObject* object() const override
-    {
-        return isInPlace ? QAccessibleWidget::object() : nullptr;
-    }
-
-    bool isInPlace = false;
-};
-
-/// Lets Qt ask for a new interface of \a field, and keeps the present one, which deleting would
-/// not.
-void releaseInterfaceOf(LineEdit* field)
-{
-    auto* standIn = new StandIn(field);
-    const QAccessible::Id id = QAccessible::registerAccessibleInterface(standIn);
-    standIn->isInPlace = true;
-    QAccessible::deleteAccessibleInterface(id);
-}
 
 /// An interface for each field, but none while its constructor asks for the one of the base class.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
@@ -56,12 +28,22 @@ AccessibleField::AccessibleField(LineEdit* field)
     : m_plain(QAccessible::queryAccessibleInterface(field))
     , m_plainId(QAccessible::uniqueId(m_plain))
 {
-    releaseInterfaceOf(field);
+    releasePlainInterface(field);
 }
 
 AccessibleField::~AccessibleField()
 {
-    QAccessible::deleteAccessibleInterface(m_plainId);
+    if (m_plain)
+        QAccessible::deleteAccessibleInterface(m_plainId);
+}
+
+/// Lets Qt ask for a new interface of \a field, and keeps the present one, which deleting would not.
+void AccessibleField::releasePlainInterface(LineEdit* field)
+{
+    auto* standIn = new AccessibleField;
+    const QAccessible::Id id = QAccessible::registerAccessibleInterface(standIn);
+    standIn->m_standsFor = field;
+    QAccessible::deleteAccessibleInterface(id);
 }
 
 QString AccessibleField::text(QAccessible::Text kind) const
@@ -80,7 +62,7 @@ bool AccessibleField::isValid() const
 
 QObject* AccessibleField::object() const
 {
-    return m_plain->object();
+    return m_plain ? m_plain->object() : m_standsFor;
 }
 
 QWindow* AccessibleField::window() const

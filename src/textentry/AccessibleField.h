@@ -45,8 +45,13 @@ protected:
     ~AccessibleField() override;
 
 private:
-    QAccessibleInterface* m_plain;
-    QAccessible::Id m_plainId;
+    /// Stands in Qt's cache of interfaces for a field that it is told of after it was put there.
+    AccessibleField() = default;
+    static void releasePlainInterface(LineEdit* field);
+
+    QAccessibleInterface* m_plain = nullptr;
+    QAccessible::Id m_plainId = 0;
+    QObject* m_standsFor = nullptr;
 };
 
 /// Has assistive technology find one for every ui::LineEdit, whose constructor calls it.
