@@ -11,8 +11,11 @@ namespace {
 /// Where QAbstractAnimation begins an animation.
 int startTime(const QAbstractAnimation& animation)
 {
-    if (animation.direction() == QAbstractAnimation::Forward)
+    if (animation.direction() == QAbstractAnimation::Forward) {
+        // mutant [0 -> (-1)]: QAbstractAnimation takes a time before the start as the start.
         return 0;
+    }
+    // mutant [< -> <=; 0 -> 1]: An animation without loops has no time but 0.
     return animation.loopCount() < 0 ? animation.duration() : animation.totalDuration();
 }
 
