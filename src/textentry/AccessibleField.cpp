@@ -48,7 +48,7 @@ void AccessibleField::releasePlainInterface(LineEdit* field)
 
 QString AccessibleField::text(QAccessible::Text kind) const
 {
-    const QString plain = m_plain->text(kind);
+    QString plain = m_plain->text(kind);
     if (kind != QAccessible::Description || !hasInvalidInput(object()))
         return plain;
     const QString note = QCoreApplication::translate("ui::LineEdit", "Invalid input");

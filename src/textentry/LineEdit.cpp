@@ -35,6 +35,7 @@ LineEdit::LineEdit(QWidget* parent)
     connect(this, &QLineEdit::textEdited, this, &LineEdit::textEditedSlot);
     connect(this, &LineEdit::signalOkKey, this, &LineEdit::onOkKey);
     connect(this, &QLineEdit::returnPressed, this, &LineEdit::onOkKey);
+    // mutant [order]: Neither depends on the other.
     connect(this, &LineEdit::signalCancelKey, this, &LineEdit::onCancelKey);
     registerAccessibleFields();
 }
