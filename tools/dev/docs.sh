@@ -13,5 +13,8 @@ esac
 
 need_packages build docs
 build docs reference
+if grep -rlF "$DEV_ROOT" build/gallery/docs/html >&2; then
+    die "docs: these pages name the folder of the sources"
+fi
 echo "build/gallery/docs/html/index.html"
 echo "build/gallery/docs/platform_widgets.qch"
