@@ -4,12 +4,14 @@ import os
 import sys
 import unittest
 from pathlib import Path
+from types import SimpleNamespace
 
 PROJECT = Path(__file__).resolve().parents[2]
 os.environ["DEV_ROOT"] = str(PROJECT)
 sys.path.insert(0, str(PROJECT / "tools" / "mutants"))
 from cpp import without_comments  # noqa: E402
 from marks import flaws, marks  # noqa: E402
+from mutants import Task, unneeded_marks  # noqa: E402
 from mutate import mutants  # noqa: E402
 
 
@@ -90,6 +92,17 @@ class Marks(unittest.TestCase):
         self.assertEqual(self.flaws("    // mutant [0 -> 1]: why\n"), [])
         self.assertEqual(self.flaws("    // mutant [0 -> 1]:\n"), ["3: a mark without a reason"])
         self.assertEqual(self.flaws("    // mutant [1 -> 2]: why\n"), ["3: there is no mutant '1 -> 2' in line 4"])
+
+    def test_unneeded(self):
+        text = self.head + "    // mutant [0 -> 1]: why\n" + self.tail
+        tasks = [Task("x.cpp", text, mutant, [], [], "", any(mark.accepts(mutant, text) for mark in marks(text)))
+                 for mutant in mutants(text)]
+
+        def unneeded(fate):
+            return unneeded_marks(tasks, SimpleNamespace(of=lambda task: fate))
+        self.assertEqual(unneeded("killed"), ["x.cpp:3: no mutant needs the mark '0 -> 1'"])
+        self.assertEqual(unneeded("survived"), [])
+        self.assertEqual(unneeded(None), [])  # not tried yet
 
     def test_sources_have_no_flaws(self):
         found = [f"{path.name}:{flaw}" for path in (PROJECT / "src").rglob("*.cpp") for flaw in flaws(path.read_text())]
