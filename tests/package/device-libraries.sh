@@ -23,8 +23,7 @@ cp -r "$headers/platform" "$headers"/platform_{style,keyboard}_export.h "$scratc
 cp -r "$headers/ui/keyboard" "$scratch/device/include/ui"
 
 cmake -S "$source_dir" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-    -DPLATFORM_QT="$qt" -DPLATFORM_DEVICE_PREFIX="$scratch/device" \
-    -DPLATFORM_BUILD_TESTS=OFF -DPLATFORM_BUILD_GALLERY=OFF >/dev/null
+    -DPLATFORM_QT="$qt" -DPLATFORM_DEVICE_PREFIX="$scratch/device" >/dev/null
 cmake --build "$scratch/build"
 
 if find "$scratch/build" -name 'libplatform_style*' -o -name 'libplatform_keyboard*' | grep .; then

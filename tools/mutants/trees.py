@@ -58,7 +58,7 @@ class Tree:
 
     def configure(self):
         self._must_run(["cmake", "-S", str(self.source), "-B", str(self.build), "-G", "Ninja",
-                        "-DCMAKE_BUILD_TYPE=", "-DCMAKE_CXX_FLAGS=-O0 -w", "-DPLATFORM_BUILD_GALLERY=OFF",
+                        "-DCMAKE_BUILD_TYPE=", "-DCMAKE_CXX_FLAGS=-O0 -w", "-DPLATFORM_BUILD_TESTS=ON",
                         f"-DPLATFORM_TEST_TIMEOUT={_TEST_TIMEOUT}"])
 
     def tests(self):
