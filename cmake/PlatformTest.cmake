@@ -18,6 +18,7 @@ endif()
 # process. Registers the class once per platform as PLATFORM.CLASS, and with SCREENS once per screen as
 # x11.CLASS.WIDTHxHEIGHT. A warning that no test announced with QTest::ignoreMessage() fails the run,
 # and so does a skipped test.
+# CTest starts the tests with the highest COST first, which is their time in seconds where it is long.
 function(platform_add_test class)
     cmake_parse_arguments(PARSE_ARGV 1 arg "ALONE;LOADS_LIBRARY" "" "PLATFORMS;SCREENS;SOURCES;LIBRARIES")
     if(arg_ALONE OR arg_LOADS_LIBRARY)

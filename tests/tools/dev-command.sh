@@ -31,7 +31,16 @@ for file in "$source_dir"/tools/dev/*.sh; do
     "$source_dir/dev" "$command" --help | grep -q "^usage: ./dev $command" || fail "$command has no help"
 done
 
+for help in "help test" "test -h"; do
+    # shellcheck disable=SC2086 # two words
+    "$source_dir/dev" $help | grep -q '^usage: ./dev test' || fail "./dev $help does not help"
+done
+ln -s "$source_dir/dev" "$scratch/link"
+"$scratch/link" help >"$scratch/help" || fail "./dev cannot be called by a link"
+
 refuses "unknown command 'frobnicate'" frobnicate
+refuses "unknown command 'frobnicate'" help frobnicate
+refuses "unknown option '--frobnicate'" gallery --frobnicate
 refuses "unknown command '../lib/common'" ../lib/common
 refuses "unknown option '--frobnicate'" test --frobnicate
 refuses "unknown preset 'fast'" test --preset fast
@@ -46,6 +55,38 @@ refuses "unknown option '--frob'" soak --frob
 refuses "--seed needs a value" soak --seed
 refuses "not a number: 'many'" soak --steps many
 refuses "too many arguments" abi --accept --accept
+
+# What is refused before minutes are spent.
+has_precondition() {
+    # shellcheck disable=SC2016 # the inner shell expands it
+    env DEV_ROOT="$scratch/checkout" bash -c '. "$1/tools/lib/common.sh" && cd "$DEV_ROOT" && check_preconditions dev' \
+        bash "$scratch/checkout" 2>"$scratch/err"
+}
+mkdir -p "$scratch/checkout/build/dev"
+cp -r "$source_dir/tools" "$scratch/checkout/tools"
+has_precondition || fail "refused: $(cat "$scratch/err")"
+echo "CMAKE_HOME_DIRECTORY:INTERNAL=/elsewhere" >"$scratch/checkout/build/dev/CMakeCache.txt"
+! has_precondition || fail "a moved checkout was accepted"
+grep -q 'made for a checkout in /elsewhere; delete it with' "$scratch/err" || fail "said: $(cat "$scratch/err")"
+rm -r "$scratch/checkout/build"
+touch "$scratch/checkout/build" # root may write to a folder whose permissions say otherwise
+! has_precondition || fail "a checkout without a place for the build was accepted"
+grep -q 'cannot write to' "$scratch/err" || fail "said: $(cat "$scratch/err")"
+
+# A stage tells its number, keeps the output in the log, and shows it when it fails.
+mkdir -p "$scratch/stages/build"
+cp -r "$source_dir/tools" "$scratch/stages/tools"
+# shellcheck disable=SC2016 # the inner shell expands it
+if env DEV_ROOT="$scratch/stages" bash -c '. "$1/tools/lib/common.sh"; start_stages try 2
+        stage quiet echo one; stage loud bash -c "echo two; exit 3"; echo not reached' \
+        bash "$scratch/stages" >"$scratch/out" 2>"$scratch/err"; then
+    fail "a failed stage was taken for a success"
+fi
+grep -q '^1 of 2: quiet: 0 s$' "$scratch/err" || fail "stages said: $(cat "$scratch/err")"
+grep -q '^two$' "$scratch/err" || fail "stages said: $(cat "$scratch/err")"
+grep -q 'all of it is in build/try.log$' "$scratch/err" || fail "stages said: $(cat "$scratch/err")"
+grep -q '^one$' "$scratch/stages/build/try.log" || fail "the log is not complete"
+[ ! -s "$scratch/out" ] || fail "printed: $(cat "$scratch/out")"
 
 # Missing packages, with a stand-in for each system tool. The log shows what would be installed.
 mkdir "$scratch/bin"

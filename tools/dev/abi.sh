@@ -9,7 +9,6 @@
 
 accept=
 case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
     --accept) accept=--accept; shift ;;
     "") ;;
     *) unknown_option abi "$1" ;;

@@ -14,7 +14,6 @@ arch=armhf
 filter=
 while [ $# -gt 0 ]; do
     case "$1" in
-        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --arch) arch=$(option_value arm "$1" $# "${2:-}"); shift ;;
         --filter) filter=$(option_value arm "$1" $# "${2:-}"); shift ;;
         *) unknown_option arm "$1" ;;

@@ -16,7 +16,6 @@ filter=
 accept=
 while [ $# -gt 0 ]; do
     case "$1" in
-        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --filter) filter=$(option_value bench "$1" $# "${2:-}"); shift ;;
         --peers) preset=bench-peers packages+=(peers) filter=^peers: ;;
         --accept) accept=yes ;;

@@ -22,7 +22,6 @@ accept=
 options=()
 while [ $# -gt 0 ]; do
     case "$1" in
-        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --arch) arch=$(option_value board "$1" $# "${2:-}"); shift ;;
         --theme) options+=("$1" "$(option_value board "$1" $# "${2:-}")"); shift ;;
         --photos)

@@ -7,7 +7,6 @@
 
 preset=dev
 case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
     -*) unknown_option build "$1" ;;
     dev | release | asan | coverage) preset=$1 ;;
     "") ;;

@@ -16,7 +16,6 @@ run=yes
 accept=
 while [ $# -gt 0 ]; do
     case "$1" in
-        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --no-run) run=no ;;
         --accept) accept=yes ;;
         *) unknown_option coverage "$1" ;;

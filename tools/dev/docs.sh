@@ -6,7 +6,6 @@
 # Its pictures are taken by the gallery. A warning of the documentation is an error.
 
 case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
     "") ;;
     *) unknown_option docs "$1" ;;
 esac

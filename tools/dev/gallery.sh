@@ -11,10 +11,18 @@
 #
 # Without a display every page is rendered to PNG files. The gallery checks its options itself.
 
-case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
-esac
+# The gallery knows its options and says so only after it has been built.
+known=$(sed -nE 's/^const QString [a-zA-Z]+Name = QStringLiteral\("(.*)"\);/--\1/p' gallery/GalleryOptions.cpp)
+for option in "$@"; do
+    case "$option" in
+        --help-all | --version | -- | -[!-]*) ;;
+        --*) grep -qxF -- "${option%%=*}" <<<"$known" || unknown_option gallery "$option" ;;
+    esac
+done
 
-need_packages build gallery
-build gallery platform-widgets-gallery
-exec build/gallery/gallery/platform-widgets-gallery "$@"
+check_preconditions gallery
+start_stages gallery 2
+stage "the packages that are needed" need_packages build gallery
+stage "building" build gallery platform-widgets-gallery
+cd "$DEV_CALLER" || exit
+exec "$DEV_ROOT/build/gallery/gallery/platform-widgets-gallery" "$@"

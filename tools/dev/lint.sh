@@ -11,7 +11,6 @@
 checkers=(rules format shell warnings cppcheck clazy tidy)
 CLANG_READS=(src platform gallery designer docs)
 case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
     --quick) CLANG_READS=(src); shift ;;
     -*) unknown_option lint "$1" ;;
 esac

@@ -13,7 +13,6 @@
 # A mutant that changes nothing observable has a mark above its line, with the reason.
 
 case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
 esac
 arguments=("$@")
 while [ $# -gt 0 ]; do

@@ -12,7 +12,6 @@
 
 check=no
 case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
     --check) check=yes ;;
     "") ;;
     *) unknown_option package "$1" ;;
@@ -28,7 +27,7 @@ not_asked+=,library-not-linked-against-libc,package-name-doesnt-match-sonames
 need_packages build docs package
 build packages all reference
 rm -f build/packages/*.deb
-cpack --preset packages >&2
+LC_ALL=C.UTF-8 cpack --preset packages >&2 # a path may have any letter in it
 if [ "$check" = yes ]; then
     lintian --allow-root --fail-on error,warning --suppress-tags "$not_asked" build/packages/*.deb >&2
     . "$DEV_ROOT/tools/lib/sysroot.sh"

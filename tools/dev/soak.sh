@@ -21,7 +21,6 @@ accept=
 suffix=
 while [ $# -gt 0 ]; do
     case "$1" in
-        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --steps) steps=$(option_value soak "$1" $# "${2:-}"); shift ;;
         --widget) widget=$(option_value soak "$1" $# "${2:-}"); shift ;;
         --seed) seed=$(option_value soak "$1" $# "${2:-}"); shift ;;

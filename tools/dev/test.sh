@@ -6,13 +6,13 @@
 #   --preset PRESET  run one build only: dev, asan or coverage
 #   --filter REGEX   run the tests whose names match
 #
-# The last line counts the test programs over all builds: N passed, N failed
+# What fails is shown again at the end, with the command that runs it once more. The last line counts the
+# tests over all builds: N passed, N failed
 
 presets=(dev asan)
 filter=
 while [ $# -gt 0 ]; do
     case "$1" in
-        --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
         --preset) presets=("$(option_value test "$1" $# "${2:-}")"); shift ;;
         --filter) filter=$(option_value test "$1" $# "${2:-}"); shift ;;
         *) unknown_option test "$1" ;;
@@ -26,9 +26,12 @@ for preset in "${presets[@]}"; do
     esac
 done
 
-need_packages build test
+check_preconditions "${presets[@]}"
+export LC_ALL=C.UTF-8 # a path may have any letter in it
+start_stages test $((1 + 2 * ${#presets[@]}))
+stage "the packages that are needed" need_packages build test
 for preset in "${presets[@]}"; do
-    build "$preset"
-    run_tests "$preset" "$filter"
+    stage "building ($preset)" build "$preset"
+    stage "testing ($preset)" run_tests "$preset" "$filter"
 done
 print_test_count

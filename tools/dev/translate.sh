@@ -10,7 +10,6 @@
 # language becomes part of the gallery by its name in gallery/Translations.cmake.
 
 case "${1:-}" in
-    --help) print_usage "${BASH_SOURCE[0]}"; exit ;;
     -*) unknown_option translate "$1" ;;
 esac
 [ $# -le 1 ] || die "translate: too many arguments"

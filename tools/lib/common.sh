@@ -1,7 +1,14 @@
 # What the commands of ./dev share. Sourced, never run.
 
+# The error channel of the command, wherever the output of a stage of it goes.
+exec 3>&2
+
+say() {
+    echo "dev: $*" >&3
+}
+
 die() {
-    echo "dev: $*" >&2
+    say "$@"
     exit 1
 }
 
@@ -29,10 +36,15 @@ build() {
     for target in "$@"; do
         targets+=(--target "$target")
     done
-    cmake --preset "$preset" --log-level=WARNING >&2
-    cmake --build --preset "$preset" ${targets[@]+"${targets[@]}"} >&2
+    check_preconditions "$preset"
+    # The programs that it runs read file names by the locale, and a path may have any letter in it.
+    local -x LC_ALL=C.UTF-8
+    cmake --preset "$preset" --log-level=WARNING >&2 \
+        && cmake --build --preset "$preset" ${targets[@]+"${targets[@]}"} >&2
 }
 
 . "$DEV_ROOT/tools/lib/figures.sh"
 . "$DEV_ROOT/tools/lib/packages.sh"
+. "$DEV_ROOT/tools/lib/preconditions.sh"
+. "$DEV_ROOT/tools/lib/stages.sh"
 . "$DEV_ROOT/tools/lib/tests.sh"

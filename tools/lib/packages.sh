@@ -22,11 +22,20 @@ need_packages() {
     local -a wanted=() missing=()
     mapfile -t wanted < <(packages_of "$@")
     if ! command -v dpkg-query >/dev/null; then
-        echo "dev: not a Debian system; going on in the hope that these are installed: ${wanted[*]}" >&2
+        check_programs "${wanted[*]}"
         return
     fi
     mapfile -t missing < <(missing_packages "${wanted[@]}")
     [ ${#missing[@]} -eq 0 ] || install_packages "${missing[@]}"
+}
+
+# On another distribution: what cannot be installed from here has to be there.
+check_programs() {
+    local program
+    for program in cmake c++ ninja pkg-config; do
+        command -v "$program" >/dev/null \
+            || die "this is not Debian, and $program is missing; install what Debian calls $1"
+    done
 }
 
 install_packages() {
@@ -36,9 +45,9 @@ install_packages() {
             || die "these packages are missing and only root can install them: $*"
         as_root=(sudo)
     fi
-    echo "dev: installing $*" >&2
+    say "installing $*"
     "${as_root[@]}" apt-get update -q >&2 \
-        || echo "dev: the package lists could not be refreshed; trying with the old ones" >&2
+        || say "the package lists could not be refreshed; trying with the old ones"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -q -y --no-install-recommends "$@" >&2 \
         || die "these packages are missing and could not be installed: $*"
