@@ -41,6 +41,7 @@ ln -s "$source_dir/dev" "$scratch/link"
 refuses "unknown command 'frobnicate'" frobnicate
 refuses "unknown command 'frobnicate'" help frobnicate
 refuses "unknown option '--frobnicate'" gallery --frobnicate
+refuses "unknown user 'somebody'" fresh --as somebody
 refuses "unknown command '../lib/common'" ../lib/common
 refuses "unknown option '--frobnicate'" test --frobnicate
 refuses "unknown preset 'fast'" test --preset fast
