@@ -50,8 +50,8 @@ void setUpHeader(QHeaderView* header)
 /**
  * Lays out what a visible widget holds once it goes, and not before.
  *
- * While one view is shown and the other not hidden yet, the layout would give each half of the height,
- * and the tiles of all files would be arranged at that height, only to be arranged anew.
+ * While one view is shown and the other not hidden yet, the layout would give each half of the
+ * height, and the tiles of all files would be arranged at that height, only to be arranged anew.
  */
 class LayoutPause
 {
@@ -76,7 +76,7 @@ public:
     Q_DISABLE_COPY(LayoutPause)
 
 private:
-    /// Whether \a widget may be too low for both views: it grows then, or its window does, and stays so.
+    /// Whether \a widget may be too low for both views: it or its window grows then, and stays so.
     static bool growsForBoth(const QWidget& widget)
     {
         return widget.height() < 2 * widget.layout()->totalMinimumSize().height();

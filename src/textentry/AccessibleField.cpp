@@ -37,7 +37,8 @@ AccessibleField::~AccessibleField()
         QAccessible::deleteAccessibleInterface(m_plainId);
 }
 
-/// Lets Qt ask for a new interface of \a field, and keeps the present one, which deleting would not.
+/// Lets Qt ask for a new interface of \a field, and keeps the present one, which deleting it would
+/// not.
 void AccessibleField::releasePlainInterface(LineEdit* field)
 {
     auto* standIn = new AccessibleField;

@@ -3,6 +3,7 @@
 qt=${PLATFORM_QT:-5}
 suffix=
 [ "$qt" = 5 ] || suffix=$qt
+# shellcheck disable=SC2034 # the scripts that source this one use it
 package=platform_widgets$suffix
 
 # Prints the first C++ block of the README: the example that users copy.

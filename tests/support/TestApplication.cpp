@@ -18,7 +18,8 @@ QFont repeatableFont()
     font.setPixelSize(fontPixelSize);
     font.setHintingPreference(QFont::PreferNoHinting);
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    // Deprecated, but the only switch that keeps advances the same on every platform. Qt 6 has none.
+    // Deprecated, but the only switch that keeps advances the same on every platform. Qt 6 has
+    // none.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     font.setStyleStrategy(QFont::ForceIntegerMetrics);

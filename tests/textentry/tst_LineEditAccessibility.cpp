@@ -224,8 +224,8 @@ void tst_LineEditAccessibility::editIsObservedAlike_data()
     QTest::newRow("without") << false;
 }
 
-/// To the last event: the property, the polishing and the signal, and nothing between. What is announced
-/// comes before, so that nobody but who listens can tell.
+/// To the last event: the property, the polishing and the signal, and nothing between. What is
+/// announced comes before, so that nobody but who listens can tell.
 void tst_LineEditAccessibility::editIsObservedAlike()
 {
     QFETCH(bool, listening);

@@ -30,9 +30,9 @@ def is_test(candidate, module):
 def themes(folder, pattern=""):
     """The tests by theme, in the order in which they are written."""
     for path in sorted(Path(folder).glob("*.py")):
-        specification = importlib.util.spec_from_file_location(path.stem, path)
-        module = importlib.util.module_from_spec(specification)
-        specification.loader.exec_module(module)
+        module_spec = importlib.util.spec_from_file_location(path.stem, path)
+        module = importlib.util.module_from_spec(module_spec)
+        module_spec.loader.exec_module(module)
         name = path.stem.replace("_", " ")
         if pattern in name:
             yield name, [test for test in vars(module).values() if is_test(test, module)]
