@@ -8,7 +8,8 @@ PANELS = {"the gallery": GALLERY, "the settings example": "board-settings",
           "the same panel without the library": "board-plain-panel"}
 PAGES = ("overview", "frames", "grid-button", "switch", "text-entry", "battery", "scroll-indicator",
          "animation", "file-browser")
-REST = 10000 # milliseconds
+START = 8000 # milliseconds, after which nothing that only greets the user moves any more
+REST = 10000
 GALLERY_ROW = 44 # pixels, of its list of pages
 GALLERY_LIST = 52, 60 # where the list begins, and a column inside it
 
@@ -36,10 +37,7 @@ class Meter:
 
     def wake_ups(self, program, *arguments):
         self.board.start(program, *arguments)
-        self.board.do("frame", "wait 3000")
-        return self.wake_ups_from_now()
-
-    def wake_ups_from_now(self):
+        self.board.do("frame", f"wait {START}")
         before = Usage(self.board).wake_ups
         self.board.do(f"wait {REST}")
         return Usage(self.board).wake_ups - before
@@ -76,7 +74,7 @@ class Meter:
 
     def page_changes(self):
         self.board.start(GALLERY)
-        self.board.do("frame", "wait 3000")
+        self.board.do("frame", f"wait {START}")
         top, x = GALLERY_LIST
         for row, page in enumerate(PAGES[1:-2], 1):
             tap = tap_at(x, top + row * GALLERY_ROW + GALLERY_ROW // 2)
