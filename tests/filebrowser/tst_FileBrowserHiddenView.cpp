@@ -69,6 +69,8 @@ void showByItself(const BrowserParts& parts)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Use)
+
 /// The view that is not shown is as ready as the other, whoever shows it, and in whatever way.
 class tst_FileBrowserHiddenView : public QObject
 {
@@ -210,8 +212,6 @@ void tst_FileBrowserHiddenView::columnsFitInAnotherDirectory()
     QVERIFY(parts.listView->columnWidth(0)
             > parts.listView->fontMetrics().horizontalAdvance(longName));
 }
-
-Q_DECLARE_METATYPE(Use)
 
 const test::Registration<tst_FileBrowserHiddenView> registration;
 
