@@ -49,11 +49,13 @@ void moveFocus(WidgetModel& model, Values& values)
         model.widget()->setFocus(reason);
 }
 
-/// Milliseconds; so long that two presses are two clicks mostly.
-int nextTime(Values& values)
+constexpr int longInterval = 1000; // milliseconds; two presses are two clicks then
+
+/// Of the window system's clock, \a interval milliseconds after the last one.
+int nextTime(int interval)
 {
     static int time = 0;
-    return time += values.oneOf({1, 500, 1000});
+    return time += interval;
 }
 
 /// What the window system reports; Qt finds the receiver, pop-ups included.
@@ -61,10 +63,11 @@ void send(QWindow* window, const QPoint& position, QEvent::Type type, Qt::MouseB
           Values& values)
 {
     const bool pressed = type == QEvent::MouseButtonPress;
-    qt_handleMouseEvent(
-        window, position, window->mapToGlobal(position), pressed ? button : Qt::NoButton,
-        type == QEvent::MouseMove ? Qt::NoButton : button, type,
-        values.below(8) == 0 ? Qt::ControlModifier : Qt::NoModifier, nextTime(values));
+    qt_handleMouseEvent(window, position, window->mapToGlobal(position),
+                        pressed ? button : Qt::NoButton,
+                        type == QEvent::MouseMove ? Qt::NoButton : button, type,
+                        values.below(8) == 0 ? Qt::ControlModifier : Qt::NoModifier,
+                        nextTime(values.oneOf({1, 500, longInterval})));
 }
 
 struct Target
@@ -112,6 +115,22 @@ void turnWheel(QWidget& widget, Values& values)
 }
 
 } // namespace
+
+void tapTrembling(QWindow* window, const QPoint& position)
+{
+    const QPointer<QWindow> guard(window);
+    const QPoint tremor(2, 2); // pixels; below any distance that starts a drag
+    const auto report = [&](QEvent::Type type, const QPoint& place, Qt::MouseButtons pressed) {
+        if (guard)
+            qt_handleMouseEvent(guard, place, guard->mapToGlobal(place), pressed,
+                                type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, type,
+                                Qt::NoModifier, nextTime(longInterval));
+        processEvents();
+    };
+    report(QEvent::MouseButtonPress, position, Qt::LeftButton);
+    report(QEvent::MouseMove, position + tremor, Qt::LeftButton);
+    report(QEvent::MouseButtonRelease, position + tremor, Qt::NoButton);
+}
 
 void addKeyboard(WidgetModel& model)
 {

@@ -8,6 +8,10 @@
 
 #include <memory>
 
+QT_BEGIN_NAMESPACE
+class QWindow;
+QT_END_NAMESPACE
+
 namespace test {
 
 /// Two windows, one with a layout and one without, and neighbours in each that take the focus.
@@ -67,5 +71,8 @@ void addAppearance(WidgetModel& model); ///< Style sheets, palette, font, direct
 void addPointer(WidgetModel& model); ///< Mouse and wheel, inside and outside.
 void addKeyboard(WidgetModel& model); ///< Keys and focus.
 void addAllCommands(WidgetModel& model);
+
+/// Presses at \a position, moves by two pixels and releases; no double click with what came before.
+void tapTrembling(QWindow* window, const QPoint& position);
 
 } // namespace test

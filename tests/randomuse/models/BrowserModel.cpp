@@ -6,10 +6,12 @@
 #include <ui/FileBrowserWidget.h>
 #include <ui/FileSystemModel.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QHeaderView>
 #include <QListView>
 #include <QPushButton>
 #include <QSet>
@@ -20,6 +22,8 @@ using ui::FileBrowserWidget;
 namespace test {
 
 namespace {
+
+constexpr int qtPrecision = 1000; // rows that a header measures by default
 
 void setReadable(const QString& path, bool readable)
 {
@@ -130,10 +134,13 @@ private:
     void setFilters(Values& values);
     void setSelectionMode(Values& values);
     void select(Values& values);
+    void setPrecision(Values& values);
+    void tapDirectory(Values& values);
 
     ChangingTree m_tree;
     QString m_path;
     FileBrowserWidget::SelectionMode m_mode = FileBrowserWidget::SingleSelection;
+    int m_precision = qtPrecision; ///< Of the list view's header.
 };
 
 BrowserModel::BrowserModel(const std::shared_ptr<TestWindows>& windows)
@@ -149,6 +156,8 @@ BrowserModel::BrowserModel(const std::shared_ptr<TestWindows>& windows)
     add("setFilters", 2, [this](Values& v) { setFilters(v); });
     add("setSelectionMode", 2, [this](Values& v) { setSelectionMode(v); });
     add("select", 6, [this](Values& v) { select(v); });
+    add("tapDirectory", 4, [this](Values& v) { tapDirectory(v); });
+    add("setPrecision", 1, [this](Values& v) { setPrecision(v); });
     add("chooseRoot", 2, [this](Values& v) {
         const BrowserParts parts(browser());
         parts.combo->setCurrentIndex(v.below(parts.combo->count() + 1) - 1);
@@ -178,6 +187,7 @@ QWidget* BrowserModel::create()
     const BrowserParts parts(*created);
     m_path = created->currentPath();
     m_mode = FileBrowserWidget::SingleSelection;
+    m_precision = qtPrecision;
     QObject::connect(parts.model, &QFileSystemModel::rootPathChanged, created,
                      [this](const QString& path) { m_path = path; });
     return created;
@@ -247,11 +257,42 @@ void BrowserModel::select(Values& values)
         compare("opened directory", browser().currentPath(), path);
 }
 
+void BrowserModel::setPrecision(Values& values)
+{
+    m_precision = values.oneOf({-1, 0, 1, qtPrecision});
+    BrowserParts(browser()).listView->header()->setResizeContentsPrecision(m_precision);
+}
+
+/// Opens one directory, however the pointer trembles, where the tap reaches one.
+void BrowserModel::tapDirectory(Values& values)
+{
+    processEvents(); // a menu that is open still gets what is meant for it
+    const BrowserParts parts(browser());
+    QListView* view = parts.tileView;
+    const int rows = view->model()->rowCount(view->rootIndex());
+    if (rows == 0 || m_mode == FileBrowserWidget::NoSelection || QApplication::activePopupWidget())
+        return;
+    const QModelIndex index = view->model()->index(values.below(rows), 0, view->rootIndex());
+    const QString path = parts.model->filePath(index);
+    view->scrollTo(index);
+    const QPoint place = view->visualRect(index).center();
+    QWidget* window = browser().window();
+    const QPoint placeInWindow = view->viewport()->mapTo(window, place);
+    if (!parts.model->isDir(index) || !QDir(path).exists() || view->indexAt(place) != index
+        || !view->viewport()->isEnabled() || !view->isVisible()
+        || window->childAt(placeInWindow) != view->viewport())
+        return;
+    view->clearSelection();
+    tapTrembling(window->windowHandle(), placeInWindow);
+    compare("directory opened by a tap", browser().currentPath(), path);
+}
+
 void BrowserModel::checkState()
 {
     compare("current path", browser().currentPath(), m_path);
     compare("selection mode", browser().selectionMode(), m_mode);
     const BrowserParts parts(browser());
+    compare("header's precision", parts.listView->header()->resizeContentsPrecision(), m_precision);
     compare("views", parts.tileView->rootIndex(), parts.listView->rootIndex());
     const QStringList selected = browser().selectedFiles();
     expect(!selected.contains(QString()), "what is selected has a path");

@@ -72,6 +72,18 @@ QStringList ExpectedCrumbs::directories() const
     return result;
 }
 
+/// Without those by which Qt remembers what a style sheet has changed.
+QList<QByteArray> ownProperties(const QObject& object)
+{
+    QList<QByteArray> result;
+    const auto names = object.dynamicPropertyNames();
+    for (const QByteArray& name : names) {
+        if (!name.startsWith("_q_"))
+            result.append(name);
+    }
+    return result;
+}
+
 /// The crumbs that a bar shows, and the directories that they and its menu report.
 class CrumbsModel : public WidgetModel
 {
@@ -91,6 +103,7 @@ private:
     void setAbsurdPath(Values& values);
     void pressCrumb(Values& values);
     void follow(const QString& path);
+    void checkProperties();
 
     ExpectedCrumbs m_expected;
     bool m_known = true; ///< Whether the model knows what an absurd path has left.
@@ -163,6 +176,7 @@ void CrumbsModel::pressCrumb(Values& values)
 
 void CrumbsModel::follow(const QString& path)
 {
+    checkProperties(); // while a press is being reported
     if (m_known)
         expect(m_expected.directories().contains(path),
                QStringLiteral("no crumb leads to ") + path);
@@ -175,8 +189,17 @@ void CrumbsModel::follow(const QString& path)
     bar().changeDir(path);
 }
 
+/// Of all crumbs, those that are about to be deleted included.
+void CrumbsModel::checkProperties()
+{
+    const auto labels = bar().findChildren<ClickableLabel*>();
+    for (const ClickableLabel* label : labels)
+        compare("properties of a crumb", ownProperties(*label), QList<QByteArray>{"directory"});
+}
+
 void CrumbsModel::checkState()
 {
+    checkProperties();
     // A closed menu is there until events are processed, with the paths of its time.
     if (moreButton(bar())->menu())
         processEvents();
