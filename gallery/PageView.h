@@ -19,8 +19,8 @@ public:
 
     GalleryPage* page() const;
 
-    /// That of a picture of the page: as wide as in a window of 800 x 480 without a tool, and as high as
-    /// the page wants to be.
+    /// That of a picture of the page: as wide as in a window of 800 x 480 without a tool, and as
+    /// high as the page wants to be.
     QSize pictureSize() const;
 
 private:
