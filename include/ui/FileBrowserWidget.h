@@ -41,8 +41,8 @@ class FileSystemModel;
  *   the second half of a double tap, the tile view selects nothing.
  * - An opened directory stays selected in the tile view until something else is. In single
  *   selection it cannot be opened again before that: a user who has come back up to a directory
- *   with this one entry finds nothing else to tap. Clear the selection of the tile view in a slot of
- *   BreadCrumbsWidget::dirChanged() where that can happen.
+ *   with this one entry finds nothing else to tap. Clear the selection of the tile view in a slot
+ *   of BreadCrumbsWidget::dirChanged() where that can happen.
  * - The list view opens no directories. A directory tapped there is selected like a file, and is
  *   among selectedFiles().
  * - In multiple selection directories are deselected as soon as something is selected besides them.
