@@ -85,21 +85,21 @@ private Q_SLOTS:
         test::dropOffscreenMessages();
     }
 
-    void verdict_data();
+    void result_data();
     void result();
     void validatorGetsACopyAndPositionZero();
     void withoutValidator();
     void everyEditIsValidated();
     void cancelValidatesTheRestoredText();
     void setTextIsNotValidated();
-    void verdictOutlivesTheFocus();
+    void resultOutlivesTheFocus();
     void deletedValidator();
     void polishesWithTheNewVerdict();
     void styleSheetFollows_data();
     void styleSheetFollows();
 };
 
-void tst_LineEditValidation::verdict_data()
+void tst_LineEditValidation::result_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("valid");
@@ -194,7 +194,7 @@ void tst_LineEditValidation::setTextIsNotValidated()
     QCOMPARE(log.take(), QStringList());
 }
 
-void tst_LineEditValidation::verdictOutlivesTheFocus()
+void tst_LineEditValidation::resultOutlivesTheFocus()
 {
     EditForm<ui::LineEdit> form;
     QVERIFY(form.showActive());
