@@ -243,6 +243,7 @@ void tst_NestedSelectionRuns::matchPlainRecursion_data()
     QTest::newRow("one file") << QVector<Ranges>{{{14, 14}}};
     QTest::newRow("files") << QVector<Ranges>{{{12, 19}}};
     QTest::newRow("a directory and a file") << QVector<Ranges>{{{11, 12}}};
+    QTest::newRow("two directories and a file") << QVector<Ranges>{{{10, 12}}};
     QTest::newRow("two files and a directory") << QVector<Ranges>{{{14, 14}, {5, 5}, {13, 13}}};
     QTest::newRow("all") << QVector<Ranges>{{{0, 19}}};
     QTest::newRow("files, then a directory") << QVector<Ranges>{{{13, 15}}, {{2, 2}}};
