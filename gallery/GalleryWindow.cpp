@@ -70,6 +70,12 @@ GalleryWindow::GalleryWindow(const QVector<PageEntry>& pages, const QString& sty
     m_list->setCurrentRow(0);
 }
 
+GalleryWindow::~GalleryWindow()
+{
+    // QWidget hides the children of a visible window once this object is only a QWidget any more.
+    m_properties->disconnect(this);
+}
+
 GalleryPage* GalleryWindow::page() const
 {
     return m_page;

@@ -38,6 +38,7 @@ public:
     /// the switch stands for the example style sheet, and is off.
     explicit GalleryWindow(const QVector<PageEntry>& pages, const QString& styleSheet = QString(),
                            QWidget* parent = nullptr);
+    ~GalleryWindow() override;
 
     /// The page that is shown; null if there is none.
     GalleryPage* page() const;

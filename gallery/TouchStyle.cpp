@@ -55,6 +55,9 @@ TouchStyle::TouchStyle()
 
 void TouchStyle::install()
 {
+    // Qt deletes a style that it replaces only if the application owns it, which it does not where
+    // the style was set before there was an application.
+    QApplication::style()->setParent(qApp);
     QApplication::setStyle(new TouchStyle); // which takes it over
 }
 
