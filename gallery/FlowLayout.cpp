@@ -49,7 +49,7 @@ int FlowLayout::heightForWidth(int width) const
     const QMargins margins = contentsMargins();
     QRect used;
     for (const QRect& rect : arranged(QRect(0, 0, width, 0).marginsRemoved(margins)))
-        used |= rect;
+        used |= rect; // cppcheck-suppress useStlAlgorithm ; longer with it
     return used.isNull() ? 0 : used.height() + margins.top() + margins.bottom();
 }
 

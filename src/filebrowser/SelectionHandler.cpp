@@ -59,6 +59,7 @@ void SelectionHandler::open(const QString& path)
 {
     if (path.isEmpty())
         return;
+    // cppcheck-suppress nullPointerRedundantCheck ; there is a model until a slot deletes it below
     const QString before = m_model->rootPath();
     m_openDirectory(path);
     if (m_model && m_model->rootPath() != before)

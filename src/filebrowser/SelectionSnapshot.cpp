@@ -74,7 +74,7 @@ quint64 SelectionSnapshot::columnsOf(const QModelIndex& parent, int row) const
     quint64 columns = 0;
     for (const Range& range : m_ranges) {
         if (range.top <= row && row <= range.bottom && range.parent == parent)
-            columns |= range.columns;
+            columns |= range.columns; // cppcheck-suppress useStlAlgorithm ; longer with it
     }
     return columns;
 }

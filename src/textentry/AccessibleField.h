@@ -18,6 +18,7 @@ class AccessibleField : public QAccessibleInterface
 public:
     /// To be called while Qt's interface, and not this one, answers for \a field.
     explicit AccessibleField(LineEdit* field);
+    ~AccessibleField() override;
 
     QString text(QAccessible::Text kind) const override;
 
@@ -40,9 +41,6 @@ public:
     QColor backgroundColor() const override;
     void virtual_hook(int id, void* data) override;
     void* interface_cast(QAccessible::InterfaceType type) override;
-
-protected:
-    ~AccessibleField() override;
 
 private:
     /// Stands in Qt's cache of interfaces for a field that it is told of after it was put there.
