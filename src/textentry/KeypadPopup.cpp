@@ -62,7 +62,7 @@ QSize desktopSize()
     QRect desktop;
     const QList<QScreen*> screens = QGuiApplication::screens();
     for (const QScreen* screen : screens)
-        desktop |= screen->geometry();
+        desktop |= screen->geometry(); // cppcheck-suppress useStlAlgorithm ; longer with it
     return desktop.size();
 #endif
 }
