@@ -87,15 +87,15 @@ QVector<Rule> rulesOf(const QString& styleSheet)
     const QString text = withoutComments(styleSheet);
     QVector<Rule> rules;
     int start = 0;
-    while (!text.midRef(start).trimmed().isEmpty()) {
+    while (!text.mid(start).trimmed().isEmpty()) {
         while (text.at(start).isSpace())
             ++start;
-        const int found = text.indexOf(QLatin1Char('}'), start);
-        const int end = found < 0 ? text.size() : found + 1;
+        const int found = int(text.indexOf(QLatin1Char('}'), start));
+        const int end = found < 0 ? int(text.size()) : found + 1;
         const QString rule = text.mid(start, end - start);
-        const int brace = qMax(0, rule.indexOf(QLatin1Char('{')));
-        rules.append(
-            {rule.left(brace), rule.mid(brace), text.leftRef(start).count(QLatin1Char('\n')) + 1});
+        const int brace = qMax(0, int(rule.indexOf(QLatin1Char('{'))));
+        const int linesBefore = int(text.left(start).count(QLatin1Char('\n')));
+        rules.append({rule.left(brace), rule.mid(brace), linesBefore + 1});
         start = end;
     }
     return rules;

@@ -23,12 +23,21 @@ bool install(const QLocale& locale, const QString& name, const QString& director
         && QCoreApplication::installTranslator(translator.release());
 }
 
+/// Where Qt's own translations are; Qt 6 has another name for the function.
+QString translationsOfQt()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+}
+
 } // namespace
 
 void installTranslations(const QLocale& locale)
 {
     registerResources();
     if (install(locale, QStringLiteral("gallery"), QStringLiteral(":/translations")))
-        install(locale, QStringLiteral("qtbase"),
-                QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+        install(locale, QStringLiteral("qtbase"), translationsOfQt());
 }

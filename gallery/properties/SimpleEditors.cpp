@@ -157,8 +157,8 @@ QVariant IntEditor::valueOf(const QString& text) const
 QVariant IntEditor::stepped(int steps) const
 {
     const qint64 wanted = qint64(value().toInt()) + steps;
-    return int(
-        qBound<qint64>(std::numeric_limits<int>::min(), wanted, std::numeric_limits<int>::max()));
+    using Limits = std::numeric_limits<int>;
+    return int(qBound(qint64(Limits::min()), wanted, qint64(Limits::max())));
 }
 
 DoubleEditor::DoubleEditor(QWidget* parent)

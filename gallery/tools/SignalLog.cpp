@@ -30,7 +30,11 @@ QString argumentText(int type, const void* data)
 {
     if (type == QMetaType::QString)
         return QLatin1Char('"') + *static_cast<const QString*>(data) + QLatin1Char('"');
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     return valueText(QVariant(type, data));
+#else
+    return valueText(QVariant(QMetaType(type), data)); // a number alone is no type any more
+#endif
 }
 
 } // namespace

@@ -67,6 +67,16 @@ QSize desktopSize()
 #endif
 }
 
+/// In the coordinates of the widget that gets \a event; Qt 6 has another name for it.
+QPointF positionOf(const QMouseEvent& event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.localPos();
+#else
+    return event.position();
+#endif
+}
+
 bool isPassedToTarget(QEvent::Type type)
 {
     return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease
@@ -258,7 +268,7 @@ bool KeypadPopup::passToTarget(const QMouseEvent& event)
 {
     if (!target)
         return false;
-    const QPoint globalPosition = mapToGlobal(event.localPos().toPoint());
+    const QPoint globalPosition = mapToGlobal(positionOf(event).toPoint());
     QWidget* receiver = QApplication::widgetAt(globalPosition);
     // The pop-up, being a window of its own, is no descendant in the sense of isAncestorOf().
     if (!receiver || (receiver != target && !target->isAncestorOf(receiver)))

@@ -3,18 +3,23 @@
 #
 # usage: ./dev build [PRESET]
 #
-#   PRESET  dev (the default), release, asan or coverage; built in build/PRESET
+#   PRESET  dev (the default), release, asan or coverage; built in build/PRESET. Or qt6: the library,
+#           the stand-ins and the gallery with Qt 6
 
 preset=dev
 case "${1:-}" in
     -*) unknown_option build "$1" ;;
-    dev | release | asan | coverage) preset=$1 ;;
+    dev | release | asan | coverage | qt6) preset=$1 ;;
     "") ;;
     *) die "build: unknown preset '$1'" ;;
 esac
 [ $# -le 1 ] || die "build: too many arguments"
 
 lists=(build)
-[ "$preset" = release ] || lists+=(test)
+case "$preset" in
+    release) ;;
+    qt6) lists+=(qt6) ;;
+    *) lists+=(test) ;;
+esac
 need_packages "${lists[@]}"
 build "$preset"
