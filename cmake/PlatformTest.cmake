@@ -89,7 +89,7 @@ set(PLATFORM_TEST_ENVIRONMENT
     "QT_FONT_DPI=96"
     "QT_XCB_GL_INTEGRATION=none" # no widget needs OpenGL, whose software driver leaks
     "LC_ALL=C.UTF-8"
-    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+    "LSAN_OPTIONS=suppressions='${PROJECT_SOURCE_DIR}/tests/support/lsan.supp':print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
 
 set(default_timeout 300)

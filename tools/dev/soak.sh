@@ -38,7 +38,7 @@ need_packages build test
 build "$preset" soak tst_LongLife
 programs=build/$preset/tests
 export QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=C.UTF-8
-export LSAN_OPTIONS=suppressions=$DEV_ROOT/tests/support/lsan.supp:print_suppressions=0
+export LSAN_OPTIONS="suppressions='$DEV_ROOT/tests/support/lsan.supp':print_suppressions=0"
 
 [ -z "$widget" ] || [ -z "$accept" ] || die "soak: --accept is for all widgets, not for one"
 log=$programs/soak.log
