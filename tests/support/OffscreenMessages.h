@@ -3,8 +3,9 @@
 namespace test {
 
 /**
- * Drops the warnings in which Qt's offscreen plugin says that it cannot raise a window, grab the
- * keyboard and the like, which no test means. Call it in initTestCase().
+ * Drops the warnings of Qt's platform plugins that no test means: those in which the offscreen one
+ * says that it cannot raise a window, grab the keyboard and the like, and on X11 one that comes of
+ * a race with the window manager. Call it in initTestCase().
  */
 void dropOffscreenMessages();
 
