@@ -6,9 +6,11 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QPointer>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -18,6 +20,23 @@ namespace keyboard {
 namespace {
 
 constexpr int keySpacing = 3;
+
+/// About 9 mm at 133 dpi.
+constexpr int fullKeyWidth = 48;
+
+/// Of the longest row, that of a text keypad.
+constexpr int keysInRow = 10;
+
+/// What a pop-up's frame around the keypad and its distance from the edge take of the screen.
+constexpr int widthAround = 26;
+
+/// Less than the full width where the longest row would be wider than the screen.
+int keyWidth()
+{
+    const int room = QGuiApplication::primaryScreen()->size().width() - widthAround
+        - (keysInRow - 1) * keySpacing;
+    return qBound(1, room / keysInRow, fullKeyWidth);
+}
 
 } // namespace
 
@@ -40,7 +59,7 @@ Keypad::Keypad(KeyboardType type, const QVector<KeyDescription>& keys, QWidget* 
 
 void Keypad::addKey(const KeyDescription& description)
 {
-    auto* key = new KeypadKey(description, this);
+    auto* key = new KeypadKey(description, keyWidth(), this);
     const QRect cells = description.cells;
     static_cast<QGridLayout*>(layout())->addWidget(key, cells.y(), cells.x(), cells.height(),
                                                    cells.width());

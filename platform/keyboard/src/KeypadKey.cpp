@@ -5,9 +5,9 @@ namespace keyboard {
 
 namespace {
 
-/// About 9 x 8 mm at the 133 dpi of a 7 inch screen of 800 x 480 pixels, where four rows of keys
-/// fit below or above a field at any height.
-constexpr QSize keySize(48, 42);
+/// About 8 mm at the 133 dpi of a 7 inch screen of 800 x 480 pixels, where four rows of keys fit
+/// below or above a field at any height.
+constexpr int leastHeight = 42;
 constexpr int labelMargin = 6;
 
 // Slower to start than Qt's default: a finger rests longer on a key than a mouse button.
@@ -16,8 +16,9 @@ constexpr int repeatInterval = 100;
 
 } // namespace
 
-KeypadKey::KeypadKey(const KeyDescription& description, QWidget* parent)
+KeypadKey::KeypadKey(const KeyDescription& description, int leastWidth, QWidget* parent)
     : QPushButton(parent)
+    , m_leastWidth(leastWidth)
 {
     setFocusPolicy(Qt::NoFocus); // the focus belongs to the field
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -60,7 +61,8 @@ QString KeypadKey::typedText() const
 QSize KeypadKey::sizeHint() const
 {
     const QSize label = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return keySize.expandedTo(label + QSize(2 * labelMargin, 2 * labelMargin));
+    return QSize(m_leastWidth, leastHeight)
+        .expandedTo(label + QSize(2 * labelMargin, 2 * labelMargin));
 }
 
 QSize KeypadKey::minimumSizeHint() const

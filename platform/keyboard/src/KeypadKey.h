@@ -13,7 +13,8 @@ class KeypadKey : public QPushButton
     Q_OBJECT
 
 public:
-    explicit KeypadKey(const KeyDescription& description, QWidget* parent = nullptr);
+    /// A key at least \a leastWidth pixels wide.
+    KeypadKey(const KeyDescription& description, int leastWidth, QWidget* parent = nullptr);
 
     const KeyDescription& description() const;
 
@@ -37,6 +38,7 @@ private:
     bool isLetter() const;
 
     KeyDescription m_description;
+    const int m_leastWidth;
     bool m_shifted = false;
 };
 
