@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QPropertyAnimation>
 #include <QPushButton>
+#include <QTimer>
 
 namespace {
 
@@ -18,6 +19,7 @@ constexpr int margin = 16;
 constexpr int spacing = 12;
 constexpr int pulseDuration = 900;
 constexpr int sweepDuration = 2500;
+constexpr int greetingTime = 6000; // milliseconds; then the page is at rest
 
 QPropertyAnimation* makeAnimation(QWidget* target, const QByteArray& property, int duration)
 {
@@ -39,6 +41,7 @@ public:
 private:
     QLayout* makePulse();
     QLayout* makeSweep();
+    static void greet(QVariantAnimation* animation, const QPushButton* button);
     static QPushButton* makeSwitch(QVariantAnimation* animation);
     static QLabel* makeState(QVariantAnimation* animation);
     static QString stateText(const QVariantAnimation& animation);
@@ -66,13 +69,14 @@ QLayout* AnimationPage::makePulse()
     pulse->setStartValue(1.0);
     pulse->setEndValue(0.0);
     addSource(pulse, tr("Pulse"));
-    pulse->start();
+    QPushButton* button = makeSwitch(pulse);
+    greet(pulse, button);
 
     auto* controls = new QVBoxLayout;
     controls->setSpacing(spacing);
     controls->addStretch();
     controls->addWidget(makeState(pulse));
-    controls->addWidget(makeSwitch(pulse));
+    controls->addWidget(button);
     controls->addStretch();
 
     auto* row = new QHBoxLayout;
@@ -92,14 +96,26 @@ QLayout* AnimationPage::makeSweep()
     sweep->setStartValue(bar->minimum());
     sweep->setEndValue(bar->maximum());
     addSource(sweep, tr("Sweep"));
-    sweep->start();
+    QPushButton* button = makeSwitch(sweep);
+    greet(sweep, button);
 
     auto* column = new QVBoxLayout;
     column->setSpacing(spacing);
     column->addWidget(bar);
     column->addWidget(makeState(sweep));
-    column->addWidget(makeSwitch(sweep));
+    column->addWidget(button);
     return column;
+}
+
+/// Runs it for a moment, and from then on as long as the user wants.
+void AnimationPage::greet(QVariantAnimation* animation, const QPushButton* button)
+{
+    auto* end = new QTimer(animation);
+    end->setSingleShot(true);
+    connect(end, &QTimer::timeout, animation, &QAbstractAnimation::stop);
+    connect(button, &QPushButton::clicked, end, &QTimer::stop);
+    end->start(greetingTime);
+    animation->start();
 }
 
 QPushButton* AnimationPage::makeSwitch(QVariantAnimation* animation)

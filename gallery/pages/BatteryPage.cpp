@@ -1,5 +1,6 @@
 #include "GalleryPage.h"
 #include "Pages.h"
+#include "PowerSupplyEvents.h"
 #include "properties/HiddenValues.h"
 #include "SystemBattery.h"
 #include "Touch.h"
@@ -7,11 +8,9 @@
 #include <Switch.h>
 #include <ui/CBatteryStatusWidget.h>
 
-#include <QBasicTimer>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QSlider>
-#include <QTimerEvent>
 #include <QVBoxLayout>
 
 using ui::CBatteryStatusWidget;
@@ -24,8 +23,6 @@ constexpr QSize largeSize(76, 128);
 constexpr int columnWidth = 52;
 constexpr int captionPixelSize = 12;
 constexpr int usualPercent = 60;
-/// Often enough to see the plug pulled, in milliseconds.
-constexpr int readingInterval = 2000;
 
 QLabel* makeCaption(const QString& text)
 {
@@ -43,13 +40,11 @@ class BatteryPage : public GalleryPage
     Q_DECLARE_TR_FUNCTIONS(BatteryPage)
 
 public:
-    /// Shows \a systemBattery among the others, and follows it while the page is visible.
+    /// Shows \a systemBattery among the others, and follows what the kernel reports about it.
     BatteryPage(QWidget* parent, const SystemBattery& systemBattery);
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
 
 private:
     ui::CBatteryStatusWidget* addBattery(QBoxLayout* row, const QString& name, int percent);
@@ -62,7 +57,6 @@ private:
 
     SystemBattery m_systemBattery;
     ui::CBatteryStatusWidget* m_systemWidget = nullptr;
-    QBasicTimer m_timer;
 };
 
 BatteryPage::BatteryPage(QWidget* parent, const SystemBattery& systemBattery)
@@ -77,6 +71,10 @@ BatteryPage::BatteryPage(QWidget* parent, const SystemBattery& systemBattery)
         (this->*fill)(row);
     }
     rows->addStretch();
+
+    // Asking now and then would wake a device that is at rest.
+    connect(new PowerSupplyEvents(this), &PowerSupplyEvents::changed, this,
+            &BatteryPage::readSystemBattery);
 }
 
 CBatteryStatusWidget* BatteryPage::addBattery(QBoxLayout* row, const QString& name, int percent)
@@ -174,21 +172,6 @@ void BatteryPage::showEvent(QShowEvent* event)
 {
     GalleryPage::showEvent(event);
     readSystemBattery();
-    m_timer.start(readingInterval, this);
-}
-
-void BatteryPage::hideEvent(QHideEvent* event)
-{
-    m_timer.stop();
-    GalleryPage::hideEvent(event);
-}
-
-void BatteryPage::timerEvent(QTimerEvent* event)
-{
-    if (event->timerId() == m_timer.timerId())
-        readSystemBattery();
-    else
-        GalleryPage::timerEvent(event);
 }
 
 void BatteryPage::readSystemBattery()

@@ -45,7 +45,7 @@ GalleryPage* makeSwitchPage(QWidget* parent);
 GalleryPage* makeTextEntryPage(QWidget* parent);
 
 /// ui::CBatteryStatusWidget in its states, frames and sizes, one to play with, and one that shows
-/// \a systemBattery while the page is visible.
+/// \a systemBattery, read when the page is shown and when the kernel reports a change.
 GalleryPage* makeBatteryPage(QWidget* parent, const SystemBattery& systemBattery = SystemBattery());
 
 /// BreadCrumbsWidget, and ClickableLabel by itself.
@@ -57,7 +57,8 @@ GalleryPage* makeOwnControlsPage(QWidget* parent);
 /// ui::widgets::ScrollIndicatorBar on areas that are dragged by touch, highlighted while they move.
 GalleryPage* makeScrollIndicatorPage(QWidget* parent);
 
-/// Animations that ui::CAnimationFwdRevLoop drives back and forth.
+/// Animations that ui::CAnimationFwdRevLoop drives back and forth, first for some seconds, then on
+/// request.
 GalleryPage* makeAnimationPage(QWidget* parent);
 
 /// ui::FileBrowserWidget on the real file system, in \a directories.

@@ -6,6 +6,7 @@
 
 #include <QPropertyAnimation>
 #include <QPushButton>
+#include <QTimer>
 
 #include <memory>
 
@@ -16,6 +17,8 @@ class tst_AnimationPage : public QObject
 private Q_SLOTS:
     void pulsesBackAndForth();
     void stopsAndStarts();
+    void restsAfterGreeting();
+    void runsOnOnceStarted();
 };
 
 void tst_AnimationPage::pulsesBackAndForth()
@@ -46,6 +49,34 @@ void tst_AnimationPage::stopsAndStarts()
     button->click();
     QCOMPARE(pulse->state(), QAbstractAnimation::Running);
     QCOMPARE(button->text(), QStringLiteral("Stop"));
+}
+
+void tst_AnimationPage::restsAfterGreeting()
+{
+    const std::unique_ptr<GalleryPage> page(makeAnimationPage(nullptr));
+    const auto animations = page->findChildren<QPropertyAnimation*>();
+    QCOMPARE(animations.size(), 2);
+    for (const auto* animation : animations) {
+        auto* greeting = animation->findChild<QTimer*>();
+        QVERIFY(greeting->isActive() && greeting->isSingleShot());
+        greeting->setInterval(0);
+        QTRY_COMPARE(animation->state(), QAbstractAnimation::Stopped);
+    }
+    for (const auto* button : page->findChildren<QPushButton*>())
+        QCOMPARE(button->text(), QStringLiteral("Start"));
+}
+
+void tst_AnimationPage::runsOnOnceStarted()
+{
+    const std::unique_ptr<GalleryPage> page(makeAnimationPage(nullptr));
+    const auto* pulse = page->findChild<Beacon*>()->findChild<QPropertyAnimation*>();
+    const auto* greeting = pulse->findChild<QTimer*>();
+    auto* button = page->findChild<QPushButton*>();
+    button->click();
+    QVERIFY(!greeting->isActive());
+    button->click();
+    QVERIFY(!greeting->isActive());
+    QCOMPARE(pulse->state(), QAbstractAnimation::Running);
 }
 
 const test::Registration<tst_AnimationPage> registration;

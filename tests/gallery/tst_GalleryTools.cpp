@@ -19,6 +19,7 @@
 #include <ui/CBatteryStatusWidget.h>
 #include <ui/KeypadLineEdit.h>
 
+#include <QAbstractAnimation>
 #include <QAbstractEventDispatcher>
 #include <QComboBox>
 #include <QLabel>
@@ -28,6 +29,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -90,6 +93,14 @@ void tap(QWidget* widget)
     QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {}, position);
 }
 
+int timersOf(const QWidget& window)
+{
+    int count = 0;
+    for (QObject* object : window.findChildren<QObject*>())
+        count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+    return count;
+}
+
 QImage imageOf(QWidget* widget)
 {
     return widget->grab().toImage();
@@ -129,6 +140,8 @@ private Q_SLOTS:
     void keepsWhatIsTyped();
     void marksTarget();
     void restsWithoutTimers();
+    void everyPageRests_data();
+    void everyPageRests();
     void styleSheetTakesEffectWhileWritten();
     void styleSheetErrors_data();
     void styleSheetErrors();
@@ -539,16 +552,31 @@ void tst_GalleryTools::marksTarget()
 void tst_GalleryTools::restsWithoutTimers()
 {
     Gallery gallery("switch");
-    const auto timers = [&gallery] {
-        int count = 0;
-        for (QObject* object : gallery.window.findChildren<QObject*>())
-            count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
-        return count;
-    };
+    const auto timers = [&gallery] { return timersOf(gallery.window); };
     QTRY_COMPARE(timers(), 0);
     gallery.demo("Plain, off")->update();
     QTRY_VERIFY(timers() > 0); // the editor looks, once
     QTRY_COMPARE(timers(), 0);
+}
+
+void tst_GalleryTools::everyPageRests_data()
+{
+    addPages();
+}
+
+void tst_GalleryTools::everyPageRests()
+{
+    QFETCH(QString, id);
+    constexpr int longestGreeting = 8000; // milliseconds
+    Gallery gallery(qPrintable(id));
+    const auto rests = [&gallery] {
+        const auto animations = gallery.window.findChildren<QAbstractAnimation*>();
+        return timersOf(gallery.window) == 0
+            && std::none_of(animations.begin(), animations.end(), [](const auto* animation) {
+                   return animation->state() == QAbstractAnimation::Running;
+               });
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(rests(), longestGreeting);
 }
 
 void tst_GalleryTools::styleSheetTakesEffectWhileWritten()
