@@ -1,54 +1,28 @@
 #include "AccessibleLink.h"
 
+#include "../frame/AccessibleReadOnly.h"
 #include "ClickableLabel.h"
 
 namespace ui {
 
-AccessibleLink::AccessibleLink(ClickableLabel* label)
-    : QAccessibleWidget(label, QAccessible::Link)
+namespace {
+
+/// The label's text as it is painted.
+QString linkText(const QWidget& label, QAccessible::Text kind)
 {
+    return kind == QAccessible::Name ? static_cast<const ClickableLabel&>(label).text() : QString();
 }
 
-QAccessible::State AccessibleLink::state() const
+void click(QWidget& label)
 {
-    QAccessible::State state = QAccessibleWidget::state();
-    state.readOnly = true;
-    return state;
+    Q_EMIT static_cast<ClickableLabel&>(label).clicked();
 }
 
-/// The label's text as it is painted, unless the application gave it another name.
-QString AccessibleLink::text(QAccessible::Text kind) const
-{
-    const QString given = QAccessibleWidget::text(kind);
-    return kind == QAccessible::Name && given.isEmpty() ? label()->text() : given;
-}
+} // namespace
 
-QVector<QPair<QAccessibleInterface*, QAccessible::Relation>>
-AccessibleLink::relations(QAccessible::Relation match) const
+QAccessibleInterface* makeAccessibleLink(ClickableLabel* label)
 {
-    auto relations = QAccessibleWidget::relations(match);
-    QAccessibleInterface* buddy = QAccessible::queryAccessibleInterface(label()->buddy());
-    if (buddy && match.testFlag(QAccessible::Labelled))
-        relations.append({buddy, QAccessible::Labelled});
-    return relations;
-}
-
-QStringList AccessibleLink::actionNames() const
-{
-    return QStringList(pressAction()) + QAccessibleWidget::actionNames();
-}
-
-void AccessibleLink::doAction(const QString& actionName)
-{
-    if (actionName != pressAction())
-        QAccessibleWidget::doAction(actionName);
-    else if (widget()->isEnabled())
-        Q_EMIT label()->clicked(); // may delete the label, and this with it
-}
-
-ClickableLabel* AccessibleLink::label() const
-{
-    return static_cast<ClickableLabel*>(widget());
+    return new AccessibleReadOnly(label, {QAccessible::Link, linkText, nullptr, click});
 }
 
 } // namespace ui

@@ -8,7 +8,7 @@
 ClickableLabel::ClickableLabel(QWidget* parent)
     : QLabel(parent)
 {
-    ui::registerAccessible<ClickableLabel, ui::AccessibleLink>();
+    ui::registerAccessible<ClickableLabel, ui::makeAccessibleLink>();
 }
 
 ClickableLabel::~ClickableLabel() = default;

@@ -1,86 +1,43 @@
 #include "AccessibleBattery.h"
 
+#include "../frame/AccessibleReadOnly.h"
 #include "BatteryFlags.h"
-
-#include <QCoreApplication>
 
 namespace ui {
 
-CBatteryStatusWidget::AccessibleBattery::AccessibleBattery(CBatteryStatusWidget* battery)
-    : QAccessibleWidget(battery, QAccessible::ProgressBar)
+QAccessibleInterface* CBatteryStatusWidget::AccessibleBattery::make(CBatteryStatusWidget* battery)
 {
+    return new AccessibleReadOnly(battery, {QAccessible::ProgressBar, text, charge, nullptr});
 }
 
-void* CBatteryStatusWidget::AccessibleBattery::interface_cast(QAccessible::InterfaceType type)
+/// In percent.
+int CBatteryStatusWidget::AccessibleBattery::charge(const QWidget& battery)
 {
-    if (type == QAccessible::ValueInterface)
-        return static_cast<QAccessibleValueInterface*>(this);
-    return QAccessibleWidget::interface_cast(type);
+    return qRound(static_cast<const CBatteryStatusWidget&>(battery).m_charge * 100);
 }
 
-QAccessible::State CBatteryStatusWidget::AccessibleBattery::state() const
+QString CBatteryStatusWidget::AccessibleBattery::text(const QWidget& battery,
+                                                      QAccessible::Text kind)
 {
-    QAccessible::State state = QAccessibleWidget::state();
-    state.readOnly = true;
-    return state;
-}
-
-/// What the application says of the battery comes first.
-QString CBatteryStatusWidget::AccessibleBattery::text(QAccessible::Text kind) const
-{
-    QString given = QAccessibleWidget::text(kind);
-    if (!given.isEmpty())
-        return given;
     switch (kind) {
     case QAccessible::Name:
-        return QCoreApplication::translate("ui::CBatteryStatusWidget", "Battery");
+        return tr("Battery");
     case QAccessible::Description:
-        return condition();
+        return condition(battery);
     case QAccessible::Value:
-        return QCoreApplication::translate("ui::CBatteryStatusWidget", "%1%")
-            .arg(currentValue().toInt());
+        return tr("%1%").arg(charge(battery));
     default:
-        return given;
+        return QString();
     }
 }
 
-QVariant CBatteryStatusWidget::AccessibleBattery::currentValue() const
+QString CBatteryStatusWidget::AccessibleBattery::condition(const QWidget& battery)
 {
-    return qRound(battery()->m_charge * 100);
-}
-
-void CBatteryStatusWidget::AccessibleBattery::setCurrentValue(const QVariant&)
-{
-    // The charge is shown, not set by the user.
-}
-
-QVariant CBatteryStatusWidget::AccessibleBattery::minimumValue() const
-{
-    return 0;
-}
-
-QVariant CBatteryStatusWidget::AccessibleBattery::maximumValue() const
-{
-    return 100;
-}
-
-QVariant CBatteryStatusWidget::AccessibleBattery::minimumStepSize() const
-{
-    return 1;
-}
-
-const CBatteryStatusWidget* CBatteryStatusWidget::AccessibleBattery::battery() const
-{
-    return static_cast<const CBatteryStatusWidget*>(widget());
-}
-
-QString CBatteryStatusWidget::AccessibleBattery::condition() const
-{
-    const int flags = battery()->m_flags;
+    const int flags = static_cast<const CBatteryStatusWidget&>(battery).m_flags;
     if (!(flags & BatteryPresent))
-        return QCoreApplication::translate("ui::CBatteryStatusWidget", "absent");
+        return tr("absent");
     if (flags & BatteryCharging)
-        return QCoreApplication::translate("ui::CBatteryStatusWidget", "charging");
+        return tr("charging");
     return QString();
 }
 

@@ -148,7 +148,7 @@ CBatteryStatusWidget::CBatteryStatusWidget(QWidget* parent)
     setFrameWidth(defaultFrameWidth);
     // mutant [order]: Neither depends on the other.
     setFillColor(QColor(Qt::blue));
-    registerAccessible<CBatteryStatusWidget, AccessibleBattery>();
+    registerAccessible<CBatteryStatusWidget, AccessibleBattery::make>();
 }
 
 CBatteryStatusWidget::~CBatteryStatusWidget() = default;

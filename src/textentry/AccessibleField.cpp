@@ -5,12 +5,16 @@
 #include "ui/LineEdit.h"
 
 #include <QColor>
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 namespace ui {
 
 namespace {
+
+QAccessibleInterface* makeField(LineEdit* field)
+{
+    return new AccessibleField(field);
+}
 
 /// An interface for each field, but none while its constructor asks for the one of the base class.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
@@ -19,7 +23,7 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
     if (object == beingMade)
         return nullptr;
     const QScopedValueRollback<const QObject*> rollback(beingMade, object);
-    return makeAccessible<LineEdit, AccessibleField>(className, object);
+    return makeAccessible<LineEdit, makeField>(className, object);
 }
 
 } // namespace
@@ -52,7 +56,7 @@ QString AccessibleField::text(QAccessible::Text kind) const
     QString plain = m_plain->text(kind);
     if (kind != QAccessible::Description || !hasInvalidInput(object()))
         return plain;
-    const QString note = QCoreApplication::translate("ui::LineEdit", "Invalid input");
+    const QString note = LineEdit::tr("Invalid input");
     return plain.isEmpty() ? note : note + QStringLiteral(". ") + plain;
 }
 
