@@ -185,7 +185,8 @@ void BreadCrumbsWidget::showHiddenCrumbs()
     connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
     QString path = m_rootDir.path();
     for (int i = 0; i < m_crumbs.size() - m_maxVisibleCrumbs; ++i) {
-        path += QDir::separator() + m_crumbs.at(i);
+        path += QDir::separator();
+        path += m_crumbs.at(i);
         connect(menu->addAction(m_crumbs.at(i)), &QAction::triggered, this,
                 [this, path] { Q_EMIT dirChanged(path); });
     }

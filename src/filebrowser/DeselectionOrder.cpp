@@ -12,10 +12,15 @@ namespace {
 
 constexpr int noRow = -1;
 
+QModelIndex siblingIn(const QItemSelectionRange& range, int row, int column)
+{
+    const QModelIndex& first = range.topLeft();
+    return first.sibling(row, column);
+}
+
 QItemSelectionRange rowsOf(const QItemSelectionRange& range, int top, int bottom)
 {
-    return {range.topLeft().sibling(top, range.left()),
-            range.topLeft().sibling(bottom, range.right())};
+    return {siblingIn(range, top, range.left()), siblingIn(range, bottom, range.right())};
 }
 
 } // namespace
@@ -33,7 +38,7 @@ DeselectionOrder::DeselectionOrder(const QItemSelectionModel& selectionModel,
             m_left.append(range);
             continue;
         }
-        m_directories.append(range.topLeft().sibling(row, 0));
+        m_directories.append(siblingIn(range, row, 0));
         if (row > range.top())
             ranges.append(rowsOf(range, range.top(), row - 1));
         if (row < range.bottom())
@@ -61,7 +66,7 @@ int DeselectionOrder::firstDirectory(const QItemSelectionRange& range,
     if (range.left() > 0)
         return noRow;
     for (int row = range.top(); row <= range.bottom(); ++row) {
-        const QModelIndex index = range.topLeft().sibling(row, 0);
+        const QModelIndex index = siblingIn(range, row, 0);
         if (m_model.isDir(index) && snapshot.containsRow(index))
             return row;
     }
@@ -71,8 +76,8 @@ int DeselectionOrder::firstDirectory(const QItemSelectionRange& range,
 /// In as few ranges as possible, as every range takes time at each further deselection.
 void DeselectionOrder::leaveOtherColumns(const QItemSelectionRange& range, int row)
 {
-    const QModelIndex first = range.topLeft().sibling(row, 1);
-    const QModelIndex last = range.topLeft().sibling(row, range.right());
+    const QModelIndex first = siblingIn(range, row, 1);
+    const QModelIndex last = siblingIn(range, row, range.right());
     const auto above = std::find_if(
         m_otherColumns.begin(), m_otherColumns.end(), [&](const QItemSelectionRange& other) {
             return other.bottom() + 1 == row && other.right() == range.right()

@@ -163,7 +163,7 @@ QVBoxLayout* FileBrowserWidget::createFileView()
 {
     auto* layout = new QVBoxLayout;
     const auto handler = QSharedPointer<SelectionHandler>::create(
-        this, m_model, m_tileView, [this](const QString& path) { openDirectory(path); });
+        this, m_model, m_tileView, &FileBrowserWidget::openDirectory);
 
     m_tileView->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_tileView->setWrapping(true);

@@ -26,7 +26,7 @@ SelectionHandler::SelectionHandler(FileBrowserWidget* browser, FileSystemModel* 
     : m_browser(browser)
     , m_model(model)
     , m_tileView(tileView)
-    , m_openDirectory(std::move(openDirectory))
+    , m_openDirectory(openDirectory)
     , m_tapGuard(tileView->viewport())
 {
 }
@@ -61,7 +61,7 @@ void SelectionHandler::open(const QString& path)
         return;
     // cppcheck-suppress nullPointerRedundantCheck ; there is a model until a slot deletes it below
     const QString before = m_model->rootPath();
-    m_openDirectory(path);
+    (m_browser->*m_openDirectory)(path);
     if (m_model && m_model->rootPath() != before)
         m_tapGuard.directoryOpened();
 }

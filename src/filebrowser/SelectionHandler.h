@@ -6,8 +6,6 @@
 #include <QPointer>
 #include <QVector>
 
-#include <functional>
-
 QT_BEGIN_NAMESPACE
 class QItemSelectionModel;
 class QListView;
@@ -33,7 +31,8 @@ class FileSystemModel;
 class SelectionHandler
 {
 public:
-    using OpenDirectory = std::function<void(const QString& path)>;
+    /// How the browser shows another directory.
+    using OpenDirectory = void (FileBrowserWidget::*)(const QString& path);
 
     SelectionHandler(FileBrowserWidget* browser, FileSystemModel* model, QListView* tileView,
                      OpenDirectory openDirectory);
@@ -53,7 +52,7 @@ private:
     QPointer<FileBrowserWidget> m_browser;
     QPointer<FileSystemModel> m_model;
     QPointer<QListView> m_tileView;
-    OpenDirectory m_openDirectory;
+    const OpenDirectory m_openDirectory;
     TapGuard m_tapGuard;
     bool m_nothingLeft = false; ///< Whether the next run finds what the last one has left.
 };

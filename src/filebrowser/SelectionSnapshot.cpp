@@ -27,9 +27,11 @@ SelectionSnapshot::SelectionSnapshot(const QItemSelectionModel* selectionModel,
     if (!selectionModel || !model || selectionModel->model() != model)
         return;
     for (const QItemSelectionRange& range : selectionModel->selection()) {
-        if (range.topLeft().isValid()) // range.isValid() compares parents, which take time to find
-            m_ranges.append({range.parent(), range.top(), range.bottom(),
-                             columnBits(range.left(), range.right())});
+        const QModelIndex& first = range.topLeft();
+        const QModelIndex& last = range.bottomRight();
+        if (first.isValid()) // range.isValid() compares parents, which take time to find
+            m_ranges.append({first.parent(), first.row(), last.row(),
+                             columnBits(first.column(), last.column())});
     }
 }
 

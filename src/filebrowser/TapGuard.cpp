@@ -16,7 +16,7 @@ void TapGuard::directoryOpened()
         m_opened = true;
 }
 
-bool TapGuard::eventFilter(QObject* watched, QEvent* event)
+bool TapGuard::eventFilter(QObject*, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -25,7 +25,7 @@ bool TapGuard::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonDblClick:
         break;
     default:
-        return QObject::eventFilter(watched, event);
+        return false;
     }
     const auto* mouse = static_cast<QMouseEvent*>(event);
     m_pressed = mouse->buttons() != Qt::NoButton;

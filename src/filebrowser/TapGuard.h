@@ -17,8 +17,6 @@ namespace ui {
  */
 class TapGuard : public QObject
 {
-    Q_OBJECT
-
 public:
     /// Watches the \a viewport of the view that directories are opened in.
     explicit TapGuard(QWidget* viewport);

@@ -44,9 +44,10 @@ QColor baseColor()
 // NOLINTNEXTLINE(misc-no-recursion): no deeper than the keypad's widgets are nested
 void activateLayouts(QWidget* widget)
 {
-    const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* child : children) {
-        if (!child->isWindow())
+    const QObjectList children = widget->children(); // a copy, which no layout changes
+    for (QObject* object : children) {
+        auto* child = qobject_cast<QWidget*>(object);
+        if (child && !child->isWindow())
             activateLayouts(child);
     }
     if (QLayout* layout = widget->layout())

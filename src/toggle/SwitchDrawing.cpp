@@ -71,7 +71,8 @@ QColor withOpacity(const QColor& color, double opacity)
     // refuses every alpha below 0 and above 255.
     const bool roundable = alpha > -2.0 && alpha < 257.0;
     // mutant [1 -> 2]: QColor refuses both.
-    return {color.red(), color.green(), color.blue(), roundable ? qRound(alpha) : -1};
+    const QRgb rgb = color.rgb();
+    return {qRed(rgb), qGreen(rgb), qBlue(rgb), roundable ? qRound(alpha) : -1};
 }
 
 QPixmap thumbShadow()
