@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds the library against device libraries from a prefix, for which the installed stand-ins serve
-# here, and sees that no stand-in is built, that the package finds the device's libraries again, and
-# that the Debian packages leave them to the device.
+# here, optimised as the packages are, and sees that no stand-in is built, that the package finds the
+# device's libraries again, that the Debian packages leave them to the device, and that the library
+# keeps to its thresholds of size and relocations.
 #
 # usage: device-libraries.sh SOURCE_DIR BUILD_DIR
 set -euo pipefail
@@ -22,13 +23,25 @@ find "$scratch/all" \( -name "libplatform_style$suffix.so*" -o -name "libplatfor
 cp -r "$headers/platform" "$headers"/platform_{style,keyboard}_export.h "$scratch/device/include"
 cp -r "$headers/ui/keyboard" "$scratch/device/include/ui"
 
-cmake -S "$source_dir" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-    -DPLATFORM_QT="$qt" -DPLATFORM_DEVICE_PREFIX="$scratch/device" >/dev/null
+cmake -S "$source_dir" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_INTERPROCEDURAL_OPTIMIZATION=ON -DPLATFORM_QT="$qt" -DPLATFORM_DEVICE_PREFIX="$scratch/device" >/dev/null
 cmake --build "$scratch/build"
 
 if find "$scratch/build" -name 'libplatform_style*' -o -name 'libplatform_keyboard*' | grep .; then
     echo "a stand-in was built beside the device's libraries" >&2
     exit 1
+fi
+
+# The thresholds are those of 64-bit processors and Qt 5.
+if [ "$qt$(uname -m)" = 5x86_64 ]; then
+    . "$source_dir/tools/lib/bench.sh"
+    mkdir "$scratch/results"
+    measure_library "$scratch/build/src/libplatform_widgets.so.1.2" "$scratch/results"
+    "$source_dir/tools/bench/table.py" "$scratch/results" | tee "$scratch/thresholds"
+    [ "$(grep -c '| yes |$' "$scratch/thresholds")" = 2 ] || {
+        echo "the library misses a threshold" >&2
+        exit 1
+    }
 fi
 
 (cd "$scratch/build" && cpack >cpack.log 2>&1) || { cat "$scratch/build/cpack.log" >&2; exit 1; }

@@ -26,7 +26,8 @@ measure_rows "$program" "$results" '^frame, plain|^keypad, later|1000 of CRounde
 measure_browsing "$program" "$results"
 measure_idle "$program" "$results"
 library=$(ldd "$program" | sed -n 's/.*=> \(.*libplatform_widgets[^ ]*\).*/\1/p')
-measure_library "$library" "$loader" "$results"
+measure_loading "$loader" "$results"
+measure_library "$library" "$results"
 note_run "$results"
 "$DEV_ROOT/tools/bench/table.py" "$results" >"$results/table.md"
 

@@ -38,7 +38,8 @@ measure_rows "$program" "$results" "$filter"
 if [ -z "$filter" ]; then
     measure_browsing "$program" "$results"
     measure_idle "$program" "$results"
-    measure_library "$build/src/libplatform_widgets.so.1.2" "$build/bench/platform_bench_loading" "$results"
+    measure_loading "$build/bench/platform_bench_loading" "$results"
+    measure_library "$build/src/libplatform_widgets.so.1.2" "$results"
     note_run "$results"
 fi
 python3 tools/bench/table.py "$results" | tee "$build/table.md"

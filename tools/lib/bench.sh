@@ -53,11 +53,16 @@ measure_idle() {
     "$1" --idle "$idle" >"$2/idle" 2>>"$2/log"
 }
 
-# measure_library LIBRARY LOADER RESULTS
-measure_library() {
-    local library=$1 loader=$2 results=$3
+# measure_loading LOADER RESULTS
+measure_loading() {
+    local loader=$1 results=$2
     "$loader" "${timing[@]}" --benchmark_out="$results/times-loading.json" >>"$results/times.txt" 2>>"$results/log"
     under_callgrind "$results/callgrind-loading" "$loader" --count
+}
+
+# measure_library LIBRARY RESULTS
+measure_library() {
+    local library=$1 results=$2
     strip -o "$results/stripped" "$library"
     {
         printf 'bytes, stripped\t%s\n' "$(stat -c %s "$results/stripped")"
