@@ -44,7 +44,8 @@ QColor baseColor()
 // NOLINTNEXTLINE(misc-no-recursion): no deeper than the keypad's widgets are nested
 void activateLayouts(QWidget* widget)
 {
-    const QObjectList children = widget->children(); // a copy, which no layout changes
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): what follows may change the list
+    const QObjectList children = widget->children();
     for (QObject* object : children) {
         auto* child = qobject_cast<QWidget*>(object);
         if (child && !child->isWindow())
