@@ -20,7 +20,8 @@ struct Row
 QString headerOf(const char* className)
 {
     for (const char* folder : {"/", "/ui/"}) {
-        QFile file(QLatin1String(HEADER_FOLDER) + folder + className + QLatin1String(".h"));
+        QFile file(QStringLiteral(HEADER_FOLDER) + QLatin1String(folder) + QLatin1String(className)
+                   + QLatin1String(".h"));
         if (file.open(QIODevice::ReadOnly))
             return QString::fromUtf8(file.readAll());
     }

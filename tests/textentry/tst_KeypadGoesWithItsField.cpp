@@ -46,10 +46,14 @@ public:
         pages->setCurrentWidget(group);
         group->show();
         field->show();
+        const bool wasMinimized = isMinimized();
         showNormal();
         if (!QTest::qWaitForWindowExposed(this))
             return false;
-        activateWindow();
+        // What is shown anew gets the focus anyway, and if it is asked for once more, the window
+        // manager takes it away and gives it back at some later time.
+        if (wasMinimized)
+            activateWindow();
         return QTest::qWaitForWindowActive(this);
     }
 
@@ -153,8 +157,10 @@ void tst_KeypadGoesWithItsField::hidden()
         QCOMPARE(m_dialog->field->text(), QStringLiteral("15"));
 
         if (!m_dialog->isVisible()) {
-            // As a window manager does; the offscreen plugin does not of its own.
-            m_window->activateWindow();
+            // As a window manager does. One that is asked as well does it twice, the second time
+            // perhaps when the dialog is shown again.
+            if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+                m_window->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(m_window.data()));
         }
         QVERIFY(m_dialog->showAgain());
