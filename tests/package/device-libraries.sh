@@ -11,17 +11,17 @@ source_dir=$1
 build_dir=$2
 . "$source_dir/tests/package/example.sh"
 runtime=libplatform-widgets${suffix:+$suffix-}1.2
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+scratch=$(kept_folder "$build_dir" device-libraries)
+rm -rf "$scratch"/device "$scratch"/build/*.deb
 
 # The device's prefix holds its two libraries and their headers, nothing of the widget library.
-cmake --install "$build_dir" --prefix "$scratch/all" >/dev/null
+install_anew "$build_dir" "$scratch/all"
 headers=$scratch/all/include/$package
 mkdir -p "$scratch/device/lib" "$scratch/device/include/ui"
 find "$scratch/all" \( -name "libplatform_style$suffix.so*" -o -name "libplatform_keyboard$suffix.so*" \) \
     -exec cp -P {} "$scratch/device/lib" \;
-cp -r "$headers/platform" "$headers"/platform_{style,keyboard}_export.h "$scratch/device/include"
-cp -r "$headers/ui/keyboard" "$scratch/device/include/ui"
+cp -rp "$headers/platform" "$headers"/platform_{style,keyboard}_export.h "$scratch/device/include"
+cp -rp "$headers/ui/keyboard" "$scratch/device/include/ui"
 
 cmake -S "$source_dir" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_INTERPROCEDURAL_OPTIMIZATION=ON -DPLATFORM_QT="$qt" -DPLATFORM_DEVICE_PREFIX="$scratch/device" >/dev/null
@@ -56,16 +56,16 @@ for deb in "$scratch"/build/*.deb; do
         | cmp - "$source_dir/LICENSE" || { echo "$name does not hold the license" >&2; exit 1; }
 done
 
-cmake --install "$scratch/build" --prefix "$scratch/prefix" >/dev/null
-mkdir "$scratch/consumer"
-cat >"$scratch/consumer/CMakeLists.txt" <<'END'
+install_anew "$scratch/build" "$scratch/prefix"
+mkdir -p "$scratch/consumer"
+write_changed "$scratch/consumer/CMakeLists.txt" <<'END'
 cmake_minimum_required(VERSION 3.16)
 project(consumer LANGUAGES CXX)
 find_package(${PACKAGE} 1.2 REQUIRED)
 add_executable(consumer main.cpp)
 target_link_libraries(consumer PRIVATE platform::widgets)
 END
-cat >"$scratch/consumer/main.cpp" <<'END'
+write_changed "$scratch/consumer/main.cpp" <<'END'
 #include <QApplication>
 #include <ui/FileBrowserWidget.h>
 int main(int argc, char** argv)

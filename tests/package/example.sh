@@ -17,3 +17,23 @@ runs_until_stopped() {
     timeout --preserve-status --signal=TERM 3 "$@" || status=$?
     [ "$status" -eq $((128 + 15)) ] || { echo "$1 ended by itself with status $status" >&2; return 1; }
 }
+
+# kept_folder BUILD_DIR NAME: where a test builds, so that the next run has only to build what has changed.
+kept_folder() {
+    local folder=$1/tests/package/$2
+    mkdir -p "$folder"
+    echo "$folder"
+}
+
+# Writes a file from the input, unless it holds that already: what is older is not built again.
+write_changed() {
+    local content
+    content=$(cat; echo .)
+    [ -f "$1" ] && [ "$content" = "$(cat "$1"; echo .)" ] || printf '%s' "${content%.}" >"$1"
+}
+
+# install_anew BUILD_DIR PREFIX: with nothing left of an earlier installation; files keep their times.
+install_anew() {
+    rm -rf "$2"
+    cmake --install "$1" --prefix "$2" >/dev/null
+}

@@ -9,10 +9,9 @@ set -euo pipefail
 
 source_dir=$1
 build_dir=$2
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-prefix=$scratch/prefix
 . "$source_dir/tests/package/example.sh"
+scratch=$(kept_folder "$build_dir" installed-package)
+prefix=$scratch/prefix
 
 # A program that includes every installed header and runs an application object.
 all_headers() {
@@ -22,11 +21,12 @@ all_headers() {
     echo 'int main(int argc, char** argv) { QApplication application(argc, argv); return Switch().isChecked(); }'
 }
 
-cmake --install "$build_dir" --prefix "$prefix" >/dev/null
+install_anew "$build_dir" "$prefix"
 
-cp -r "$source_dir/tests/package/consumer" "$scratch/consumer"
-readme_example "$source_dir" >"$scratch/consumer/main.cpp"
-all_headers >"$scratch/consumer/all_headers.cpp"
+mkdir -p "$scratch/consumer"
+cp -p "$source_dir"/tests/package/consumer/* "$scratch/consumer"
+readme_example "$source_dir" | write_changed "$scratch/consumer/main.cpp"
+all_headers | write_changed "$scratch/consumer/all_headers.cpp"
 
 echo "== CMake"
 cmake -S "$scratch/consumer" -B "$scratch/cmake" -G Ninja -DPACKAGE="$package" \
@@ -48,7 +48,7 @@ runs_until_stopped "$scratch/example"
 echo "== qmake"
 QMAKEPATH=$(dirname "$(dirname "$(dirname "$(find "$prefix" -name "qt_lib_$package.pri")")")")
 export QMAKEPATH
-mkdir "$scratch/qmake"
+mkdir -p "$scratch/qmake"
 (
     cd "$scratch/qmake"
     /usr/lib/qt$qt/bin/qmake "QMAKE_CXXFLAGS+=${CXXFLAGS:-}" "QMAKE_LFLAGS+=${CXXFLAGS:-}" "$scratch/consumer/example.pro" >/dev/null

@@ -9,13 +9,13 @@ set -euo pipefail
 source_dir=$1
 build_dir=$2
 example=$source_dir/examples/settings
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
 . "$source_dir/tests/package/example.sh"
+scratch=$(kept_folder "$build_dir" settings-example)
 
-cmake --install "$build_dir" --prefix "$scratch/prefix" >/dev/null
+install_anew "$build_dir" "$scratch/prefix"
 
 echo "== By itself"
+rm -rf "$scratch/settings"
 cmake -S "$example" -B "$scratch/settings" -G Ninja -DPACKAGE="$package" \
     -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
 
