@@ -32,6 +32,8 @@ AccessibleField::AccessibleField(LineEdit* field)
     : m_plain(QAccessible::queryAccessibleInterface(field))
     , m_plainId(QAccessible::uniqueId(m_plain))
 {
+    // mutant [dropped]: Qt asserts that it knows no other interface of an object when it gets to
+    // know one; without its assertions it forgets the other.
     releasePlainInterface(field);
 }
 
@@ -47,6 +49,7 @@ void AccessibleField::releasePlainInterface(LineEdit* field)
 {
     auto* standIn = new AccessibleField;
     const QAccessible::Id id = QAccessible::registerAccessibleInterface(standIn);
+    // mutant [dropped; order]: Of no object, it would release nothing, which Qt's assertions notice.
     standIn->m_standsFor = field;
     QAccessible::deleteAccessibleInterface(id);
 }
@@ -143,6 +146,7 @@ QColor AccessibleField::backgroundColor() const
 
 void AccessibleField::virtual_hook(int id, void* data)
 {
+    // mutant [dropped]: Nothing is asked through it yet.
     m_plain->virtual_hook(id, data);
 }
 

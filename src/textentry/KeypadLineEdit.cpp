@@ -92,6 +92,7 @@ void KeypadLineEdit::focusOutEvent(QFocusEvent* event)
     const Qt::FocusReason reason = event->reason();
     LineEdit::focusOutEvent(event);
     if (!self)
+        // mutant [dropped]: The sanitizers notice what is done with a deleted field.
         return;
     hideKeypad();
     const QWidget* activePopup = QApplication::activePopupWidget();
@@ -101,7 +102,7 @@ void KeypadLineEdit::focusOutEvent(QFocusEvent* event)
 
 void KeypadLineEdit::createPopup()
 {
-    // mutant [sign; 1 -> 0]: The last argument is ignored.
+    // mutant [sign; 1 -> 0; 1 -> 2]: The last argument is ignored.
     popup = new KeypadPopup(this, QString(), keyboardType, -1);
     connect(popup, &KeypadPopup::signalCancel, this, &KeypadLineEdit::onCancelKey);
     connect(popup, &KeypadPopup::signalOk, this, &KeypadLineEdit::onOkKey);

@@ -64,6 +64,7 @@ QSize desktopSize()
     QRect desktop;
     const QList<QScreen*> screens = QGuiApplication::screens();
     for (const QScreen* screen : screens)
+        // mutant [dropped]: Not compiled with Qt 5.
         desktop |= screen->geometry(); // cppcheck-suppress useStlAlgorithm ; longer with it
     return desktop.size();
 #endif
@@ -234,6 +235,7 @@ void KeypadPopup::setKeypadSectionVisible(int section, bool visible)
 bool KeypadPopup::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == target && event->type() == QEvent::Hide)
+        // mutant [0 -> 1]: A millisecond later is soon enough, too.
         QTimer::singleShot(0, this, [this] { goWithField(this, target); });
     if (watched != target || event->type() != QEvent::FocusOut || !isVisible() || !refocusPending)
         return false;
