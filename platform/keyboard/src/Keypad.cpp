@@ -24,15 +24,13 @@ constexpr int keySpacing = 3;
 /// About 9 mm at 133 dpi.
 constexpr int fullKeyWidth = 48;
 
-/// Of the longest row, that of a text keypad.
-constexpr int keysInRow = 10;
-
 /// What a pop-up's frame around the keypad and its distance from the edge take of the screen.
 constexpr int widthAround = 26;
 
-/// Less than the full width where the longest row would be wider than the screen.
-int keyWidth()
+/// Less than the full width where a row of keys would be wider than the screen.
+int keyWidth(KeyboardType type)
 {
+    const int keysInRow = type == KeyboardType::Text ? 10 : 4;
     const int room = QGuiApplication::primaryScreen()->size().width() - widthAround
         - (keysInRow - 1) * keySpacing;
     return qBound(1, room / keysInRow, fullKeyWidth);
@@ -59,7 +57,7 @@ Keypad::Keypad(KeyboardType type, const QVector<KeyDescription>& keys, QWidget* 
 
 void Keypad::addKey(const KeyDescription& description)
 {
-    auto* key = new KeypadKey(description, keyWidth(), this);
+    auto* key = new KeypadKey(description, keyWidth(m_type), this);
     const QRect cells = description.cells;
     static_cast<QGridLayout*>(layout())->addWidget(key, cells.y(), cells.x(), cells.height(),
                                                    cells.width());
