@@ -23,11 +23,9 @@ constexpr QSize leastPictureSize(600, 400);
 PageView::PageView(const PageEntry& entry, QWidget* parent)
     : QWidget(parent)
     , m_page(entry.create(nullptr))
-    , m_message(new QLabel)
+    , m_message(touch::makeLabel())
 {
     m_message->setObjectName(QStringLiteral("referenceMessage"));
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setWordWrap(true);
     m_message->setContentsMargins(margin, 0, margin, 0);
     m_message->hide();
     m_page->setObjectName(entry.id);

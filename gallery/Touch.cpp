@@ -121,19 +121,45 @@ private:
     KeypadLineEdit* m_field;
 };
 
-class ElidedLabel : public QLabel
+/// QLabel aligns a text by the direction of its language, which in a mirrored layout may be another.
+class MirroredLabel : public QLabel
 {
 public:
-    using QLabel::QLabel;
+    explicit MirroredLabel(const QString& text)
+        : QLabel(text)
+    {
+        setTextFormat(Qt::PlainText);
+        align();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutDirectionChange)
+            align();
+        QLabel::changeEvent(event);
+    }
+
+private:
+    void align()
+    {
+        setAlignment((layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft)
+                     | Qt::AlignAbsolute | Qt::AlignVCenter);
+    }
+};
+
+class ElidedLabel : public MirroredLabel
+{
+public:
+    using MirroredLabel::MirroredLabel;
 
 protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
         const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-        style()->drawItemText(&painter, rect(),
-                              int(QStyle::visualAlignment(layoutDirection(), alignment())),
-                              palette(), isEnabled(), shown, foregroundRole());
+        style()->drawItemText(&painter, rect(), int(alignment()), palette(), isEnabled(), shown,
+                              foregroundRole());
     }
 };
 
@@ -215,10 +241,25 @@ void followPalette(Switch* control)
     new PaletteFollower(control);
 }
 
+QLabel* makeLabel(const QString& text)
+{
+    auto* label = new MirroredLabel(text);
+    label->setWordWrap(true);
+    return label;
+}
+
+QLabel* makeHeading(const QString& text)
+{
+    QLabel* label = makeLabel(text);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
 QLabel* makeElidedLabel(const QString& text)
 {
     auto* label = new ElidedLabel(text);
-    label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     return label;
 }

@@ -45,7 +45,14 @@ void followPalette(Switch* control);
 
 QSlider* makeSlider();
 
-/// A label of plain text in one line, which is elided where there is no room for all of it.
+/// A label of plain text that begins where the lines of a mirrored layout begin, in whatever
+/// language it is.
+QLabel* makeLabel(const QString& text = QString());
+
+/// One in bold.
+QLabel* makeHeading(const QString& text);
+
+/// As makeLabel(), in one line, which is elided where there is no room for all of it.
 QLabel* makeElidedLabel(const QString& text = QString());
 
 /// A button as wide as it may be that is checked to unfold something below it; an arrow tells so.

@@ -50,12 +50,10 @@ private:
 AnimationPage::AnimationPage(QWidget* parent)
     : GalleryPage(parent)
 {
-    auto* hint = new QLabel(tr("Each animation runs to its end and back again."));
-    hint->setWordWrap(true);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(2 * spacing);
-    column->addWidget(hint);
+    column->addWidget(touch::makeLabel(tr("Each animation runs to its end and back again.")));
     column->addLayout(makePulse());
     column->addLayout(makeSweep());
     column->addStretch();
@@ -137,7 +135,7 @@ QPushButton* AnimationPage::makeSwitch(QVariantAnimation* animation)
 
 QLabel* AnimationPage::makeState(QVariantAnimation* animation)
 {
-    auto* label = new QLabel;
+    QLabel* label = touch::makeLabel();
     label->setObjectName(QStringLiteral("state"));
     const auto showState = [animation, label] { label->setText(stateText(*animation)); };
     connect(animation, &QAbstractAnimation::stateChanged, label, showState);

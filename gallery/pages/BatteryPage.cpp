@@ -163,8 +163,8 @@ QWidget* BatteryPage::makeControls(CBatteryStatusWidget* battery)
     auto* layout = new QVBoxLayout(controls);
     layout->addStretch();
     layout->addWidget(charge);
-    layout->addWidget(present);
-    layout->addWidget(charging);
+    layout->addWidget(present, 0, Qt::AlignLeft);
+    layout->addWidget(charging, 0, Qt::AlignLeft);
     return controls;
 }
 

@@ -1,6 +1,7 @@
 #include "GalleryPage.h"
 #include "IconLabel.h"
 #include "Pages.h"
+#include "Touch.h"
 
 #include <ui/CGridArrangedButton.h>
 
@@ -45,9 +46,8 @@ private:
 
 GridButtonPage::GridButtonPage(QWidget* parent)
     : GalleryPage(parent)
-    , m_report(new QLabel(tr("Tap a button anywhere, its labels included.")))
+    , m_report(touch::makeLabel(tr("Tap a button anywhere, its labels included.")))
 {
-    m_report->setWordWrap(true);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(margin, margin, margin, margin);
     grid->setSpacing(spacing);

@@ -37,9 +37,10 @@ namespace {
 
 constexpr int margin = 12;
 constexpr int spacing = 8;
-constexpr int cardWidth = 200; // three of them beside the list of pages, two on a tall screen
+constexpr int cardWidth = 184; // three of them on a page of 600 pixels
 constexpr int demoHeight = 64;
 constexpr QSize lightSize(56, 56);
+constexpr int textMargin = 6;
 constexpr int textPixelSize = 18;
 constexpr int linkPixelSize = 12; // so that the longest name has room
 constexpr int pulseDuration = 800;
@@ -67,20 +68,12 @@ private:
     QListView* m_files = nullptr;
 };
 
-QLabel* makeHeading(const QString& text)
+QLabel* makeTitle(const QString& text)
 {
-    auto* label = new QLabel(text);
+    QLabel* label = touch::makeHeading(text);
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * 1.6);
-    font.setBold(true);
     label->setFont(font);
-    return label;
-}
-
-QLabel* makeParagraph(const QString& text)
-{
-    auto* label = new QLabel(text);
-    label->setWordWrap(true);
     return label;
 }
 
@@ -245,14 +238,14 @@ OverviewPage::OverviewPage(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
-    column->addWidget(makeHeading(QStringLiteral("platform_widgets " GALLERY_VERSION)));
-    column->addWidget(makeParagraph(
+    column->addWidget(makeTitle(QStringLiteral("platform_widgets " GALLERY_VERSION)));
+    column->addWidget(touch::makeLabel(
         tr("Every widget of the library, alive. A button below a widget opens its page.")));
     column->addLayout(m_cards);
     column->addStretch();
-    column->addWidget(
-        makeParagraph(tr("Qt %1, platform plugin \"%2\"")
-                          .arg(QString::fromLatin1(qVersion()), QGuiApplication::platformName())));
+    column->addWidget(touch::makeLabel(
+        tr("Qt %1, platform plugin \"%2\"")
+            .arg(QString::fromLatin1(qVersion()), QGuiApplication::platformName())));
 }
 
 bool OverviewPage::isReady() const
@@ -282,6 +275,7 @@ void OverviewPage::addFields()
     const QString page = QStringLiteral("text-entry");
     auto* plain = new ui::LineEdit;
     plain->setMinimumHeight(touch::targetSize);
+    plain->setTextMargins(textMargin, 0, textMargin, 0);
     plain->setText(tr("Kitchen"));
     addCard(QStringLiteral("LineEdit"), page, plain);
     ui::KeypadLineEdit* port = touch::makeField(KeyboardType::Integer, tr("Port"));

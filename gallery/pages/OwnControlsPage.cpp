@@ -39,30 +39,20 @@ private:
     QLabel* m_durationText;
 };
 
-QLabel* makeCaption(const QString& text)
-{
-    auto* label = new QLabel(text);
-    label->setWordWrap(true);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
 OwnControlsPage::OwnControlsPage(QWidget* parent)
     : GalleryPage(parent)
     , m_glow(new Glow)
     , m_duration(touch::makeSlider())
-    , m_durationText(new QLabel)
+    , m_durationText(touch::makeLabel())
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
     column->addWidget(
-        makeCaption(tr("A lamp that can be switched, derived from SelectionControl")));
+        touch::makeHeading(tr("A lamp that can be switched, derived from SelectionControl")));
     column->addLayout(makeLamps());
     column->addSpacing(spacing);
-    column->addWidget(makeCaption(tr("A light whose colour an Animator moves")));
+    column->addWidget(touch::makeHeading(tr("A light whose colour an Animator moves")));
     column->addLayout(makeGlow());
     column->addStretch();
 }

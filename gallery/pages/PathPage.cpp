@@ -35,16 +35,6 @@ private:
     int m_taps = 0;
 };
 
-QLabel* makeCaption(const QString& text)
-{
-    auto* label = new QLabel(text);
-    label->setWordWrap(true);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
 /// A parent that fits tightly: a label's place in its parent shifts what it paints.
 QWidget* hold(QWidget* label)
 {
@@ -58,7 +48,7 @@ QWidget* hold(QWidget* label)
 PathPage::PathPage(QWidget* parent)
     : GalleryPage(parent)
     , m_directory(touch::makeElidedLabel())
-    , m_report(new QLabel(tr("Not tapped yet")))
+    , m_report(touch::makeLabel(tr("Not tapped yet")))
 {
     m_directory->setObjectName(QStringLiteral("directory"));
     m_report->setObjectName(QStringLiteral("report"));
@@ -76,13 +66,13 @@ PathPage::PathPage(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
-    column->addWidget(makeCaption(
+    column->addWidget(touch::makeHeading(
         tr("A path: tap a directory to go up, and the three dots for those that are left out.")));
     column->addWidget(bar);
     column->addWidget(m_directory);
     column->addSpacing(spacing);
     column->addWidget(
-        makeCaption(tr("The label that it is made of, by itself: it can be tapped.")));
+        touch::makeHeading(tr("The label that it is made of, by itself: it can be tapped.")));
     column->addLayout(labels);
     column->addWidget(m_report);
     column->addStretch();

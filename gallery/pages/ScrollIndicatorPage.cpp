@@ -27,8 +27,8 @@ QWidget* makeRows()
     auto* column = new QVBoxLayout(rows);
     column->setSpacing(0);
     for (int number = 1; number <= listLength; ++number) {
-        auto* row =
-            new QLabel(QCoreApplication::translate("ScrollIndicatorPage", "Track %1").arg(number));
+        QLabel* row = touch::makeLabel(
+            QCoreApplication::translate("ScrollIndicatorPage", "Track %1").arg(number));
         row->setMinimumHeight(touch::targetSize);
         column->addWidget(row);
     }
@@ -52,9 +52,8 @@ private:
 ScrollIndicatorPage::ScrollIndicatorPage(QWidget* parent)
     : GalleryPage(parent)
 {
-    auto* hint =
-        new QLabel(tr("Drag the list and the picture: their indicators light up while they move."));
-    hint->setWordWrap(true);
+    QLabel* hint = touch::makeLabel(
+        tr("Drag the list and the picture: their indicators light up while they move."));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);

@@ -17,13 +17,16 @@ const QColor blue(33, 150, 243);
 const QColor green(76, 175, 80);
 const QColor orange(255, 152, 0);
 
-QLabel* makeCaption(const QString& text)
+/// In two columns, each switch as wide as its text and no wider: else a mirrored text would lie
+/// beside the next column's switch.
+QLayout* makeGrid(const QList<Switch*>& switches)
 {
-    auto* label = new QLabel(text);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
+    auto* grid = new QGridLayout;
+    for (int i = 0; i < switches.size(); ++i)
+        grid->addWidget(switches.at(i), i / 2, i % 2, Qt::AlignLeft);
+    for (const int column : {0, 1})
+        grid->setColumnStretch(column, 1);
+    return grid;
 }
 
 /// The switch in all its states, in colours and times of the application's choice, and in a group.
@@ -47,13 +50,13 @@ SwitchPage::SwitchPage(QWidget* parent)
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
-    column->addWidget(makeCaption(tr("As it comes: off, on, disabled")));
+    column->addWidget(touch::makeHeading(tr("As it comes: off, on, disabled")));
     column->addLayout(makePlain());
-    column->addWidget(makeCaption(tr("With a label")));
+    column->addWidget(touch::makeHeading(tr("With a label")));
     column->addLayout(makeLabelled());
-    column->addWidget(makeCaption(tr("Colours, times and directions")));
+    column->addWidget(touch::makeHeading(tr("Colours, times and directions")));
     column->addLayout(makeCustom());
-    column->addWidget(makeCaption(tr("One of three")));
+    column->addWidget(touch::makeHeading(tr("One of three")));
     column->addLayout(makeGroup());
     column->addStretch();
 }
@@ -94,12 +97,7 @@ QLayout* SwitchPage::makeLabelled()
     disabledOff->setEnabled(false);
     disabledOn->setEnabled(false);
 
-    auto* grid = new QGridLayout;
-    grid->addWidget(off, 0, 0);
-    grid->addWidget(on, 0, 1);
-    grid->addWidget(disabledOff, 1, 0);
-    grid->addWidget(disabledOn, 1, 1);
-    return grid;
+    return makeGrid({off, on, disabledOff, disabledOn});
 }
 
 QLayout* SwitchPage::makeCustom()
@@ -121,12 +119,7 @@ QLayout* SwitchPage::makeCustom()
         addSwitch(makeColouredSwitch(tr("Right to left"), orange, true), tr("Right to left"));
     mirrored->setLayoutDirection(Qt::RightToLeft);
 
-    auto* grid = new QGridLayout;
-    grid->addWidget(colored, 0, 0);
-    grid->addWidget(slow, 0, 1);
-    grid->addWidget(instant, 1, 0);
-    grid->addWidget(mirrored, 1, 1);
-    return grid;
+    return makeGrid({colored, slow, instant, mirrored});
 }
 
 QLayout* SwitchPage::makeGroup()
@@ -137,7 +130,7 @@ QLayout* SwitchPage::makeGroup()
         Switch* control =
             addSwitch(makeColouredSwitch(text, green, false), tr("Group: %1").arg(text));
         group->addButton(control);
-        row->addWidget(control);
+        row->addWidget(control, 1, Qt::AlignLeft);
     }
     group->buttons().constFirst()->setChecked(true);
     return row;

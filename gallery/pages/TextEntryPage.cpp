@@ -40,8 +40,7 @@ QRegularExpressionValidator* patternValidator(const QString& pattern)
 
 QLabel* makeLabel(ui::LineEdit* field)
 {
-    auto* label = new QLabel(field->accessibleName());
-    label->setWordWrap(true);
+    QLabel* label = touch::makeLabel(field->accessibleName());
     label->setBuddy(field);
     return label;
 }
@@ -75,10 +74,9 @@ private:
 
 TextEntryPage::TextEntryPage(QWidget* parent)
     : GalleryPage(parent)
-    , m_report(
-          new QLabel(tr("Tap a field. OK takes the value, Cancel and a tap elsewhere do not.")))
+    , m_report(touch::makeLabel(
+          tr("Tap a field. OK takes the value, Cancel and a tap elsewhere do not.")))
 {
-    m_report->setWordWrap(true);
     auto* form = new QGridLayout;
     form->setSpacing(spacing);
     addRow(form, makeAddress());

@@ -40,7 +40,7 @@ QWidget* FlagsEditor::makeBody()
     for (Flag& flag : m_flags) {
         const uint bit = flag.bit;
         flag.control = touch::makeSwitch(flag.key);
-        column->addWidget(flag.control);
+        column->addWidget(flag.control, 0, Qt::AlignLeft);
         connect(flag.control, &QAbstractButton::clicked, this, [this, bit](bool on) {
             const uint flags = value().toUInt();
             Q_EMIT edited(int(on ? flags | bit : flags & ~bit));

@@ -61,7 +61,7 @@ PartsForm::PartsForm(QWidget* parent)
 
 void PartsForm::addHeading(const QString& text)
 {
-    m_layout->addRow(new QLabel(text));
+    m_layout->addRow(touch::makeLabel(text));
 }
 
 void PartsForm::addPart(QWidget* editor)
@@ -71,7 +71,7 @@ void PartsForm::addPart(QWidget* editor)
 
 void PartsForm::addPart(const QString& name, QWidget* editor)
 {
-    auto* label = new QLabel(name);
+    QLabel* label = touch::makeLabel(name);
     label->setMinimumHeight(touch::targetSize); // centred beside an editor of that height
     m_layout->addRow(label, editor);
 }

@@ -269,10 +269,8 @@ QComboBox* EasingCurveEditor::makeTypeBox()
 
 ReadOnlyValue::ReadOnlyValue(QWidget* parent)
     : ValueEditor(parent)
-    , m_label(new QLabel)
+    , m_label(touch::makeLabel())
 {
-    m_label->setTextFormat(Qt::PlainText);
-    m_label->setWordWrap(true);
     // A word that is too long, as some debug output is, does not make the whole list too wide.
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_label->setEnabled(false); // the look of what cannot be changed

@@ -19,7 +19,7 @@ constexpr int delay = 400;
 StyleSheetEditor::StyleSheetEditor(QWidget* parent)
     : QWidget(parent)
     , m_text(new QPlainTextEdit)
-    , m_message(new QLabel)
+    , m_message(touch::makeLabel())
 {
     m_text->setObjectName(QStringLiteral("styleSheetText"));
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -28,8 +28,6 @@ StyleSheetEditor::StyleSheetEditor(QWidget* parent)
     m_text->setLayoutDirection(Qt::LeftToRight); // code is not mirrored
     touch::makeScrollable(m_text);
     m_message->setObjectName(QStringLiteral("styleSheetMessage"));
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setWordWrap(true);
     m_message->setContentsMargins(4, 0, 4, 4);
 
     auto* column = new QVBoxLayout(this);

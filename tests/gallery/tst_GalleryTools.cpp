@@ -1,18 +1,15 @@
 #include "Appearance.h"
 #include "GalleryPage.h"
-#include "GalleryWindow.h"
-#include "OffscreenMessages.h"
 #include "pages/Pages.h"
 #include "properties/HiddenValues.h"
 #include "properties/PropertyEditor.h"
 #include "properties/PropertyRow.h"
 #include "properties/ValueEditor.h"
+#include "ShownGallery.h"
 #include "StyleSheetFile.h"
 #include "TestApplication.h"
 #include "tools/CodeView.h"
-#include "tools/SignalLog.h"
 #include "tools/TargetMark.h"
-#include "TouchStyle.h"
 
 #include <ClickableLabel.h>
 #include <Switch.h>
@@ -23,75 +20,17 @@
 #include <QAbstractEventDispatcher>
 #include <QComboBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QToolButton>
 
 #include <algorithm>
 
+using test::imageOf;
+using test::ShownGallery;
+using test::tap;
+
 namespace {
-
-/// The gallery with all its pages, on a stage that keeps the platform from being asked for more.
-struct Gallery
-{
-    explicit Gallery(const char* page, const QSize& size = QSize(800, 480))
-        : window(allPages(), QString(), &stage)
-    {
-        window.showPage(QString::fromLatin1(page));
-        stage.resize(size);
-        window.resize(size);
-        stage.show();
-        QVERIFY(QTest::qWaitForWindowActive(&stage));
-    }
-
-    void chooseTool(const char* name)
-    {
-        window.findChild<QComboBox*>(QStringLiteral("toolChoice"))
-            ->setCurrentText(QString::fromLatin1(name));
-    }
-
-    PropertyEditor* properties()
-    {
-        return window.findChild<PropertyEditor*>();
-    }
-
-    QWidget* demo(const char* name)
-    {
-        for (const GalleryPage::DemoWidget& demo : window.page()->demoWidgets()) {
-            if (demo.name == QLatin1String(name))
-                return demo.widget;
-        }
-        return nullptr;
-    }
-
-    /// Shown or not.
-    PropertyRow* row(const char* name)
-    {
-        for (PropertyRow* row : properties()->findChildren<PropertyRow*>()) {
-            if (row->name() == name
-                && !row->parentWidget()->parentWidget()->parentWidget()->isHidden())
-                return row;
-        }
-        return nullptr;
-    }
-
-    QString log()
-    {
-        return window.findChild<SignalLog*>()->toPlainText();
-    }
-
-    QWidget stage;
-    GalleryWindow window;
-};
-
-void tap(QWidget* widget)
-{
-    const QPoint position = widget->mapTo(widget->window(), widget->rect().center());
-    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {}, position);
-}
 
 int timersOf(const QWidget& window)
 {
@@ -99,11 +38,6 @@ int timersOf(const QWidget& window)
     for (QObject* object : window.findChildren<QObject*>())
         count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
     return count;
-}
-
-QImage imageOf(QWidget* widget)
-{
-    return widget->grab().toImage();
 }
 
 } // namespace
@@ -117,11 +51,6 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void overviewLeadsToEveryPage();
-    void everyPageFits_data();
-    void everyPageFits();
-    void everyControlCanBeTapped_data();
-    void everyControlCanBeTapped();
-    void toolLiesBelowOnTallScreen();
     void linksToReference();
     void everyPageShowsCode_data();
     void everyPageShowsCode();
@@ -147,28 +76,11 @@ private Q_SLOTS:
     void styleSheetErrors();
     void exampleHasRuleForEveryPage_data();
     void exampleHasRuleForEveryPage();
-    void readsFromLeftToRight();
 };
-
-namespace {
-
-void addPages()
-{
-    QTest::addColumn<QString>("id");
-    const QVector<PageEntry> pages = allPages();
-    for (const PageEntry& entry : pages)
-        QTest::newRow(qPrintable(entry.id)) << entry.id;
-}
-
-} // namespace
 
 void tst_GalleryTools::initTestCase()
 {
-    test::dropOffscreenMessages();
-    TouchStyle::install();
-    QFont font = QApplication::font();
-    font.setPointSize(9); // as the gallery finds it, which makes larger ones of it
-    QApplication::setFont(font);
+    test::prepareGallery();
 }
 
 void tst_GalleryTools::cleanup()
@@ -185,7 +97,7 @@ void tst_GalleryTools::overviewLeadsToEveryPage()
     expected.remove(QStringLiteral("overview"));
 
     QSet<QString> reached;
-    Gallery gallery("overview", QSize(800, 1200));
+    ShownGallery gallery("overview", QSize(800, 1200));
     const int links =
         gallery.window.page()->findChildren<QPushButton*>(QStringLiteral("pageLink")).size();
     QCOMPARE(links, 15);
@@ -201,91 +113,9 @@ void tst_GalleryTools::overviewLeadsToEveryPage()
     QCOMPARE(reached, expected);
 }
 
-void tst_GalleryTools::everyPageFits_data()
-{
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QSize>("size");
-    const QVector<PageEntry> pages = allPages();
-    for (const PageEntry& entry : pages) {
-        // The first one is what a window manager's frame leaves of the screen.
-        for (const QSize& size : {QSize(792, 448), QSize(480, 800)})
-            QTest::addRow("%s, %d x %d", qPrintable(entry.id), size.width(), size.height())
-                << entry.id << size;
-    }
-}
-
-void tst_GalleryTools::everyPageFits()
-{
-    QFETCH(QString, id);
-    QFETCH(QSize, size);
-    Gallery gallery(qPrintable(id), size);
-    QCOMPARE(gallery.window.size(), size);
-    for (const QScrollArea* area : gallery.window.findChildren<QScrollArea*>()) {
-        if (area->isVisible() && area->objectName() != QLatin1String("panorama")
-            && area->widgetResizable())
-            QVERIFY2(area->horizontalScrollBar()->maximum() == 0,
-                     qPrintable(QString::number(area->horizontalScrollBar()->maximum())));
-    }
-}
-
-void tst_GalleryTools::everyControlCanBeTapped_data()
-{
-    addPages();
-}
-
-void tst_GalleryTools::everyControlCanBeTapped()
-{
-    QFETCH(QString, id);
-    constexpr int least = 40;
-    Gallery gallery(qPrintable(id), QSize(800, 1400));
-    const auto isTapped = [](const QWidget* widget) {
-        return qobject_cast<const QAbstractButton*>(widget)
-            || qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLineEdit*>(widget)
-            || (qobject_cast<const QAbstractSlider*>(widget)
-                && !qobject_cast<const QScrollBar*>(widget))
-            || qobject_cast<const ClickableLabel*>(widget);
-    };
-    int tapped = 0;
-    for (const QWidget* widget : gallery.window.findChildren<QWidget*>()) {
-        // The switch as it comes, and the demo widgets of it, are as high as the library makes
-        // them.
-        if (!widget->isVisible() || !isTapped(widget) || widget->inherits("Switch"))
-            continue;
-        ++tapped;
-        QVERIFY2(widget->height() >= least && (widget->width() >= least),
-                 qPrintable(QStringLiteral("%1 \"%2\": %3 x %4")
-                                .arg(QString::fromLatin1(widget->metaObject()->className()),
-                                     widget->objectName())
-                                .arg(widget->width())
-                                .arg(widget->height())));
-    }
-    QVERIFY(tapped > 0);
-}
-
-void tst_GalleryTools::toolLiesBelowOnTallScreen()
-{
-    Gallery gallery("battery", QSize(480, 800));
-    const QWidget* tool = gallery.properties();
-    QVERIFY(tool->mapTo(&gallery.window, QPoint()).y() > 400);
-    QCOMPARE(tool->width() > 400, true);
-    QVERIFY(!gallery.window.findChild<QListWidget*>()->isVisible());
-    auto* choice = gallery.window.findChild<QComboBox*>(QStringLiteral("pageChoice"));
-    QVERIFY(choice->isVisible());
-    QCOMPARE(choice->currentText(), QStringLiteral("Battery"));
-
-    choice->setFocus();
-    QTest::keyClick(choice, Qt::Key_Down);
-    QCOMPARE(gallery.window.page()->objectName(), QStringLiteral("scroll-indicator"));
-
-    gallery.stage.resize(800, 480);
-    gallery.window.resize(800, 480);
-    QVERIFY(gallery.window.findChild<QListWidget*>()->isVisible());
-    QTRY_VERIFY(gallery.properties()->mapTo(&gallery.window, QPoint()).x() > 400);
-}
-
 void tst_GalleryTools::linksToReference()
 {
-    Gallery gallery("path");
+    ShownGallery gallery("path");
     QStringList texts;
     for (const auto* link :
          gallery.window.findChildren<QToolButton*>(QStringLiteral("referenceLink")))
@@ -303,7 +133,7 @@ void tst_GalleryTools::linksToReference()
 
 void tst_GalleryTools::everyPageShowsCode_data()
 {
-    addPages();
+    test::addPages();
 }
 
 void tst_GalleryTools::everyPageShowsCode()
@@ -311,7 +141,7 @@ void tst_GalleryTools::everyPageShowsCode()
     QFETCH(QString, id);
     if (id == QLatin1String("overview"))
         return; // it leads to the others
-    Gallery gallery(qPrintable(id));
+    ShownGallery gallery(id);
     gallery.chooseTool("Code");
     auto* choice = gallery.window.findChild<QComboBox*>(QStringLiteral("classChoice"));
     QVERIFY(choice->count() > 0);
@@ -327,7 +157,7 @@ void tst_GalleryTools::everyPageShowsCode()
 
 void tst_GalleryTools::logsSignals()
 {
-    Gallery gallery("switch");
+    ShownGallery gallery("switch");
     gallery.chooseTool("Signals");
     QVERIFY(gallery.log().isEmpty());
     auto* control = qobject_cast<Switch*>(gallery.demo("Plain, off"));
@@ -340,7 +170,7 @@ void tst_GalleryTools::logsSignals()
 
 void tst_GalleryTools::logHidesSecrets()
 {
-    Gallery gallery("text-entry");
+    ShownGallery gallery("text-entry");
     auto* pin = qobject_cast<QLineEdit*>(gallery.demo("PIN, 4 to 6 digits"));
     pin->setText(QStringLiteral("98765"));
     QVERIFY(gallery.log().contains(QStringLiteral("textChanged")));
@@ -352,7 +182,7 @@ void tst_GalleryTools::logHidesSecrets()
 
 void tst_GalleryTools::logCountsRepetitions()
 {
-    Gallery gallery("path");
+    ShownGallery gallery("path");
     auto* label = qobject_cast<ClickableLabel*>(gallery.demo("Short label"));
     for (int i = 0; i < 3; ++i)
         tap(label);
@@ -363,7 +193,7 @@ void tst_GalleryTools::logCountsRepetitions()
 
 void tst_GalleryTools::logForgetsWithPage()
 {
-    Gallery gallery("path");
+    ShownGallery gallery("path");
     tap(gallery.demo("Short label"));
     QTRY_VERIFY(!gallery.log().isEmpty());
     gallery.window.showPage(QStringLiteral("frames"));
@@ -372,7 +202,7 @@ void tst_GalleryTools::logForgetsWithPage()
 
 void tst_GalleryTools::showsHiddenValues()
 {
-    Gallery gallery("battery");
+    ShownGallery gallery("battery");
     gallery.properties()->setTarget(gallery.demo("Charging"));
     QCOMPARE(gallery.row("chargePercentage")->findChild<QLineEdit*>()->text(),
              QStringLiteral("60"));
@@ -395,7 +225,7 @@ void tst_GalleryTools::showsHiddenValues()
 
 void tst_GalleryTools::editsHiddenValue()
 {
-    Gallery gallery("battery");
+    ShownGallery gallery("battery");
     auto* battery = gallery.demo("Try me");
     gallery.properties()->setTarget(battery);
     const QImage before = imageOf(battery);
@@ -410,7 +240,7 @@ void tst_GalleryTools::editsHiddenValue()
 
 void tst_GalleryTools::resetsValue()
 {
-    Gallery gallery("battery");
+    ShownGallery gallery("battery");
     auto* battery = gallery.demo("Try me");
     gallery.properties()->setTarget(battery);
     PropertyRow* row = gallery.row("frameWidth");
@@ -435,7 +265,7 @@ void tst_GalleryTools::resetsValue()
 
 void tst_GalleryTools::filtersRows()
 {
-    Gallery gallery("battery");
+    ShownGallery gallery("battery");
     auto* filter = gallery.properties()->findChild<QLineEdit*>(QStringLiteral("filter"));
     QVERIFY(!gallery.row("minimumWidth")); // folded away
     filter->setText(QStringLiteral("WIDTH"));
@@ -449,7 +279,7 @@ void tst_GalleryTools::filtersRows()
 
 void tst_GalleryTools::hidesSecrets()
 {
-    Gallery gallery("text-entry");
+    ShownGallery gallery("text-entry");
     auto* pin = gallery.demo("PIN, 4 to 6 digits");
     gallery.properties()->setTarget(pin);
     auto* text = gallery.row("text")->findChild<QLineEdit*>();
@@ -493,7 +323,7 @@ void tst_GalleryTools::editsSizePolicy()
 
 void tst_GalleryTools::switchThatIsOnShowsItsColour()
 {
-    Gallery gallery("switch");
+    ShownGallery gallery("switch");
     auto* control = qobject_cast<Switch*>(gallery.demo("Plain, on"));
     gallery.properties()->setTarget(control);
     Q_EMIT gallery.row("thumbOnBrush")->editor()->edited(QColor(Qt::red));
@@ -509,7 +339,7 @@ void tst_GalleryTools::switchThatIsOnShowsItsColour()
 
 void tst_GalleryTools::keepsWhatIsTyped()
 {
-    Gallery gallery("animation");
+    ShownGallery gallery("animation");
     QWidget* beacon = gallery.demo("Pulsing light");
     gallery.properties()->setTarget(beacon);
     auto* field = gallery.row("brightness")->findChild<ui::KeypadLineEdit*>();
@@ -529,7 +359,7 @@ void tst_GalleryTools::keepsWhatIsTyped()
 
 void tst_GalleryTools::marksTarget()
 {
-    Gallery gallery("battery");
+    ShownGallery gallery("battery");
     QWidget* battery = gallery.demo("50 %");
     gallery.properties()->setTarget(battery);
     const auto* mark = gallery.window.findChild<TargetMark*>();
@@ -551,7 +381,7 @@ void tst_GalleryTools::marksTarget()
 /// Nothing wakes the processor while nobody touches anything.
 void tst_GalleryTools::restsWithoutTimers()
 {
-    Gallery gallery("switch");
+    ShownGallery gallery("switch");
     const auto timers = [&gallery] { return timersOf(gallery.window); };
     QTRY_COMPARE(timers(), 0);
     gallery.demo("Plain, off")->update();
@@ -561,14 +391,14 @@ void tst_GalleryTools::restsWithoutTimers()
 
 void tst_GalleryTools::everyPageRests_data()
 {
-    addPages();
+    test::addPages();
 }
 
 void tst_GalleryTools::everyPageRests()
 {
     QFETCH(QString, id);
     constexpr int longestGreeting = 8000; // milliseconds
-    Gallery gallery(qPrintable(id));
+    ShownGallery gallery(id);
     const auto rests = [&gallery] {
         const auto animations = gallery.window.findChildren<QAbstractAnimation*>();
         return timersOf(gallery.window) == 0
@@ -581,7 +411,7 @@ void tst_GalleryTools::everyPageRests()
 
 void tst_GalleryTools::styleSheetTakesEffectWhileWritten()
 {
-    Gallery gallery("grid-button");
+    ShownGallery gallery("grid-button");
     gallery.chooseTool("Style sheet");
     auto* text = gallery.window.findChild<QPlainTextEdit*>(QStringLiteral("styleSheetText"));
     auto* message = gallery.window.findChild<QLabel*>(QStringLiteral("styleSheetMessage"));
@@ -624,7 +454,7 @@ void tst_GalleryTools::styleSheetErrors()
 
 void tst_GalleryTools::exampleHasRuleForEveryPage_data()
 {
-    addPages();
+    test::addPages();
 }
 
 void tst_GalleryTools::exampleHasRuleForEveryPage()
@@ -633,7 +463,7 @@ void tst_GalleryTools::exampleHasRuleForEveryPage()
     QVERIFY2(exampleStyleSheet().contains(QLatin1Char('#') + id + QLatin1Char(' '))
                  || id == QLatin1String("file-browser"), // by the name of the browser itself
              qPrintable(id));
-    Gallery gallery(qPrintable(id));
+    ShownGallery gallery(id);
     GalleryPage* page = gallery.window.page();
     QTRY_VERIFY(page->isReady());
     const QImage plain = imageOf(page);
@@ -642,21 +472,6 @@ void tst_GalleryTools::exampleHasRuleForEveryPage()
     appearance.styleSheet = rules;
     appearance.applyToApplication();
     QVERIFY(imageOf(page) != plain);
-}
-
-void tst_GalleryTools::readsFromLeftToRight()
-{
-    QLabel label(QStringLiteral("#12 %"));
-    label.setAlignment(Qt::AlignCenter);
-    label.resize(120, 40);
-    QToolButton button;
-    button.setText(QStringLiteral("#12 %"));
-    button.resize(120, 40);
-    for (QWidget* widget : std::initializer_list<QWidget*>{&label, &button}) {
-        const QImage leftToRight = imageOf(widget);
-        widget->setLayoutDirection(Qt::RightToLeft);
-        QCOMPARE(imageOf(widget), leftToRight);
-    }
 }
 
 const test::Registration<tst_GalleryTools> registration;
