@@ -181,11 +181,12 @@ void tst_GalleryLayout::textsBeginAtStart_data()
 void tst_GalleryLayout::textsBeginAtStart()
 {
     QFETCH(QString, id);
+    ShownGallery gallery(id, QSize(800, 1400));
     for (const bool mirrored : {false, true}) {
-        Appearance appearance;
-        appearance.rightToLeft = mirrored;
-        appearance.applyToApplication();
-        ShownGallery gallery(id, QSize(800, 1400));
+        gallery.window.findChild<Switch*>(QStringLiteral("rightToLeftSwitch"))
+            ->setChecked(mirrored);
+        QTRY_COMPARE(gallery.window.layoutDirection(),
+                     mirrored ? Qt::RightToLeft : Qt::LeftToRight);
         int labels = 0;
         for (QLabel* label : gallery.window.findChildren<QLabel*>()) {
             if (!beginsAtStart(*label))
@@ -223,8 +224,9 @@ void tst_GalleryLayout::readsFromLeftToRight()
     button.resize(120, 40);
     for (QWidget* widget : std::initializer_list<QWidget*>{&label, &button}) {
         const QImage leftToRight = imageOf(widget);
-        widget->setLayoutDirection(Qt::RightToLeft);
+        QApplication::setLayoutDirection(Qt::RightToLeft);
         QCOMPARE(imageOf(widget), leftToRight);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
     }
 }
 
