@@ -38,7 +38,7 @@ namespace {
 constexpr int margin = 12;
 constexpr int spacing = 8;
 constexpr int cardWidth = 184; // three of them on a page of 600 pixels
-constexpr int demoHeight = 64;
+constexpr QSize demoSize(150, 64);
 constexpr QSize lightSize(56, 56);
 constexpr int textMargin = 6;
 constexpr int textPixelSize = 18;
@@ -173,11 +173,11 @@ QWidget* makeBattery()
 QWidget* makeIndicator()
 {
     auto* picture = new Picture;
-    picture->setFixedSize(400, demoHeight - 14);
+    picture->setFixedSize(400, demoSize.height() - 14);
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(picture);
-    area->setFixedSize(150, demoHeight - 6);
+    area->setFixedSize(demoSize - QSize(0, 6));
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     touch::makeScrollable(area);
     return area;
@@ -199,7 +199,7 @@ QWidget* makeLabel()
 {
     auto* label = new ClickableLabel;
     label->setText(QCoreApplication::translate("OverviewPage", "A rather long name"));
-    label->setFixedSize(150, touch::targetSize);
+    label->setFixedSize(demoSize.width(), touch::targetSize);
     QFont font = label->font();
     font.setPixelSize(textPixelSize);
     label->setFont(font);
@@ -219,7 +219,7 @@ QListView* makeFiles()
     auto* model = new ui::FileSystemModel(view);
     view->setModel(model);
     view->setRootIndex(model->setRootPath(QStringLiteral("/")));
-    view->setFixedSize(160, demoHeight);
+    view->setFixedSize(demoSize);
     touch::makeScrollable(view);
     return view;
 }
@@ -327,7 +327,7 @@ void OverviewPage::addCard(const QString& name, const QString& page, QWidget* de
     column->setContentsMargins(spacing, spacing, spacing, 0);
     column->setSpacing(0);
     auto* stage = new QWidget;
-    stage->setMinimumHeight(demoHeight);
+    stage->setMinimumHeight(demoSize.height());
     auto* row = new QHBoxLayout(stage);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(demo, 0, Qt::AlignCenter);
