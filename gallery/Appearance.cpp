@@ -30,6 +30,7 @@ QPalette Appearance::lightPalette()
     QPalette palette(QColor(239, 239, 239));
     palette.setColor(QPalette::Highlight, QColor(11, 110, 153));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(145, 145, 145));
+    palette.setColor(QPalette::PlaceholderText, QColor(100, 100, 100));
     return palette;
 }
 
@@ -46,7 +47,7 @@ QPalette Appearance::darkPalette()
     palette.setColor(QPalette::Highlight, QColor(45, 125, 168));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, QColor(223, 225, 229));
-        palette.setColor(QPalette::Disabled, role, QColor(122, 126, 133));
+        palette.setColor(QPalette::Disabled, role, QColor(150, 154, 160));
     }
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 83, 86));
     // Thin strokes on a button, which is lighter than the window, take the brightest text.

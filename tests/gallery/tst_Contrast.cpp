@@ -2,54 +2,39 @@
 #include "Contrast.h"
 #include "GalleryPage.h"
 #include "IconLabel.h"
-#include "OffscreenMessages.h"
 #include "pages/Pages.h"
 #include "PageView.h"
 #include "Rendering.h"
+#include "ShownGallery.h"
 #include "TestApplication.h"
-#include "TouchStyle.h"
+#include "VisibleTexts.h"
 
 #include <Switch.h>
+#include <ui/KeypadLineEdit.h>
+#include <ui/KeypadPopup.h>
 #include <ui/ScrollIndicatorBar.h>
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
+#include <QDir>
+#include <QListView>
 #include <QPushButton>
-#include <QToolButton>
+#include <QTemporaryDir>
+#include <QTreeView>
 
+#include <algorithm>
+
+using test::nameOf;
+using test::Text;
+using test::textsIn;
 using ui::widgets::ScrollIndicatorBar;
 
 namespace {
 
+// As WCAG 2.1 has them.
 constexpr double leastForText = 4.5;
 constexpr double leastForIcons = 3.0;
 
-/// Where the text of a button or the like is, without its outline, which may stand out more.
-QRect middleOf(const QWidget& widget, const QString& text)
-{
-    const QSize size(widget.fontMetrics().horizontalAdvance(text), widget.fontMetrics().height());
-    QRect rect(QPoint(), size.boundedTo(widget.size() - QSize(8, 8)));
-    rect.moveCenter(widget.rect().center());
-    return rect;
-}
-
-/// The part of \a widget that shows text; null if it shows none.
-QRect textRect(const QWidget& widget)
-{
-    if (const auto* control = qobject_cast<const Switch*>(&widget))
-        return control->text().isEmpty() ? QRect() : control->textRect();
-    if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->text().isEmpty() ? QRect() : label->contentsRect();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        return button->text().isEmpty() ? QRect() : middleOf(widget, button->text());
-    if (const auto* field = qobject_cast<const QLineEdit*>(&widget))
-        return field->text().isEmpty() ? QRect() : widget.rect().adjusted(4, 4, -4, -4);
-    if (const auto* box = qobject_cast<const QComboBox*>(&widget))
-        return box->currentText().isEmpty() ? QRect() : widget.rect().adjusted(6, 6, -40, -6);
-    return {};
-}
+/// WCAG demands nothing of what cannot be used; it is still to be made out.
+constexpr double leastForDisabledText = 2.0;
 
 bool showsIcon(const QWidget& widget)
 {
@@ -57,29 +42,34 @@ bool showsIcon(const QWidget& widget)
     return qobject_cast<const IconLabel*>(&widget) || (button && !button->icon().isNull());
 }
 
-/// What is hidden by a scrolled area cannot be measured.
-QRect visiblePart(const QWidget& widget, const QRect& rect, const QWidget& root)
+/// Those with less contrast than \a least, in words.
+QString below(double least, const QVector<Text>& texts)
 {
-    const QRect visible = rect & widget.visibleRegion().boundingRect();
-    return visible == rect ? QRect(widget.mapTo(&root, rect.topLeft()), rect.size()) : QRect();
+    QStringList below;
+    for (const Text& text : texts) {
+        if (text.contrast < least)
+            below.append(QStringLiteral("%1: %2").arg(text.name).arg(text.contrast));
+    }
+    return below.join(QLatin1Char('\n'));
 }
 
-QString nameOf(const QWidget& widget)
+bool hasItemsOf(const QAbstractItemView& view, const QVector<Text>& texts)
 {
-    const QString text = widget.property("text").toString();
-    return QStringLiteral("%1 \"%2\" %3")
-        .arg(QString::fromLatin1(widget.metaObject()->className()), widget.objectName(), text);
+    return std::any_of(texts.cbegin(), texts.cend(),
+                       [name = nameOf(view)](const Text& text) { return text.name == name; });
 }
 
 /// A page as its screenshot shows it.
 struct Shot
 {
-    Shot(const PageEntry& entry, bool dark)
+    Shot(const PageEntry& entry, bool dark, bool disabled = false)
     {
         Appearance appearance;
         appearance.dark = dark;
+        appearance.disabled = disabled;
         appearance.applyToApplication();
         view = new PageView(entry, &window);
+        appearance.applyToPage(*view->page());
         view->ensurePolished();
         view->resize(view->pictureSize());
         window.resize(view->size());
@@ -104,9 +94,17 @@ class tst_Contrast : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanupTestCase();
+    void cleanup();
     void texts_data();
     void texts();
+    void disabledTexts_data();
+    void disabledTexts();
+    void toolTexts_data();
+    void toolTexts();
+    void listOfFiles_data();
+    void listOfFiles();
+    void keypads_data();
+    void keypads();
     void icons_data();
     void icons();
     void idleIndicators_data();
@@ -127,18 +125,21 @@ void addPages()
     }
 }
 
+void addAppearances()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
 } // namespace
 
 void tst_Contrast::initTestCase()
 {
-    test::dropOffscreenMessages();
-    TouchStyle::install();
-    QFont font = QApplication::font();
-    font.setPointSize(9); // as the gallery finds it, which makes larger ones of it
-    QApplication::setFont(font);
+    test::prepareGallery();
 }
 
-void tst_Contrast::cleanupTestCase()
+void tst_Contrast::cleanup()
 {
     Appearance().applyToApplication();
 }
@@ -154,19 +155,110 @@ void tst_Contrast::texts()
     QFETCH(bool, dark);
     const Shot shot(allPages().at(page), dark);
     QVERIFY(shot.isReady);
-    int measured = 0;
-    for (const QWidget* widget : shot.view->findChildren<QWidget*>()) {
-        const QRect rect = widget->isEnabled() && widget->isVisible()
-            ? visiblePart(*widget, textRect(*widget), shot.window)
-            : QRect();
-        if (rect.isEmpty())
-            continue;
-        ++measured;
-        const double contrast = test::contrastIn(shot.picture, rect);
-        QVERIFY2(contrast >= leastForText,
-                 qPrintable(QStringLiteral("%1: %2").arg(nameOf(*widget)).arg(contrast)));
+    const QVector<Text> texts = textsIn(shot.window, shot.picture);
+    QVERIFY(texts.size() > 2);
+    QCOMPARE(below(leastForText, texts), QString());
+    for (const auto* list : shot.view->findChildren<QListView*>())
+        QCOMPARE(list->isVisible(), hasItemsOf(*list, texts)); // they were measured, too
+}
+
+void tst_Contrast::disabledTexts_data()
+{
+    addPages();
+}
+
+void tst_Contrast::disabledTexts()
+{
+    QFETCH(int, page);
+    QFETCH(bool, dark);
+    const Shot shot(allPages().at(page), dark, true);
+    QVERIFY(shot.isReady);
+    const QVector<Text> texts = textsIn(shot.window, shot.picture, false);
+    QVERIFY(texts.size() > 2);
+    QCOMPARE(below(leastForDisabledText, texts), QString());
+}
+
+void tst_Contrast::toolTexts_data()
+{
+    QTest::addColumn<QByteArray>("tool");
+    QTest::addColumn<bool>("dark");
+    for (const char* tool : {"Properties", "Code", "Signals", "Style sheet"}) {
+        for (const bool dark : {false, true})
+            QTest::addRow("%s, %s", tool, dark ? "dark" : "light") << QByteArray(tool) << dark;
     }
-    QVERIFY(measured > 1);
+}
+
+/// With the list of the pages, one of which is selected.
+void tst_Contrast::toolTexts()
+{
+    QFETCH(QByteArray, tool);
+    QFETCH(bool, dark);
+    test::ShownGallery gallery(QStringLiteral("battery"));
+    gallery.window.findChild<Switch*>(QStringLiteral("darkSwitch"))->setChecked(dark);
+    gallery.chooseTool(tool);
+    QTRY_COMPARE(gallery.window.palette().color(QPalette::Window),
+                 QApplication::palette().color(QPalette::Window));
+    const QImage picture = test::imageOf(&gallery.window);
+    QCOMPARE(below(leastForText, textsIn(gallery.window, picture)), QString());
+    QCOMPARE(below(leastForDisabledText, textsIn(gallery.window, picture, false)), QString());
+}
+
+void tst_Contrast::listOfFiles_data()
+{
+    addAppearances();
+}
+
+/// The browser's other view, which is not on the page's picture.
+void tst_Contrast::listOfFiles()
+{
+    QFETCH(bool, dark);
+    QTemporaryDir directory;
+    QVERIFY(QDir(directory.path()).mkdir(QStringLiteral("photos")));
+    Appearance appearance;
+    appearance.dark = dark;
+    appearance.applyToApplication();
+    QWidget window;
+    GalleryPage* page = makeFileBrowserPage(&window, {directory.path()});
+    window.resize(600, 400);
+    page->setGeometry(window.rect());
+    page->findChildren<QPushButton*>(QStringLiteral("toolbarButton")).constLast()->click();
+    auto* view = page->findChild<QTreeView*>();
+    rendering::showUnseen(&window);
+    QTRY_VERIFY(view->isVisible());
+    QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 1);
+    for (const bool selected : {false, true}) {
+        if (selected)
+            view->setCurrentIndex(view->model()->index(0, 0, view->rootIndex()));
+        const QVector<Text> texts = textsIn(window, rendering::pictureOf(&window, 1.0));
+        QVERIFY(hasItemsOf(*view, texts));
+        QCOMPARE(below(leastForText, texts), QString());
+    }
+}
+
+void tst_Contrast::keypads_data()
+{
+    addAppearances();
+}
+
+/// The line above the keys and the keys of every keypad of the page.
+void tst_Contrast::keypads()
+{
+    QFETCH(bool, dark);
+    test::ShownGallery gallery(QStringLiteral("text-entry"));
+    gallery.window.findChild<Switch*>(QStringLiteral("darkSwitch"))->setChecked(dark);
+    const auto fields = gallery.window.page()->findChildren<ui::KeypadLineEdit*>();
+    QCOMPARE(fields.size(), 6);
+    for (ui::KeypadLineEdit* field : fields) {
+        field->setFocus();
+        QTRY_VERIFY(field->keypad() && field->keypad()->isVisible());
+        QWidget& keypad = *field->keypad();
+        const QVector<Text> texts = textsIn(keypad, test::imageOf(&keypad));
+        QVERIFY(texts.size() >= 14);
+        QVERIFY(texts.constFirst().name.startsWith(QLatin1String("QLabel")));
+        QCOMPARE(below(leastForText, texts), QString());
+        field->hideKeypad();
+        QTRY_VERIFY(!keypad.isVisible());
+    }
 }
 
 void tst_Contrast::icons_data()
