@@ -1,7 +1,7 @@
 # The translations of the gallery, which also hold the texts of the stand-in keypad and of the library's
-# accessible widgets. Sourced, never run.
+# accessible widgets, whose classes the headers declare. Sourced, never run.
 
-readonly TRANSLATED_FOLDERS=(gallery platform/keyboard src/frame src/indicators src/textentry)
+readonly TRANSLATED_FOLDERS=(gallery include platform/keyboard src/frame src/indicators src/textentry)
 
 # Takes the texts of the sources into the translation LANGUAGE in FILE.
 update_translation() {
