@@ -1,5 +1,6 @@
 #include "ui/CRoundedFrame.h"
 
+#include "../frame/Rounding.h"
 #include "../frame/Saturated.h"
 
 #include <QPainter>
@@ -144,7 +145,7 @@ void CRoundedFrame::enableWidgetMask(bool enable)
 
 void CRoundedFrame::updateMargins()
 {
-    m_margin = qRound(m_radius * arcMiddle);
+    m_margin = roundedHalfUp(m_radius * arcMiddle);
     if (m_frameShape != NoFrame)
         m_margin = saturated(qint64(m_margin) + m_lineWidth + m_lineWidth / 2);
     setContentsMargins(m_margin, m_margin, m_margin, m_margin);

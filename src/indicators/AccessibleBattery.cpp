@@ -1,6 +1,7 @@
 #include "AccessibleBattery.h"
 
 #include "../frame/AccessibleReadOnly.h"
+#include "../frame/Rounding.h"
 #include "BatteryFlags.h"
 
 namespace ui {
@@ -13,7 +14,7 @@ QAccessibleInterface* CBatteryStatusWidget::AccessibleBattery::make(CBatteryStat
 /// In percent.
 int CBatteryStatusWidget::AccessibleBattery::charge(const QWidget& battery)
 {
-    return qRound(static_cast<const CBatteryStatusWidget&>(battery).m_charge * 100);
+    return roundedHalfUp(static_cast<const CBatteryStatusWidget&>(battery).m_charge * 100);
 }
 
 QString CBatteryStatusWidget::AccessibleBattery::text(const QWidget& battery,

@@ -1,6 +1,7 @@
 #include "ui/CBatteryStatusWidget.h"
 
 #include "../frame/AccessibleFactory.h"
+#include "../frame/Rounding.h"
 #include "../frame/Saturated.h"
 #include "AccessibleBattery.h"
 #include "BatteryFlags.h"
@@ -35,11 +36,11 @@ constexpr double widestPen = 32767;
 
 constexpr QColor boltColor(239, 184, 0);
 
-/// qRound() that is defined for every finite \a value; qRound() itself looks one below its result.
+/// Of every finite \a value. The least result is the least that Qt 5's qRound() is defined for.
 int rounded(double value)
 {
-    return qRound(qBound(double(std::numeric_limits<int>::min() + 1), value,
-                         double(std::numeric_limits<int>::max())));
+    using Limits = std::numeric_limits<int>;
+    return roundedHalfUp(qBound(double(Limits::min() + 1), value, double(Limits::max())));
 }
 
 QRect rectOfEdges(qint64 left, qint64 top, qint64 right, qint64 bottom)
@@ -216,7 +217,7 @@ void CBatteryStatusWidget::setFillColor(QColor const& color)
 
 void CBatteryStatusWidget::setChargePercentage(int percent)
 {
-    if (percent == qRound(m_charge * 100))
+    if (percent == rounded(m_charge * 100))
         return;
 
     m_charge = qBound(0, percent, 100) / 100.0;

@@ -1,5 +1,7 @@
 #include "SwitchDrawing.h"
 
+#include "../frame/Rounding.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QtWidgets/qtwidgetsglobal.h>
@@ -72,7 +74,7 @@ QColor withOpacity(const QColor& color, double opacity)
     const bool roundable = alpha > -2.0 && alpha < 257.0;
     // mutant [1 -> 2]: QColor refuses both.
     const QRgb rgb = color.rgb();
-    return {qRed(rgb), qGreen(rgb), qBlue(rgb), roundable ? qRound(alpha) : -1};
+    return {qRed(rgb), qGreen(rgb), qBlue(rgb), roundable ? ui::roundedHalfUp(alpha) : -1};
 }
 
 QPixmap thumbShadow()

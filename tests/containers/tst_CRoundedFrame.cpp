@@ -1,6 +1,7 @@
 #include "EventCounter.h"
 #include "Painting.h"
 #include "PaintRecorder.h"
+#include "QtVersions.h"
 #include "TestApplication.h"
 
 #include <ui/CRoundedFrame.h>
@@ -29,7 +30,7 @@ QMargins evenMargins(int margin)
 int clampedToInt(qint64 value)
 {
     using Limits = std::numeric_limits<int>;
-    return int(qBound<qint64>(Limits::min(), value, Limits::max()));
+    return int(qBound(qint64(Limits::min()), value, qint64(Limits::max())));
 }
 
 /// A shown frame in a layout, with watches on its repaints and on the geometry updates it asks for.
@@ -124,7 +125,11 @@ void tst_CRoundedFrame::declaresItsProperties_data()
     QTest::newRow("radius") << QByteArray("int");
     QTest::newRow("lineWidth") << QByteArray("int");
     QTest::newRow("frameShadow") << QByteArray("QFrame::Shadow");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QTest::newRow("frameShape") << QByteArray("Shape");
+#else // Qt 6 completes the names of types
+    QTest::newRow("frameShape") << QByteArray("ui::CRoundedFrame::Shape");
+#endif
 }
 
 void tst_CRoundedFrame::declaresItsProperties()
@@ -323,7 +328,8 @@ void tst_CRoundedFrame::survivesAbsurdMetrics()
     frame.setFrameShadow(QFrame::Raised);
     frame.setRadius(radius);
     frame.setLineWidth(lineWidth);
-    const qint64 margin = qint64(qRound(radius * 0.29289321881345254)) + lineWidth + lineWidth / 2;
+    const qint64 margin =
+        qint64(test::roundedHalfUp(radius * 0.29289321881345254)) + lineWidth + lineWidth / 2;
     QCOMPARE(frame.contentsMargins(), evenMargins(clampedToInt(margin)));
 
     for (const QSize& size : {QSize(1, 1), QSize(300, 3), QSize(60, 40)}) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PrivateFields.h"
+#include "QtVersions.h"
 
 #include <ui/CBatteryStatusWidget.h>
 
@@ -33,7 +34,7 @@ struct BatteryState
         top = widget.*std::get<5>(fields);
         bolt = widget.*std::get<6>(fields);
         QBrush brush = widget.*std::get<7>(fields);
-        fillBrush = brush.data_ptr().data();
+        fillBrush = brush.data_ptr().get();
     }
 
     int frameWidth;
@@ -63,16 +64,16 @@ struct BatteryLayout
     {
         const int cw = contents.width();
         const int ch = contents.height();
-        const int w = qRound((ch - frameWidth) / 1.7134955147666626 + frameWidth);
+        const int w = roundedHalfUp((ch - frameWidth) / 1.7134955147666626 + frameWidth);
         const int bw = qMin(w, cw) - 2 * frameWidth;
-        const int topW = qRound(bw / 3.236);
-        const int bodyH = qRound(bw * 1.618);
-        const int topH = qRound(topW / 3.236);
+        const int topW = roundedHalfUp(bw / 3.236);
+        const int bodyH = roundedHalfUp(bw * 1.618);
+        const int topH = roundedHalfUp(topW / 3.236);
         const int total = bodyH + topH + frameWidth;
         const int y0 = contents.y() + (ch - total) / 2;
         const int topX = contents.x() + (cw - (frameWidth + topW)) / 2 + frameWidth / 2;
         const int bodyX = contents.x() + (cw - (frameWidth + bw)) / 2 + frameWidth / 2;
-        const int boltW = qRound(bw / 1.618);
+        const int boltW = roundedHalfUp(bw / 1.618);
         top = QRect(topX, y0, topW, topH);
         body = QRect(bodyX, y0 + topH, bw, bodyH);
         bolt = QRect(bodyX + (bw - boltW) / 2 + frameWidth,

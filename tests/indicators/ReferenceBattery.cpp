@@ -1,5 +1,7 @@
 #include "ReferenceBattery.h"
 
+#include "QtVersions.h"
+
 #include <QPainterPath>
 #include <QPaintEvent>
 #include <QStylePainter>
@@ -36,12 +38,12 @@ int ReferenceBattery::getBatteryRectWidth(int w) const
 
 int ReferenceBattery::getBatteryRectHeight(int w)
 {
-    return qRound(w * 1.618);
+    return roundedHalfUp(w * 1.618);
 }
 
 int ReferenceBattery::getTopRectWidth(int w)
 {
-    return qRound(w / 3.236);
+    return roundedHalfUp(w / 3.236);
 }
 
 int ReferenceBattery::getTopRectHeight(int w)
@@ -56,7 +58,7 @@ int ReferenceBattery::getTotalHeight(int bodyHeight, int topHeight) const
 
 int ReferenceBattery::widthForHeight(int h) const
 {
-    return qRound((h - m_frameWidth) / 1.7134955147666626 + m_frameWidth);
+    return roundedHalfUp((h - m_frameWidth) / 1.7134955147666626 + m_frameWidth);
 }
 
 int ReferenceBattery::heightForWidth(int w) const
@@ -86,7 +88,7 @@ void ReferenceBattery::setFillColor(const QColor& color)
 
 void ReferenceBattery::setChargePercentage(int percent)
 {
-    if (percent == qRound(m_charge * 100))
+    if (percent == roundedHalfUp(m_charge * 100))
         return;
     if (percent > 100)
         m_charge = 1.0;
@@ -132,7 +134,7 @@ void ReferenceBattery::resizeEvent(QResizeEvent* event)
     m_topRect.setCoords(0, y0, 0, m_batteryRect.top() - 1);
     m_topRect.setLeft(cr.left() + (cw - (fw + topW)) / 2 + fw / 2);
     m_topRect.setWidth(topW);
-    const int iconW = qRound(bw / 1.618);
+    const int iconW = roundedHalfUp(bw / 1.618);
     m_chargingIconRect = QRect(m_batteryRect.left() + (bw - iconW) / 2 + fw,
                                m_batteryRect.top() + (bodyH - bw) / 2 + fw, iconW, bw);
 }
@@ -163,7 +165,7 @@ void ReferenceBattery::paintBatteryFill(QStylePainter& painter)
         painter.fillRect(area, brush);
         return;
     }
-    const int fillH = qRound((area.bottom() - area.top() + 1) * m_charge);
+    const int fillH = roundedHalfUp((area.bottom() - area.top() + 1) * m_charge);
     area.setTop(area.bottom() - fillH);
     painter.fillRect(area, m_fillBrush);
 }

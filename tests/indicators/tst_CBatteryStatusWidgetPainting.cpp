@@ -81,7 +81,7 @@ void Look::drawFill(QPainter& painter, const QBrush& foreground) const
         painter.fillRect(left, top, width, height, hatched(foreground));
         return;
     }
-    const int rows = qRound(height * percent / 100.0) + 1;
+    const int rows = test::roundedHalfUp(height * percent / 100.0) + 1;
     const QRect filled(left, top + height - rows, width, rows);
     painter.fillRect(
         filled, cornerToCorner(QRectF(filled).normalized(), color.darker(200), color.lighter(150)));

@@ -297,6 +297,7 @@ void tst_SwitchPainting::opacityGivesTheAlpha_data()
     QTest::newRow("transparent") << 0.0 << 0;
     QTest::newRow("rounds down to 255") << 1.001 << 255;
     QTest::newRow("rounds up to 0") << -0.001 << 0;
+    QTest::newRow("half below zero, rounded up") << -0.5 / 255.0 << 0;
     QTest::newRow("rounds to 256") << 1.002 << 0;
     QTest::newRow("above") << 1.5 << 0;
     QTest::newRow("below") << -0.5 << 0;
