@@ -44,7 +44,7 @@ QPalette Appearance::darkPalette()
     palette.setColor(QPalette::ToolTipBase, QColor(60, 63, 65));
     palette.setColor(QPalette::ToolTipText, QColor(223, 225, 229));
     palette.setColor(QPalette::PlaceholderText, QColor(140, 144, 150));
-    palette.setColor(QPalette::Highlight, QColor(45, 125, 168));
+    palette.setColor(QPalette::Highlight, QColor(43, 120, 162));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, QColor(223, 225, 229));
         palette.setColor(QPalette::Disabled, role, QColor(150, 154, 160));
