@@ -20,10 +20,10 @@ namespace Style {
 /**
  * How a value changes over time.
  *
- * The type is known to QVariant, so QObject::property() and QObject::setProperty() carry it. An
- * application that compares variants of it calls
+ * The type is known to QVariant, so QObject::property() and QObject::setProperty() carry it. With
+ * Qt 5, an application that compares variants of it calls
  * \c QMetaType::registerEqualsComparator<Style::Animation>() once; the library does not, because Qt
- * could not forget the comparator when the library is unloaded.
+ * could not forget the comparator when the library is unloaded. Qt 6 compares them by itself.
  */
 struct Animation
 {

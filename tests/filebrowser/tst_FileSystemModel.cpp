@@ -1,10 +1,10 @@
 #include "ui/FileSystemModel.h"
 
+#include "QtVersions.h"
 #include "TestApplication.h"
 #include "Tree.h"
 
 #include <QAbstractItemModelTester>
-#include <QLibraryInfo>
 #include <QTranslator>
 
 #include <memory>
@@ -226,8 +226,7 @@ void tst_FileSystemModel::ownedByItsParent()
 void tst_FileSystemModel::germanHeaderTextsComeFromQt()
 {
     QTranslator german;
-    QVERIFY(german.load(QStringLiteral("qtbase_de"),
-                        QLibraryInfo::location(QLibraryInfo::TranslationsPath)));
+    QVERIFY(german.load(QStringLiteral("qtbase_de"), test::qtTranslations()));
     QVERIFY(QCoreApplication::installTranslator(&german));
     QCOMPARE(m_model->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
     QCOMPARE(m_model->headerData(1, Qt::Horizontal).toString(), QString::fromUtf8("Größe"));

@@ -7,7 +7,6 @@
 #include "ui/FileSystemModel.h"
 
 #include <QListView>
-#include <QTouchDevice>
 #include <QTreeView>
 
 #include <memory>
@@ -61,7 +60,7 @@ private:
     }
 
     Tree m_tree;
-    QTouchDevice* m_touchScreen = nullptr;
+    decltype(QTest::createTouchDevice()) m_touchScreen = nullptr;
     std::unique_ptr<FileBrowserWidget> m_browser;
     std::unique_ptr<BrowserParts> m_parts;
     Input m_input = Mouse;

@@ -5,6 +5,7 @@
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"
 
+#include <QImageReader>
 #include <QListView>
 #include <QMutex>
 #include <QPushButton>
@@ -119,6 +120,8 @@ private:
 void tst_SlowFileSystem::initTestCase()
 {
     test::dropOffscreenMessages();
+    // Qt looks for the plugins of image formats when it first needs one, in any thread.
+    QImageReader::supportedImageFormats();
 }
 
 void tst_SlowFileSystem::init()

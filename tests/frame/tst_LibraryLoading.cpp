@@ -200,7 +200,7 @@ void tst_LibraryLoading::exportedConstants()
 
 void tst_LibraryLoading::fileNameAndSoname()
 {
-    const QString name = QStringLiteral("libplatform_widgets.so.1.2");
+    const QString name = QStringLiteral("libplatform_widgets" PLATFORM_QT_SUFFIX ".so.1.2");
     QCOMPARE(QFileInfo(libraryPath).fileName(), name);
 
     const LoadedLibrary library;

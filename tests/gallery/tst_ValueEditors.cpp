@@ -479,10 +479,11 @@ void tst_ValueEditors::showsReadOnlyValues_data()
                                  << QStringLiteral("none");
     QTest::newRow("object") << QVariant::fromValue<QObject*>(this)
                             << QStringLiteral("tst_ValueEditors");
+    const auto list = QLatin1String(QT_VERSION_MAJOR == 6 ? "QList" : ""); // Qt 6 names it
     QTest::newRow("list") << QVariant(QVariantList{1, 2})
-                          << QStringLiteral("(QVariant(int, 1), QVariant(int, 2))");
+                          << list + QStringLiteral("(QVariant(int, 1), QVariant(int, 2))");
     QTest::newRow("type without a text")
-        << QVariant::fromValue(QMargins(1, 2, 3, 4)) << QStringLiteral("QMargins");
+        << QVariant::fromValue(Style::Animation()) << QStringLiteral("Style::Animation");
     QTest::newRow("line") << QVariant(QLine(1, 2, 3, 4))
                           << QStringLiteral("QLine(QPoint(1,2),QPoint(3,4))");
     QTest::newRow("uint") << QVariant(7u) << QStringLiteral("7");

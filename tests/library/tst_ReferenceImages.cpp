@@ -7,6 +7,7 @@
 #include <ui/CRoundedFrame.h>
 #include <ui/ScrollIndicatorBar.h>
 
+#include <QFile>
 #include <QIcon>
 
 /**
@@ -35,8 +36,13 @@ private Q_SLOTS:
 
 namespace {
 
+/// With Qt 6 another one where Qt itself paints otherwise: it does not enlarge a hatch with the
+/// pixels, draws the outline of Fusion's button finer and rounds some colours of a gradient.
 QImage referenceImage(const QString& name)
 {
+    const QString ofQt6 = QStringLiteral(PICTURES "/%1-qt6.png").arg(name);
+    if (QT_VERSION_MAJOR == 6 && QFile::exists(ofQt6))
+        return QImage(ofQt6);
     return QImage(QStringLiteral(PICTURES "/%1.png").arg(name));
 }
 

@@ -104,7 +104,7 @@ Outcome play(Model& model, const Commands& commands, const std::function<void(in
         if (!broken.isEmpty())
             return {i, broken};
     }
-    return {commands.size(), QString()};
+    return {int(commands.size()), QString()};
 }
 
 } // namespace test

@@ -1,5 +1,7 @@
 #include "FieldLog.h"
 
+#include "QtVersions.h"
+
 #include <QEvent>
 #include <QMetaEnum>
 #include <QMetaMethod>
@@ -65,7 +67,7 @@ QString FieldLog::textOf(const QMetaMethod& signal, void** arguments) const
 {
     QStringList values;
     for (int i = 0; i < signal.parameterCount(); ++i)
-        values.append(QVariant(signal.parameterType(i), arguments[i + 1]).toString());
+        values.append(test::variantOf(signal.parameterType(i), arguments[i + 1]).toString());
     return QStringLiteral("%1(%2)").arg(QString::fromLatin1(signal.name()),
                                         values.join(QStringLiteral(", ")));
 }

@@ -1,9 +1,11 @@
 #include "PlainTextEntry.h"
 
+#include "QtVersions.h"
+
 #include <QApplication>
-#include <QDesktopWidget>
 #include <QFocusEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QStyle>
 #include <QTimer>
 #include <QValidator>
@@ -135,7 +137,7 @@ void KeypadPopup::setSubtitleLabel(const QString& text)
 
 void KeypadPopup::locatePopup()
 {
-    const QRect screen = QApplication::desktop()->geometry();
+    const QRect screen = QGuiApplication::primaryScreen()->virtualGeometry();
     QPoint position = target->mapToGlobal(QPoint(0, target->height()));
     if (position.y() + sizeHint().height() > screen.height())
         position.setY(position.y() - sizeHint().height() - target->height());
@@ -174,7 +176,7 @@ bool KeypadPopup::event(QEvent* event)
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove: {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
-        const QPoint global = mapToGlobal(mouse.localPos().toPoint());
+        const QPoint global = mapToGlobal(test::positionOf(mouse).toPoint());
         QWidget* under = QApplication::widgetAt(global);
         if (under && (under == target || target->isAncestorOf(under))) {
             QMouseEvent passed(mouse.type(), under->mapFromGlobal(global), global, mouse.button(),

@@ -58,8 +58,8 @@ void tst_KeypadPopupDeletion::outlivesTheEditedWidget()
     QTest::mouseClick(popup, Qt::LeftButton);
 
     popup->show();
-    QMouseEvent outside(QEvent::MouseButtonPress, QPointF(-9, -9), Qt::LeftButton, Qt::LeftButton,
-                        {});
+    QMouseEvent outside(QEvent::MouseButtonPress, QPointF(-9, -9),
+                        popup->mapToGlobal(QPoint(-9, -9)), Qt::LeftButton, Qt::LeftButton, {});
     QCoreApplication::sendEvent(popup, &outside);
     QVERIFY(!popup->isVisible()); // as any pop-up
 }

@@ -1,3 +1,4 @@
+#include "Desktop.h"
 #include "OffscreenMessages.h"
 #include "TestApplication.h"
 
@@ -5,8 +6,7 @@
 #include <ui/KeypadPopup.h>
 #include <ui/LineEdit.h>
 
-#include <QDesktopWidget>
-
+using test::Desktop;
 using ui::KeypadPopup;
 using ui::keyboard::KeyboardType;
 
@@ -30,24 +30,6 @@ public:
     }
 
     QSize hint;
-};
-
-/// Says that the desktop has another geometry than the screen of the test, until it is destroyed.
-class DesktopGeometry
-{
-public:
-    explicit DesktopGeometry(const QRect& geometry)
-    {
-        QApplication::desktop()->setGeometry(geometry);
-    }
-    ~DesktopGeometry()
-    {
-        QApplication::desktop()->setGeometry(m_previous);
-    }
-
-private:
-    Q_DISABLE_COPY(DesktopGeometry)
-    const QRect m_previous = QApplication::desktop()->geometry();
 };
 
 } // namespace
@@ -77,21 +59,29 @@ private Q_SLOTS:
 
 void tst_KeypadPopupPlacement::place_data()
 {
-    QTest::addColumn<QRect>("desktop");
+    QTest::addColumn<QVector<QRect>>("screens");
     QTest::addColumn<QPoint>("field"); // its top left corner
     QTest::addColumn<QSize>("popup");
     QTest::addColumn<QPoint>("expected");
 
     const QSize popup(200, 150);
-    const QVector<QRect> desktops{QRect(0, 0, 800, 480), QRect(0, 0, 480, 800),
-                                  QRect(0, 0, 1280, 800), QRect(-800, -480, 1600, 960),
-                                  QRect(800, 480, 800, 480)};
-    for (const QRect& desktop : desktops) {
+    const QVector<QVector<QRect>> desktops{
+        {QRect(0, 0, 800, 480)},
+        {QRect(0, 0, 480, 800)},
+        {QRect(0, 0, 1280, 800)},
+        {QRect(0, 0, 800, 480), QRect(-800, -480, 800, 480)},
+        {QRect(0, 0, 480, 480), QRect(480, 0, 320, 600), QRect(0, 480, 200, 200)},
+        {QRect(800, 480, 800, 480)}};
+    for (const QVector<QRect>& screens : desktops) {
+        QRect desktop;
+        for (const QRect& screen : screens)
+            desktop |= screen;
         const int width = desktop.width();
         const int height = desktop.height();
         const auto row = [&](const char* what, const QPoint& field, const QPoint& expected) {
-            QTest::addRow("%s, %dx%d+%d+%d", what, width, height, desktop.x(), desktop.y())
-                << desktop << field << popup << expected;
+            QTest::addRow("%s, %dx%d+%d+%d, screens: %d", what, width, height, desktop.x(),
+                          desktop.y(), int(screens.size()))
+                << screens << field << popup << expected;
         };
         row("below", {40, 50}, {40, 80});
         // Bottom edge: the pop-up's bottom at height, one pixel below, the field at the very
@@ -118,18 +108,20 @@ void tst_KeypadPopupPlacement::place_data()
         row("field above the screen", {40, -100}, {40, -70});
     }
     QTest::newRow("higher than the screen")
-        << QRect(0, 0, 800, 480) << QPoint(40, 100) << QSize(200, 500) << QPoint(40, -400);
+        << QVector<QRect>{QRect(0, 0, 800, 480)} << QPoint(40, 100) << QSize(200, 500)
+        << QPoint(40, -400);
     QTest::newRow("wider than the screen")
-        << QRect(0, 0, 800, 480) << QPoint(40, 100) << QSize(900, 100) << QPoint(-110, 130);
+        << QVector<QRect>{QRect(0, 0, 800, 480)} << QPoint(40, 100) << QSize(900, 100)
+        << QPoint(-110, 130);
 }
 
 void tst_KeypadPopupPlacement::place()
 {
-    QFETCH(QRect, desktop);
+    QFETCH(QVector<QRect>, screens);
     QFETCH(QPoint, field);
     QFETCH(QSize, popup);
     QFETCH(QPoint, expected);
-    const DesktopGeometry geometry(desktop);
+    const Desktop desktop(screens);
     ui::LineEdit edit;
     edit.setGeometry(QRect(field, QSize(fieldWidth, fieldHeight)));
     SizedPopup sized(&edit, popup);
@@ -154,7 +146,7 @@ void tst_KeypadPopupPlacement::nestedField()
 
 void tst_KeypadPopupPlacement::measuresAfresh()
 {
-    const DesktopGeometry geometry(QRect(0, 0, 800, 480));
+    const Desktop desktop({QRect(0, 0, 800, 480)});
     ui::LineEdit edit;
     edit.setGeometry(700, 400, fieldWidth, fieldHeight);
     SizedPopup popup(&edit, QSize(100, 50));
@@ -170,7 +162,7 @@ void tst_KeypadPopupPlacement::measuresAfresh()
 
 void tst_KeypadPopupPlacement::sectionChangePlacesAtOnce()
 {
-    const DesktopGeometry geometry(QRect(0, 0, 800, 480));
+    const Desktop desktop({QRect(0, 0, 800, 480)});
     ui::LineEdit edit;
     edit.setGeometry(10, 400, fieldWidth, fieldHeight);
     KeypadPopup popup(&edit, QString(), KeyboardType::Text, -1);
@@ -188,7 +180,7 @@ void tst_KeypadPopupPlacement::sectionChangePlacesAtOnce()
 
 void tst_KeypadPopupPlacement::sectionChangeResizesAVisiblePopup()
 {
-    const DesktopGeometry geometry(QRect(0, 0, 800, 480));
+    const Desktop desktop({QRect(0, 0, 800, 480)});
     ui::LineEdit edit;
     edit.setGeometry(10, 400, fieldWidth, fieldHeight);
     KeypadPopup popup(&edit, QString(), KeyboardType::Text, -1);
@@ -219,7 +211,7 @@ void tst_KeypadPopupPlacement::sectionChangeLeavesAGivenSize_data()
 void tst_KeypadPopupPlacement::sectionChangeLeavesAGivenSize()
 {
     QFETCH(bool, givenBefore);
-    const DesktopGeometry geometry(QRect(0, 0, 800, 480));
+    const Desktop desktop({QRect(0, 0, 800, 480)});
     ui::LineEdit edit;
     edit.setGeometry(10, 400, fieldWidth, fieldHeight);
     KeypadPopup popup(&edit, QString(), KeyboardType::Text, -1);

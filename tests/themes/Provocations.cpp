@@ -2,6 +2,7 @@
 
 #include "BrowserParts.h"
 #include "KeypadKeys.h"
+#include "QtVersions.h"
 
 #include <Animator.h>
 #include <BreadCrumbsWidget.h>
@@ -52,7 +53,7 @@ void emitDirectly(QObject* sender, const QMetaMethod& signal)
     QVariantList values;
     QGenericArgument arguments[5]; // no signal of Qt's has more
     for (int i = 0; i < types.size(); ++i)
-        values.append(QVariant(signal.parameterType(i), nullptr));
+        values.append(test::variantOf(signal.parameterType(i), nullptr));
     for (int i = 0; i < types.size(); ++i)
         arguments[i] = QGenericArgument(types.at(i).constData(), values.at(i).constData());
     signal.invoke(sender, Qt::DirectConnection, arguments[0], arguments[1], arguments[2],
@@ -61,17 +62,19 @@ void emitDirectly(QObject* sender, const QMetaMethod& signal)
 
 void pressMouse(QWidget& widget)
 {
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
+    const QPoint position(5, 5);
+    QMouseEvent press(QEvent::MouseButtonPress, position, widget.mapToGlobal(position),
+                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &press);
 }
 
 void tap(QWidget& widget)
 {
     const QPointer<QWidget> remaining(&widget);
+    const QPoint position(5, 5);
+    QMouseEvent release(QEvent::MouseButtonRelease, position, widget.mapToGlobal(position),
+                        Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     pressMouse(widget);
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
     if (remaining)
         QCoreApplication::sendEvent(remaining, &release);
 }
@@ -91,7 +94,8 @@ void loseFocus(QWidget& widget)
 void requestContextMenu(QWidget& widget)
 {
     widget.setContextMenuPolicy(Qt::CustomContextMenu);
-    QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(5, 5));
+    const QPoint position(5, 5);
+    QContextMenuEvent request(QContextMenuEvent::Mouse, position, widget.mapToGlobal(position));
     QCoreApplication::sendEvent(&widget, &request);
 }
 

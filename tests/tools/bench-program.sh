@@ -44,7 +44,9 @@ shows "^\| 1000 of CRoundedFrame, made \| QFrame( \| $figure){9} \|$"
 for way in "a bare model and list view" FileBrowserWidget QFileDialog; do
     shows "^\| 3 \| $way( \| $figure){5} \|$"
 done
-shows "^\| battery, the same charge again \| QProgressBar \| 3200 \| 0 \| 0 \|$"
+# With Qt 6 a progress bar paints again for the same value.
+[[ "$library" == */libplatform_widgets6.* ]] && again=3200 || again=0
+shows "^\| battery, the same charge again \| QProgressBar \| 3200 \| 0 \| $again \|$"
 shows "^\| 100 \| $figure \| $figure \|$"
 shows "^\| relocations \| $figure \|$"
 shows "^\| loading and unloading the library \| $figure instructions \|$"

@@ -130,6 +130,7 @@ private:
         return static_cast<FileBrowserWidget&>(*widget());
     }
     void setRootPath(const QString& path);
+    bool isDirectory(const QString& path);
     void setAllowedDirs(Values& values);
     void setFilters(Values& values);
     void setSelectionMode(Values& values);
@@ -199,11 +200,24 @@ QWidget* BrowserModel::create()
 void BrowserModel::setRootPath(const QString& path)
 {
     const QString before = browser().currentPath();
+    const bool exists = isDirectory(path);
     browser().setRootPath(path);
-    if (QDir(path).exists() && QDir::isAbsolutePath(path))
+    if (exists && QDir::isAbsolutePath(path))
         compare("current path", browser().currentPath(), QDir::cleanPath(path));
-    else if (!path.isEmpty() && !QDir(path).exists())
+    else if (!path.isEmpty() && !exists)
         compare("unchanged path", browser().currentPath(), before);
+}
+
+bool BrowserModel::isDirectory(const QString& path)
+{
+    if (QT_VERSION_MAJOR
+        == 6) { // Qt 6's model goes by what it remembers, until it hears of a change
+        const QFileSystemModel* model = BrowserParts(browser()).model;
+        const QFileInfo remembered = model->fileInfo(model->index(path));
+        if (!remembered.filePath().isEmpty())
+            return remembered.isDir();
+    }
+    return QDir(path).exists();
 }
 
 void BrowserModel::setAllowedDirs(Values& values)

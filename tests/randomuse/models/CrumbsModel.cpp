@@ -169,9 +169,11 @@ void CrumbsModel::pressCrumb(Values& values)
     const auto labels = crumbLabels(bar());
     if (labels.isEmpty())
         return;
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(labels.at(values.below(labels.size())), &press);
+    QWidget* label = labels.at(values.below(labels.size()));
+    const QPoint position(1, 1);
+    QMouseEvent press(QEvent::MouseButtonPress, position, label->mapToGlobal(position),
+                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(label, &press);
 }
 
 void CrumbsModel::follow(const QString& path)
