@@ -46,6 +46,8 @@ refuses "unknown command '../lib/common'" ../lib/common
 refuses "unknown option '--frobnicate'" test --frobnicate
 refuses "unknown preset 'fast'" test --preset fast
 refuses "unknown preset 'fast'" build fast
+refuses "Qt is 5 or 6, not '4'" test --qt 4
+refuses "coverage is measured with Qt 5" test --qt 6 --preset coverage
 refuses "--filter needs a value" test --filter
 refuses "unknown checker 'frob'" lint frob
 refuses "unknown option '--frob'" mutants --frob

@@ -3,13 +3,13 @@
 #
 # usage: ./dev build [PRESET]
 #
-#   PRESET  dev (the default), release, asan or coverage; built in build/PRESET. Or qt6: the library,
-#           the stand-ins and the gallery with Qt 6
+#   PRESET  dev (the default), release, asan or coverage; built in build/PRESET. With Qt 6: dev-qt6 or
+#           asan-qt6, or qt6 for the library, the stand-ins and the gallery alone
 
 preset=dev
 case "${1:-}" in
     -*) unknown_option build "$1" ;;
-    dev | release | asan | coverage | qt6) preset=$1 ;;
+    dev | release | asan | coverage | qt6 | dev-qt6 | asan-qt6) preset=$1 ;;
     "") ;;
     *) die "build: unknown preset '$1'" ;;
 esac
@@ -19,6 +19,7 @@ lists=(build)
 case "$preset" in
     release) ;;
     qt6) lists+=(qt6) ;;
+    *-qt6) lists+=(test qt6 test-qt6) ;;
     *) lists+=(test) ;;
 esac
 need_packages "${lists[@]}"

@@ -27,13 +27,21 @@ output_of_test() {
         inside' "$DEV_ROOT/build/$1/test.log" | grep -v '^PASS   :' | tail -n 40
 }
 
+# The options of ./dev test for a build.
+options_of() {
+    case "$1" in
+        *-qt6) echo "--qt 6 --preset ${1%-qt6}" ;;
+        *) echo "--preset $1" ;;
+    esac
+}
+
 # Prints the line that ends every test run, the failures before it; fails when a test did.
 print_test_count() {
     local failure name
     for failure in ${failures[@]+"${failures[@]}"}; do
         name=${failure#* }
         output_of_test "${failure% *}" "$name" >&2
-        echo "Once more: ./dev test --preset ${failure% *} --filter '^${name//./\\.}\$'" >&2
+        echo "Once more: ./dev test $(options_of "${failure% *}") --filter '^${name//./\\.}\$'" >&2
     done
     [ $((passed + failed)) -gt 0 ] || die "no test matches"
     echo "$passed passed, $failed failed"
