@@ -72,8 +72,8 @@ QColor withOpacity(const QColor& color, double opacity)
     // mutant [> -> >=; 2.0 -> 1.8; 2.0 -> 2.2; < -> <=; 257.0 -> 282.70000000000005]: QColor
     // refuses every alpha below 0 and above 255.
     const bool roundable = alpha > -2.0 && alpha < 257.0;
-    // mutant [1 -> 2]: QColor refuses both.
     const QRgb rgb = color.rgb();
+    // mutant [1 -> 2]: QColor refuses both.
     return {qRed(rgb), qGreen(rgb), qBlue(rgb), roundable ? ui::roundedHalfUp(alpha) : -1};
 }
 
