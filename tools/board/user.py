@@ -80,6 +80,14 @@ class User:
         """Drags from the middle of a part and lets the finger rest before it is lifted."""
         self.does(*self.drag(path, x, y, milliseconds), f"wait {rest}", "release 0")
 
+    def scrolls_to(self, path, area, y=-100):
+        """Drags an area until a part of it comes into sight."""
+        for _ in range(10):
+            if self.ask("place", path) is not None:
+                return
+            self.drags(area, 0, y)
+        self.place(path)
+
     def presses(self, *keys):
         """Presses keys of the hardware keyboard at the same time."""
         for down in (True, False):
@@ -138,6 +146,9 @@ class User:
 
     def sees_no(self, path):
         self.expect(f"place of {path}", self.ask("place", path), None)
+
+    def sees_nothing_cut_off(self):
+        self.expect("what is cut off", self.ask("cut off", "window"), [])
 
     def sees_keypads(self, *fields):
         self.expect("fields with an open keypad", self.ask("keypads"), sorted(fields))

@@ -1,5 +1,6 @@
 #include "Questions.h"
 
+#include "CutOff.h"
 #include "scenes/AllScenes.h"
 #include "ScreenPart.h"
 
@@ -13,7 +14,7 @@ namespace {
 QJsonValue place(const QString& path)
 {
     const ScreenPart part = ScreenPart::find(path);
-    if (!part.widget)
+    if (!part.widget || !part.isInSight())
         return QJsonValue::Null;
     const QRect rect = part.onScreen();
     return QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()};
@@ -40,6 +41,13 @@ QJsonValue call(const QString& path, const QString& slot)
     if (!part.widget)
         return QJsonValue::Undefined;
     return QMetaObject::invokeMethod(part.widget, slot.toLatin1().constData());
+}
+
+QJsonValue cutOffIn(const QString& path)
+{
+    const ScreenPart part = ScreenPart::find(path);
+    return part.widget ? QJsonArray::fromStringList(cutOff(*part.widget))
+                       : QJsonValue(QJsonValue::Undefined);
 }
 
 /// The object names of the fields whose keypads are open.
@@ -77,6 +85,8 @@ QJsonValue Questions::answer(const QJsonArray& question)
         return setProperty(path, question.at(2).toString(), question.at(3));
     if (name == QLatin1String("call"))
         return call(path, question.at(2).toString());
+    if (name == QLatin1String("cut off"))
+        return cutOffIn(path);
     if (name == QLatin1String("keypads"))
         return keypads();
     if (name == QLatin1String("focus"))

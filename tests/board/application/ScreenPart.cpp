@@ -101,6 +101,17 @@ ScreenPart ScreenPart::find(const QString& path)
     return {widget, widget ? widget->rect() : QRect()};
 }
 
+bool ScreenPart::isInSight() const
+{
+    QPoint point = rect.center();
+    for (const QWidget* each = widget; each->rect().contains(point); each = each->parentWidget()) {
+        if (each->isWindow())
+            return true;
+        point = each->mapToParent(point);
+    }
+    return false;
+}
+
 QRect ScreenPart::onScreen() const
 {
     const QRect global(widget->mapToGlobal(rect.topLeft()), rect.size());

@@ -21,6 +21,9 @@ struct ScreenPart
 
     static ScreenPart find(const QString& path);
 
+    /// Whether its middle is inside all that it lies on, rather than scrolled away.
+    bool isInSight() const;
+
     /// Where it is on the screen, in the screen's own pixels.
     QRect onScreen() const;
 };

@@ -5,6 +5,7 @@
 #include "scenes/EdgesScene.h"
 #include "scenes/FieldsScene.h"
 #include "scenes/FramesScene.h"
+#include "scenes/GalleryScene.h"
 #include "scenes/IndicatorScene.h"
 #include "scenes/LoopScene.h"
 #include "scenes/SettingsScene.h"
@@ -23,6 +24,7 @@ QWidget* makeScene(const QString& name, Journal& journal)
         {QStringLiteral("edges"), [](Journal&) { return new EdgesScene; }},
         {QStringLiteral("fields"), [](Journal& log) { return new FieldsScene(log); }},
         {QStringLiteral("frames"), [](Journal& log) { return new FramesScene(log); }},
+        {QStringLiteral("gallery"), [](Journal&) { return new GalleryScene; }},
         {QStringLiteral("indicator"), [](Journal& log) { return new IndicatorScene(log); }},
         {QStringLiteral("loop"), [](Journal& log) { return new LoopScene(log); }},
         {QStringLiteral("settings"), [](Journal&) { return new SettingsScene; }},
