@@ -1,17 +1,13 @@
 """Measures what the device pays, on a board with the common screen."""
 
 from suite import SIZE
-from user import User, tap_at
+from user import User
 
 GALLERY = "platform-widgets-gallery"
 PANELS = {"the gallery": GALLERY, "the settings example": "board-settings",
           "the same panel without the library": "board-plain-panel"}
-PAGES = ("overview", "frames", "grid-button", "switch", "text-entry", "battery", "scroll-indicator",
-         "animation", "file-browser")
 START = 8000 # milliseconds, after which nothing that only greets the user moves any more
 REST = 10000
-GALLERY_ROW = 44 # pixels, of its list of pages
-GALLERY_LIST = 52, 60 # where the list begins, and a column inside it
 
 
 class Usage:
@@ -72,15 +68,21 @@ class Meter:
         yield "a list dragged for a second", self.work(*drag, "wait 200", "release 0")
         yield from self.page_changes()
 
+    def pages(self):
+        """What the gallery calls its pages, and their titles in its list."""
+        self.user.starts()
+        self.user.opens("gallery")
+        return list(zip(*(self.user.ask("property", "window", name)
+                          for name in ("pages", "titles"))))
+
     def page_changes(self):
-        self.board.start(GALLERY)
-        self.board.do("frame", f"wait {START}")
-        top, x = GALLERY_LIST
-        for row, page in enumerate(PAGES[1:-2], 1):
-            tap = tap_at(x, top + row * GALLERY_ROW + GALLERY_ROW // 2)
+        for page, title in self.pages()[1:]:
+            entry = f"pageList > {title}"
+            self.user.scrolls_to(entry, "pageList")
             before = Usage(self.board).milliseconds
-            self.board.do(*tap, "wait 1000") # some pages never come to rest
+            self.board.do(*self.user.tap(entry), "wait 1000") # an animation greets for longer
             yield f"the gallery's page {page} opened", Usage(self.board).milliseconds - before
+            self.board.wait_until_idle()
 
 
 def table(head, rows):
@@ -92,7 +94,7 @@ def report(board):
     meter = Meter(board)
     panels = [[name, *meter.panel(program)] for name, program in PANELS.items()]
     rest = [[f"the gallery's page {page}", meter.wake_ups(GALLERY, "--page", page)]
-            for page in PAGES]
+            for page, _ in meter.pages()]
     rest += [[name, meter.wake_ups(program)] for name, program in list(PANELS.items())[1:]]
     works = [[name, f"{milliseconds:.1f}"] for name, milliseconds in meter.works()]
     return "\n".join([

@@ -39,8 +39,8 @@ bool reachesBeyond(const QWidget& widget)
 
 bool lacksRoomForText(const QWidget& widget)
 {
-    const bool showsText = qobject_cast<const QLabel*>(&widget)
-        || qobject_cast<const QAbstractButton*>(&widget);
+    const bool showsText =
+        qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
     if (!showsText || qobject_cast<const ClickableLabel*>(&widget)) // which elides its text
         return false;
     const QSize needed = widget.minimumSizeHint();
@@ -61,7 +61,7 @@ QStringList cutOff(const QWidget& window)
     QStringList names;
     const auto widgets = window.findChildren<QWidget*>();
     for (const QWidget* widget : widgets) {
-        if (widget->isVisible() && !widget->isWindow() 
+        if (widget->isVisible() && !widget->isWindow()
             && (reachesBeyond(*widget) || lacksRoomForText(*widget)))
             names.append(nameOf(*widget));
     }
