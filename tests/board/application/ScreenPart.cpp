@@ -23,15 +23,13 @@ QWidget* start(const QString& name)
 {
     if (name == QLatin1String("popup"))
         return QApplication::activePopupWidget();
-    const QWidgetList widgets = visibleWidgets();
-    for (QWidget* widget : widgets) {
-        const bool found = name == QLatin1String("keypad")
-            ? qobject_cast<ui::KeypadPopup*>(widget) != nullptr
-            : widget->objectName() == name;
-        if (found)
-            return widget;
-    }
-    return nullptr;
+    QWidgetList found = visibleWidgets();
+    const auto isOther = [&name](const QWidget* widget) {
+        return name == QLatin1String("keypad") ? !qobject_cast<const ui::KeypadPopup*>(widget)
+                                               : widget->objectName() != name;
+    };
+    found.erase(std::remove_if(found.begin(), found.end(), isOther), found.end());
+    return found.size() == 1 ? found.first() : nullptr; // Qt lists them in no order
 }
 
 bool isCalled(const QWidget& widget, const QString& name)

@@ -10,9 +10,9 @@ QT_END_NAMESPACE
  * A widget that can be seen, or a part of one, such as an item of a view.
  *
  * It is named by a path of names with " > " between them. The first one is the object name of a
- * widget, or "popup" for the pop-up that is open, or "keypad" for the open keypad. Each further one
- * is the object name, the accessible name, the text or the class of a widget inside the one before,
- * or the text of an item of a view or of an entry of a menu.
+ * widget, or "popup" for the pop-up that is open, or "keypad" for the open keypad; there may be but
+ * one of them. Each further one is the object name, the accessible name, the text or the class of a
+ * widget inside the one before, or the text of an item of a view or of an entry of a menu.
  */
 struct ScreenPart
 {

@@ -42,7 +42,7 @@ def a_frame_is_picked_and_its_radius_changed(user):
     user.taps("frames > Raised")
     user.sees("widgetChoice", "currentText", "Raised")
     user.taps("frames > Plain")
-    user.taps("stepUp")
+    user.taps("window > PropertyEditor > stepUp")
     user.sees("frames > ui::CRoundedFrame", "radius", 19)
     user.sees_picture("frame", "frames > ui::CRoundedFrame")
 
@@ -108,9 +108,9 @@ def animations_come_to_rest_and_run_once_started(user):
     user.place("animation > Stopped")
     user.sees_no("animation > Stop")
     user.keeps_finger_down(*user.tap("animation > Start"), "wait 500")
-    user.place("animation > Running forwards")
     user.taps("animation > Stop")
-    user.sees_no("animation > Running forwards")
+    user.place("animation > Stopped")
+    user.sees_no("animation > Stop")
 
 
 def a_path_is_followed_upwards(user):
