@@ -36,8 +36,7 @@ class Prompt:
             self.board.point(int(x), int(y), down)
 
     def key(self, *names):
-        for down in (True, False):
-            self.board.send_keys(names, down)
+        self.board.send_keys(names, True, False)
 
     def photo(self, name=None):
         self.board.wait_until_idle()

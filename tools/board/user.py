@@ -90,9 +90,8 @@ class User:
 
     def presses(self, *keys):
         """Presses keys of the hardware keyboard at the same time."""
-        for down in (True, False):
-            self.board.send_keys(keys, down)
-            self.board.wait_until_idle()
+        self.board.send_keys(keys, True, False)
+        self.board.wait_until_idle()
 
     def clicks(self, path):
         """Clicks with the pointer."""
