@@ -31,5 +31,5 @@ PLATFORM_SYSROOT=${PLATFORM_SYSROOT_CACHE:-$DEV_ROOT/build}/sysroot-$arch
 export PLATFORM_SYSROOT
 make_sysroot "$arch" "$PLATFORM_SYSROOT"
 build "$arch"
-run_tests "$arch" "$filter"
+run_tests "$filter" "$arch"
 print_test_count

@@ -41,10 +41,10 @@ esac
 
 check_preconditions "${presets[@]}"
 export LC_ALL=C.UTF-8 # a path may have any letter in it
-start_stages test $((1 + 2 * ${#presets[@]}))
+start_stages test $((2 + ${#presets[@]}))
 stage "the packages that are needed" need_packages "${lists[@]}"
 for preset in "${presets[@]}"; do
     stage "building ($preset)" build "$preset"
-    stage "testing ($preset)" run_tests "$preset" "$filter"
 done
+stage "testing (${presets[*]})" run_tests "$filter" "${presets[@]}"
 print_test_count

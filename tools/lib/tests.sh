@@ -4,11 +4,26 @@ passed=0
 failed=0
 failures=() # "PRESET NAME"
 
-# run_tests PRESET [REGEX]: runs the tests whose names match; a build may have none of them.
+# run_tests REGEX PRESET...: runs the tests whose names match, of all builds at once; a build may have none.
 run_tests() {
-    local preset=$1 filter=${2:-} log=$DEV_ROOT/build/$1/test.log count name
+    local filter=$1 preset running=()
+    shift
     # Many tests wait for a window or a timer.
-    ctest --preset "$preset" --parallel $((2 * $(nproc))) ${filter:+-R "$filter"} 2>&1 | tee "$log" || true
+    local jobs=$((2 * $(nproc) / $# + $# - 1))
+    for preset; do
+        ctest --preset "$preset" --parallel "$jobs" ${filter:+-R "$filter"} 2>&1 \
+            | tee "$DEV_ROOT/build/$preset/test.log" &
+        running+=($!)
+    done
+    wait "${running[@]}"
+    for preset; do
+        count_tests "$preset" || return 1
+    done
+}
+
+# Adds what a build's tests came to.
+count_tests() {
+    local preset=$1 log=$DEV_ROOT/build/$1/test.log count name
     ! grep -q '^No tests were found' "$log" || return 0
     count=$(sed -nE 's/.* ([0-9]+) tests? failed out of ([0-9]+)$/\1 \2/p' "$log" | tail -n 1)
     [ -n "$count" ] || return 1
