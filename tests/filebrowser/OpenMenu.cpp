@@ -2,36 +2,14 @@
 
 #include "BreadCrumbsWidget.h"
 #include "BrowserParts.h"
+#include "NextMenu.h"
 
-#include <QApplication>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
-#include <QTimer>
 #include <QtTest>
 
 namespace test {
-
-namespace {
-
-constexpr int pollInterval = 10; // milliseconds
-
-} // namespace
-
-void whenMenuOpens(QObject* context, const std::function<void(QMenu&)>& use)
-{
-    auto* timer = new QTimer(context);
-    timer->setInterval(pollInterval);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, use] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (!menu || !menu->windowHandle() || !menu->windowHandle()->isExposed())
-            return;
-        timer->stop();
-        timer->deleteLater();
-        use(*menu);
-    });
-    timer->start();
-}
 
 bool withMenu(const BreadCrumbsWidget& bar, const std::function<void(QMenu&)>& inspect)
 {

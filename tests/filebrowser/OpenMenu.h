@@ -7,7 +7,6 @@
 class BreadCrumbsWidget;
 QT_BEGIN_NAMESPACE
 class QMenu;
-class QObject;
 QT_END_NAMESPACE
 
 namespace test {
@@ -17,8 +16,5 @@ namespace test {
  * if it is still there. Returns when the menu has been deleted; false if none was opened.
  */
 bool withMenu(const BreadCrumbsWidget& bar, const std::function<void(QMenu&)>& inspect);
-
-/// Calls \a use, once, with the next menu that opens, from within the event loop.
-void whenMenuOpens(QObject* context, const std::function<void(QMenu&)>& use);
 
 } // namespace test

@@ -2,7 +2,7 @@
 #include "BrowserParts.h"
 #include "ClickableLabel.h"
 #include "EventCounter.h"
-#include "OpenMenu.h"
+#include "NextMenu.h"
 #include "TestApplication.h"
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"

@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QListView>
 #include <QScopeGuard>
+#include <QScrollBar>
+#include <QScroller>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -30,6 +32,7 @@ private Q_SLOTS:
     void namesAreNoMarkup();
     void filters();
     void modes();
+    void isScrolledByDragging();
 
 private:
     void makeFile(const QString& name) const;
@@ -190,6 +193,37 @@ void tst_FileBrowserPage::modes()
         box("modes")->setCurrentIndex(mode);
         QCOMPARE(int(browser->selectionMode()), mode);
     }
+}
+
+void tst_FileBrowserPage::isScrolledByDragging()
+{
+    for (int number = 0; number < 60; ++number)
+        makeFile(QStringLiteral("more%1.txt").arg(number));
+    QTRY_COMPARE(shownNames().size(), 66);
+    QScrollBar* bar = m_view->horizontalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+
+    // From an entry to the side: nothing is selected, and nothing opened.
+    QWindow* window = m_window->windowHandle();
+    QPoint point = m_view->viewport()->mapTo(m_window.get(), m_view->viewport()->rect().center());
+    QTest::mousePress(window, Qt::LeftButton, {}, point);
+    for (int step = 0; step < 8; ++step) {
+        point -= QPoint(12, 0);
+        QTest::mouseMove(window, point);
+        QCoreApplication::processEvents();
+    }
+    QTRY_VERIFY(bar->value() > 0);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, point);
+    QTRY_COMPARE(QScroller::scroller(m_view->viewport())->state(), QScroller::Inactive);
+    QCOMPARE(selection(), QStringLiteral("Nothing is selected"));
+    QCOMPARE(shownNames().size(), 66);
+
+    // A tap still selects.
+    const QModelIndex index = m_view->indexAt(m_view->viewport()->rect().center());
+    QTest::mouseClick(
+        window, Qt::LeftButton, {},
+        m_view->viewport()->mapTo(m_window.get(), m_view->visualRect(index).center()));
+    QTRY_COMPARE(selection(), QStringLiteral("Selected: ") + index.data().toString());
 }
 
 const test::Registration<tst_FileBrowserPage> registration;

@@ -1,5 +1,6 @@
 #include "Appearance.h"
 #include "GalleryPage.h"
+#include "NextMenu.h"
 #include "pages/Pages.h"
 #include "properties/HiddenValues.h"
 #include "properties/PropertyEditor.h"
@@ -20,6 +21,7 @@
 #include <QAbstractEventDispatcher>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -55,6 +57,7 @@ private Q_SLOTS:
     void everyPageShowsCode_data();
     void everyPageShowsCode();
     void logsSignals();
+    void logsWhatMenuOfPathDoes();
     void logHidesSecrets();
     void logCountsRepetitions();
     void logForgetsWithPage();
@@ -166,6 +169,26 @@ void tst_GalleryTools::logsSignals()
     QVERIFY(gallery.log().contains(QStringLiteral("Plain, off: pressed()")));
     QVERIFY(gallery.log().contains(QStringLiteral("Plain, off: toggled(true)")));
     QVERIFY(gallery.log().contains(QStringLiteral("Plain, off: stateChanged(2)")));
+}
+
+void tst_GalleryTools::logsWhatMenuOfPathDoes()
+{
+    ShownGallery gallery("path");
+    auto* more = gallery.demo("Path")->findChild<QPushButton*>();
+    QTRY_VERIFY(more->isVisible());
+    QString chosen;
+    test::whenMenuOpens(this, [&chosen](QMenu& menu) {
+        QAction* last = menu.actions().constLast();
+        chosen = last->text();
+        QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {},
+                          menu.actionGeometry(last).center());
+    });
+    tap(more);
+    QTRY_VERIFY(!chosen.isEmpty());
+    const auto* directory = gallery.window.findChild<QLabel*>(QStringLiteral("directory"));
+    QTRY_VERIFY(directory->text().endsWith(QLatin1Char('/') + chosen));
+    const QString told = QStringLiteral("Path: dirChanged(\"%1\")").arg(directory->text());
+    QVERIFY2(gallery.log().contains(told), qPrintable(gallery.log()));
 }
 
 void tst_GalleryTools::logHidesSecrets()

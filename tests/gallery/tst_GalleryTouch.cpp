@@ -1,5 +1,6 @@
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
+#include "NextMenu.h"
 #include "pages/Pages.h"
 #include "properties/HiddenValues.h"
 #include "properties/PropertyEditor.h"
@@ -9,17 +10,22 @@
 #include "TouchStyle.h"
 #include "XPointer.h"
 
+#include <BreadCrumbsWidget.h>
 #include <Switch.h>
+#include <ui/FileBrowserWidget.h>
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QScroller>
+#include <QTemporaryDir>
 #include <QToolButton>
 
 using test::XPointer;
@@ -41,6 +47,8 @@ private Q_SLOTS:
     void choosesToolAndReadsSignals();
     void editsNumberByKeypad();
     void resetsByTap();
+    void dragsFiles();
+    void choosesFromMenuOfPath();
 
 private:
     bool drag(const QWidget* widget, const QPoint& distance) const;
@@ -231,6 +239,58 @@ void tst_GalleryTouch::resetsByTap()
     QTRY_VERIFY(reset->isVisible());
     QVERIFY(XPointer::tap(*reset));
     QTRY_COMPARE(hiddenvalues::value(*battery, "chargePercentage"), QVariant(50));
+}
+
+/// From one of them: it is not selected.
+void tst_GalleryTouch::dragsFiles()
+{
+    QTemporaryDir directory;
+    for (int number = 0; number < 60; ++number) {
+        QFile file(directory.filePath(QStringLiteral("track %1.ogg").arg(number)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    delete m_window;
+    m_window = new GalleryWindow(allPages({directory.path()}));
+    m_window->showPage(QStringLiteral("file-browser"));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    const auto* view =
+        m_window->page()->findChild<ui::FileBrowserWidget*>()->findChild<QListView*>();
+    QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 60);
+    const QScrollBar* bar = view->horizontalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+
+    QVERIFY(view->indexAt(view->viewport()->rect().center()).isValid());
+    QVERIFY(drag(view->viewport(), QPoint(-120, 0)));
+    QTRY_VERIFY(bar->value() > 60);
+    QTRY_COMPARE(QScroller::scroller(view->viewport())->state(), QScroller::Inactive);
+    QVERIFY(!view->selectionModel()->hasSelection());
+
+    const QModelIndex index = view->indexAt(view->viewport()->rect().center());
+    QVERIFY(XPointer::tap(*view->viewport(), view->visualRect(index).center()));
+    QTRY_COMPARE(m_window->page()->findChild<QLabel*>(QStringLiteral("selection"))->text(),
+                 QStringLiteral("Selected: ") + index.data().toString());
+}
+
+void tst_GalleryTouch::choosesFromMenuOfPath()
+{
+    m_window->showPage(QStringLiteral("path"));
+    auto* bar = m_window->page()->findChild<BreadCrumbsWidget*>();
+    const auto* more = bar->findChild<QPushButton*>();
+    const auto* directory = m_window->page()->findChild<QLabel*>(QStringLiteral("directory"));
+    QTRY_VERIFY(more->isVisible());
+    QStringList offered;
+    test::whenMenuOpens(this, [&offered](QMenu& menu) {
+        const QList<QAction*> actions = menu.actions();
+        for (QAction* action : actions) {
+            QVERIFY(menu.actionGeometry(action).height() >= 40);
+            offered.append(action->text());
+        }
+        XPointer::tap(menu, menu.actionGeometry(actions.constLast()).center());
+    });
+    QVERIFY(XPointer::tap(*more));
+    QTRY_VERIFY(!offered.isEmpty());
+    QTRY_VERIFY(directory->text().endsWith(QLatin1Char('/') + offered.constLast()));
 }
 
 const test::Registration<tst_GalleryTouch> registration;
