@@ -326,7 +326,8 @@ void tst_GalleryTools::editsPalette()
     // The window colour is the first of the roles, and a button unfolds it.
     auto* color = row.editor()->findChildren<ValueEditor*>().constFirst();
     Q_EMIT color->edited(QColor(1, 2, 3));
-    QCOMPARE(widget.palette().color(QPalette::Window), QColor(1, 2, 3));
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        QCOMPARE(widget.palette().color(group, QPalette::Window), QColor(1, 2, 3));
     QVERIFY(row.editor()->findChild<QToolButton*>()->text().endsWith(QStringLiteral("#010203")));
 }
 
@@ -389,6 +390,7 @@ void tst_GalleryTools::marksTarget()
     QVERIFY(mark->isVisible());
     const QRect around(battery->mapTo(&gallery.window, QPoint()), battery->size());
     QTRY_VERIFY(QRect(mark->mapTo(&gallery.window, QPoint()), mark->size()).contains(around));
+    QVERIFY(mark->mask().contains(QPoint()));
     QVERIFY(!mark->mask().contains(mark->rect().center())); // the battery is seen
 
     battery->setFixedSize(60, 100);
