@@ -34,9 +34,9 @@ int clampedToInt(qint64 value)
 }
 
 /// A shown frame in a layout, with watches on its repaints and on the geometry updates it asks for.
-struct Stage
+struct Fixture
 {
-    Stage()
+    Fixture()
         : frame(new CRoundedFrame)
         , repaints(frame)
         , layoutRequests(&window, QEvent::LayoutRequest)
@@ -266,14 +266,14 @@ void tst_CRoundedFrame::refreshesNarrowly()
 {
     QFETCH(Change, change);
     QFETCH(bool, asksForGeometry);
-    Stage stage;
-    QVERIFY(stage.waitUntilIdle());
+    Fixture fixture;
+    QVERIFY(fixture.waitUntilIdle());
 
-    change(*stage.frame);
-    const QVector<QRegion> repaints = stage.repaints.takeRegions();
+    change(*fixture.frame);
+    const QVector<QRegion> repaints = fixture.repaints.takeRegions();
     QVERIFY(!repaints.isEmpty());
-    QCOMPARE(repaints.first(), QRegion(stage.frame->rect()));
-    QCOMPARE(stage.layoutRequests.take() > 0, asksForGeometry);
+    QCOMPARE(repaints.first(), QRegion(fixture.frame->rect()));
+    QCOMPARE(fixture.layoutRequests.take() > 0, asksForGeometry);
 }
 
 void tst_CRoundedFrame::ignoresUnchangedValues_data()
@@ -291,18 +291,18 @@ void tst_CRoundedFrame::ignoresUnchangedValues_data()
 void tst_CRoundedFrame::ignoresUnchangedValues()
 {
     QFETCH(Change, change);
-    Stage stage;
-    stage.frame->enableWidgetMask(true);
-    QVERIFY(stage.waitUntilIdle());
-    const QRegion foreignMask(stage.frame->rect().adjusted(0, 0, -1, -1));
-    stage.frame->setMask(foreignMask);
-    stage.repaints.takeRegions();
+    Fixture fixture;
+    fixture.frame->enableWidgetMask(true);
+    QVERIFY(fixture.waitUntilIdle());
+    const QRegion foreignMask(fixture.frame->rect().adjusted(0, 0, -1, -1));
+    fixture.frame->setMask(foreignMask);
+    fixture.repaints.takeRegions();
 
-    change(*stage.frame);
-    QVERIFY(stage.repaints.takeRegions().isEmpty());
-    QCOMPARE(stage.layoutRequests.take(), 0);
-    stage.frame->repaint();
-    QCOMPARE(stage.frame->mask(), foreignMask); // has not been computed again
+    change(*fixture.frame);
+    QVERIFY(fixture.repaints.takeRegions().isEmpty());
+    QCOMPARE(fixture.layoutRequests.take(), 0);
+    fixture.frame->repaint();
+    QCOMPARE(fixture.frame->mask(), foreignMask); // has not been computed again
 }
 
 void tst_CRoundedFrame::survivesAbsurdMetrics_data()
@@ -343,19 +343,19 @@ void tst_CRoundedFrame::survivesAbsurdMetrics()
 
 void tst_CRoundedFrame::survivesAbsurdMetricsInLayout()
 {
-    Stage stage;
-    auto* layout = new QVBoxLayout(stage.frame);
+    Fixture fixture;
+    auto* layout = new QVBoxLayout(fixture.frame);
     layout->addWidget(new QWidget);
-    stage.frame->enableWidgetMask(true);
-    QVERIFY(stage.waitUntilIdle());
+    fixture.frame->enableWidgetMask(true);
+    QVERIFY(fixture.waitUntilIdle());
     for (int value : {100000, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
-        stage.frame->setRadius(value);
-        stage.frame->setLineWidth(value);
-        stage.repaints.takeRegions();
+        fixture.frame->setRadius(value);
+        fixture.frame->setLineWidth(value);
+        fixture.repaints.takeRegions();
     }
-    stage.frame->setRadius(18);
-    stage.frame->setLineWidth(2);
-    QCOMPARE(stage.frame->contentsMargins(), evenMargins(8));
+    fixture.frame->setRadius(18);
+    fixture.frame->setLineWidth(2);
+    QCOMPARE(fixture.frame->contentsMargins(), evenMargins(8));
 }
 
 const test::Registration<tst_CRoundedFrame> registration;

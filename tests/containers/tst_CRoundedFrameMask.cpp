@@ -52,9 +52,9 @@ protected:
 };
 
 /// A frame that lies on a pad.
-struct Stage
+struct Fixture
 {
-    Stage()
+    Fixture()
     {
         window.resize(300, 200);
         pad.setGeometry(window.rect());
@@ -112,24 +112,24 @@ private Q_SLOTS:
 
 void tst_CRoundedFrameMask::masksVisibleFrameAtOnce()
 {
-    Stage stage;
-    QVERIFY(stage.show());
-    QVERIFY(stage.frame.mask().isEmpty());
-    stage.frame.enableWidgetMask(true);
-    QCOMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
-    QVERIFY(!stage.frame.mask().contains(QPoint(0, 0)));
-    QVERIFY(!stage.frame.mask().contains(QPoint(119, 79)));
-    QVERIFY(stage.frame.mask().contains(QPoint(60, 0)));
-    QVERIFY(stage.frame.mask().contains(QPoint(119, 40)));
+    Fixture fixture;
+    QVERIFY(fixture.show());
+    QVERIFY(fixture.frame.mask().isEmpty());
+    fixture.frame.enableWidgetMask(true);
+    QCOMPARE(fixture.frame.mask(), roundedRegion(frameSize, 18));
+    QVERIFY(!fixture.frame.mask().contains(QPoint(0, 0)));
+    QVERIFY(!fixture.frame.mask().contains(QPoint(119, 79)));
+    QVERIFY(fixture.frame.mask().contains(QPoint(60, 0)));
+    QVERIFY(fixture.frame.mask().contains(QPoint(119, 40)));
 }
 
 void tst_CRoundedFrameMask::masksHiddenFrameAtFirstPaint()
 {
-    Stage stage;
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.frame.mask().isEmpty());
-    QVERIFY(stage.show());
-    QTRY_COMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
+    Fixture fixture;
+    fixture.frame.enableWidgetMask(true);
+    QVERIFY(fixture.frame.mask().isEmpty());
+    QVERIFY(fixture.show());
+    QTRY_COMPARE(fixture.frame.mask(), roundedRegion(frameSize, 18));
 }
 
 void tst_CRoundedFrameMask::masksAtDoubleResolution()
@@ -143,46 +143,46 @@ void tst_CRoundedFrameMask::masksAtDoubleResolution()
 
 void tst_CRoundedFrameMask::clearsMaskAtOnce()
 {
-    Stage stage;
-    QVERIFY(stage.showMasked());
-    stage.frame.enableWidgetMask(false);
-    QVERIFY(stage.frame.mask().isEmpty());
-    stage.frame.setRadius(30);
-    stage.frame.repaint();
-    QVERIFY(stage.frame.mask().isEmpty());
+    Fixture fixture;
+    QVERIFY(fixture.showMasked());
+    fixture.frame.enableWidgetMask(false);
+    QVERIFY(fixture.frame.mask().isEmpty());
+    fixture.frame.setRadius(30);
+    fixture.frame.repaint();
+    QVERIFY(fixture.frame.mask().isEmpty());
 }
 
 void tst_CRoundedFrameMask::onlyMaskingAsksForALayout()
 {
-    Stage stage;
-    auto* layout = new QVBoxLayout(&stage.pad);
-    layout->addWidget(&stage.frame);
-    QVERIFY(stage.showMasked());
-    test::EventCounter layoutRequests(&stage.pad, QEvent::LayoutRequest);
+    Fixture fixture;
+    auto* layout = new QVBoxLayout(&fixture.pad);
+    layout->addWidget(&fixture.frame);
+    QVERIFY(fixture.showMasked());
+    test::EventCounter layoutRequests(&fixture.pad, QEvent::LayoutRequest);
     layoutRequests.take();
-    stage.frame.enableWidgetMask(false);
+    fixture.frame.enableWidgetMask(false);
     QCOMPARE(layoutRequests.take(), 0);
-    stage.frame.enableWidgetMask(true);
+    fixture.frame.enableWidgetMask(true);
     QCOMPARE(layoutRequests.take(), 1);
 }
 
 void tst_CRoundedFrameMask::masksAgainAtOnce()
 {
-    Stage stage;
-    QVERIFY(stage.showMasked());
-    stage.frame.enableWidgetMask(false);
-    stage.frame.enableWidgetMask(true);
-    QCOMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
+    Fixture fixture;
+    QVERIFY(fixture.showMasked());
+    fixture.frame.enableWidgetMask(false);
+    fixture.frame.enableWidgetMask(true);
+    QCOMPARE(fixture.frame.mask(), roundedRegion(frameSize, 18));
 }
 
 void tst_CRoundedFrameMask::followsSize()
 {
-    Stage stage;
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
+    Fixture fixture;
+    fixture.frame.enableWidgetMask(true);
+    QVERIFY(fixture.show());
     for (const QSize& size : {QSize(200, 150), QSize(40, 50), QSize(160, 44)}) {
-        stage.frame.resize(size);
-        QTRY_COMPARE(stage.frame.mask(), roundedRegion(size, 18));
+        fixture.frame.resize(size);
+        QTRY_COMPARE(fixture.frame.mask(), roundedRegion(size, 18));
     }
 }
 
@@ -199,40 +199,40 @@ void tst_CRoundedFrameMask::followsRadius_data()
 void tst_CRoundedFrameMask::followsRadius()
 {
     QFETCH(int, radius);
-    Stage stage;
-    stage.frame.setLineWidth(8); // leaves margins whatever the radius
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_COMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
-    stage.frame.setRadius(radius);
-    QCOMPARE(stage.frame.mask(), roundedRegion(frameSize, 18)); // until the next paint
-    QTRY_COMPARE(stage.frame.mask(), roundedRegion(frameSize, radius));
+    Fixture fixture;
+    fixture.frame.setLineWidth(8); // leaves margins whatever the radius
+    fixture.frame.enableWidgetMask(true);
+    QVERIFY(fixture.show());
+    QTRY_COMPARE(fixture.frame.mask(), roundedRegion(frameSize, 18));
+    fixture.frame.setRadius(radius);
+    QCOMPARE(fixture.frame.mask(), roundedRegion(frameSize, 18)); // until the next paint
+    QTRY_COMPARE(fixture.frame.mask(), roundedRegion(frameSize, radius));
 }
 
 void tst_CRoundedFrameMask::ignoresLineWidthAndShape()
 {
-    Stage stage;
-    stage.frame.setLineWidth(9);
-    stage.frame.setFrameShape(CRoundedFrame::NoFrame);
-    stage.frame.enableWidgetMask(true);
-    QVERIFY(stage.show());
-    QTRY_COMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
+    Fixture fixture;
+    fixture.frame.setLineWidth(9);
+    fixture.frame.setFrameShape(CRoundedFrame::NoFrame);
+    fixture.frame.enableWidgetMask(true);
+    QVERIFY(fixture.show());
+    QTRY_COMPARE(fixture.frame.mask(), roundedRegion(frameSize, 18));
 }
 
 void tst_CRoundedFrameMask::keepsMaskOnShapeChange()
 {
-    Stage stage;
-    QVERIFY(stage.showMasked());
+    Fixture fixture;
+    QVERIFY(fixture.showMasked());
     const QRegion foreignMask(QRect(QPoint(), frameSize).adjusted(0, 0, -1, -1));
-    stage.frame.setMask(foreignMask);
-    stage.frame.setFrameShape(CRoundedFrame::NoFrame);
-    stage.frame.setFrameShadow(QFrame::Raised);
-    stage.frame.enableFillContents(true);
-    stage.frame.repaint();
-    QCOMPARE(stage.frame.mask(), foreignMask);
-    stage.frame.fullUpdate();
-    stage.frame.repaint();
-    QCOMPARE(stage.frame.mask(), roundedRegion(frameSize, 18));
+    fixture.frame.setMask(foreignMask);
+    fixture.frame.setFrameShape(CRoundedFrame::NoFrame);
+    fixture.frame.setFrameShadow(QFrame::Raised);
+    fixture.frame.enableFillContents(true);
+    fixture.frame.repaint();
+    QCOMPARE(fixture.frame.mask(), foreignMask);
+    fixture.frame.fullUpdate();
+    fixture.frame.repaint();
+    QCOMPARE(fixture.frame.mask(), roundedRegion(frameSize, 18));
 }
 
 void tst_CRoundedFrameMask::interiorPaintLeavesMask()
@@ -248,44 +248,44 @@ void tst_CRoundedFrameMask::interiorPaintLeavesMask()
 
 void tst_CRoundedFrameMask::letsPressesThroughCorners()
 {
-    Stage stage;
-    QVERIFY(stage.showMasked());
+    Fixture fixture;
+    QVERIFY(fixture.showMasked());
     const QRect area(QPoint(), frameSize);
     for (const QPoint& corner :
          {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()})
-        stage.press(corner);
-    QCOMPARE(stage.pad.presses, 4);
-    QCOMPARE(stage.frame.presses, 0);
-    stage.press(area.center());
-    stage.press(QPoint(60, 0));
-    QCOMPARE(stage.pad.presses, 4);
-    QCOMPARE(stage.frame.presses, 2);
+        fixture.press(corner);
+    QCOMPARE(fixture.pad.presses, 4);
+    QCOMPARE(fixture.frame.presses, 0);
+    fixture.press(area.center());
+    fixture.press(QPoint(60, 0));
+    QCOMPARE(fixture.pad.presses, 4);
+    QCOMPARE(fixture.frame.presses, 2);
 }
 
 void tst_CRoundedFrameMask::takesPressesEverywhereWithoutMask()
 {
-    Stage stage;
-    QVERIFY(stage.showMasked());
-    stage.frame.enableWidgetMask(false);
-    stage.press(QPoint(0, 0));
-    QCOMPARE(stage.frame.presses, 1);
-    QCOMPARE(stage.pad.presses, 0);
+    Fixture fixture;
+    QVERIFY(fixture.showMasked());
+    fixture.frame.enableWidgetMask(false);
+    fixture.press(QPoint(0, 0));
+    QCOMPARE(fixture.frame.presses, 1);
+    QCOMPARE(fixture.pad.presses, 0);
 }
 
 void tst_CRoundedFrameMask::clipsChildren()
 {
-    Stage stage;
-    stage.frame.setFrameShape(CRoundedFrame::NoFrame);
-    stage.frame.enableWidgetMask(true);
-    QLabel picture(&stage.frame);
+    Fixture fixture;
+    fixture.frame.setFrameShape(CRoundedFrame::NoFrame);
+    fixture.frame.enableWidgetMask(true);
+    QLabel picture(&fixture.frame);
     QPixmap red(frameSize);
     red.fill(Qt::red);
     picture.setPixmap(red);
     picture.setGeometry(QRect(QPoint(), frameSize));
-    QVERIFY(stage.show());
-    QTRY_VERIFY(!stage.frame.mask().isEmpty());
-    const QImage image = stage.window.grab(stage.frame.geometry()).toImage();
-    const QColor around = stage.window.palette().color(QPalette::Window);
+    QVERIFY(fixture.show());
+    QTRY_VERIFY(!fixture.frame.mask().isEmpty());
+    const QImage image = fixture.window.grab(fixture.frame.geometry()).toImage();
+    const QColor around = fixture.window.palette().color(QPalette::Window);
     QCOMPARE(image.pixelColor(0, 0), around);
     QCOMPARE(image.pixelColor(119, 79), around);
     QCOMPARE(image.pixelColor(60, 0), QColor(Qt::red));

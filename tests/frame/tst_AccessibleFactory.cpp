@@ -107,7 +107,7 @@ void tst_AccessibleFactory::init()
 {
     test::prepareApplication();
     m_application = std::make_unique<QApplication>(m_argc, m_argv);
-    test::settleApplication();
+    test::setUpApplication();
 }
 
 void tst_AccessibleFactory::cleanup()

@@ -71,7 +71,7 @@ int main(int argc, char** argv)
     test::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    test::settleApplication();
+    test::setUpApplication();
     const QStringList arguments = QCoreApplication::arguments();
     const QString mode = arguments.value(1);
     if (mode == QLatin1String("--list") && arguments.size() == 2)

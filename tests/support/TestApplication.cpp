@@ -62,7 +62,7 @@ void prepareApplication()
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
 }
 
-void settleApplication()
+void setUpApplication()
 {
     QApplication::setFont(repeatableFont());
     QApplication::setPalette(lightPalette());

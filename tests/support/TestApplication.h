@@ -9,7 +9,7 @@ namespace test {
 void prepareApplication();
 
 /// After it: Fusion style, a font without hinting, the light palette, no blinking cursor.
-void settleApplication();
+void setUpApplication();
 
 /// Runs the test class \a Test with a repeatable look, as the whole of a program's main().
 template <typename Test>
@@ -17,7 +17,7 @@ int run(int argc, char** argv)
 {
     prepareApplication();
     QApplication application(argc, argv);
-    settleApplication();
+    setUpApplication();
     Test instance;
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&instance, argc, argv);

@@ -9,6 +9,8 @@
 
 #include <utility>
 
+namespace test {
+
 namespace {
 
 QString nameOf(const QEvent* event)
@@ -71,3 +73,5 @@ QString FieldLog::textOf(const QMetaMethod& signal, void** arguments) const
     return QStringLiteral("%1(%2)").arg(QString::fromLatin1(signal.name()),
                                         values.join(QStringLiteral(", ")));
 }
+
+} // namespace test

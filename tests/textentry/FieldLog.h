@@ -7,6 +7,8 @@ QT_BEGIN_NAMESPACE
 class QMetaMethod;
 QT_END_NAMESPACE
 
+namespace test {
+
 /**
  * Writes down whatever can be observed of an object from outside, in its order: each event that it
  * gets as "KeyPress", the change of a dynamic property with its new value, and each of its signals
@@ -32,3 +34,5 @@ private:
     QObject* m_object;
     QStringList m_entries;
 };
+
+} // namespace test

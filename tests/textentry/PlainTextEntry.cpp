@@ -12,7 +12,7 @@
 #include <QVariant>
 #include <QVBoxLayout>
 
-namespace plain {
+namespace test::plain {
 
 LineEdit::LineEdit(QWidget* parent)
     : QLineEdit(parent)
@@ -284,4 +284,4 @@ void KeypadLineEdit::focusOutEvent(QFocusEvent* event)
         Q_EMIT editingFinished();
 }
 
-} // namespace plain
+} // namespace test::plain

@@ -12,7 +12,7 @@ QT_END_NAMESPACE
  * The text fields of the library a second time, written down step by step as they are documented
  * and with none of the library's precautions, to compare the library with.
  */
-namespace plain {
+namespace test::plain {
 
 class LineEdit : public QLineEdit
 {
@@ -105,4 +105,4 @@ private:
     KeypadPopup* popup = nullptr;
 };
 
-} // namespace plain
+} // namespace test::plain

@@ -88,7 +88,7 @@ private Q_SLOTS:
     void popupFocusReasonIsRefused();
     void popupFocusLossFinishesEditing();
     void programmaticFocusChange();
-    void verdictDisablesOk();
+    void invalidResultDisablesOk();
     void secondRound();
 
     void maxLengthKeepsTheSelection_data();
@@ -460,7 +460,7 @@ void tst_KeypadLineEdit::programmaticFocusChange()
     QVERIFY(form.other->hasFocus());
 }
 
-void tst_KeypadLineEdit::verdictDisablesOk()
+void tst_KeypadLineEdit::invalidResultDisablesOk()
 {
     Form form(KeyboardType::Integer);
     form.field->setValidator(new QIntValidator(10, 99, form.field));

@@ -79,8 +79,8 @@ private Q_SLOTS:
     void buttonsAreNoted_data();
     void buttonsAreNoted();
     void staysOpenOnOkAndCancel();
-    void verdictReachesTheKeypad();
-    void parentWithoutVerdict();
+    void resultReachesTheKeypad();
+    void parentWithoutValidation();
     void keyPressesAreForwarded_data();
     void keyPressesAreForwarded();
     void keypadTypesIntoTheField();
@@ -327,7 +327,7 @@ void tst_KeypadPopup::staysOpenOnOkAndCancel()
     QVERIFY(!popup.isVisible());
 }
 
-void tst_KeypadPopup::verdictReachesTheKeypad()
+void tst_KeypadPopup::resultReachesTheKeypad()
 {
     ui::LineEdit edit;
     edit.setValidator(new QIntValidator(10, 99, &edit));
@@ -340,7 +340,7 @@ void tst_KeypadPopup::verdictReachesTheKeypad()
     QVERIFY(ok->isEnabled());
 }
 
-void tst_KeypadPopup::parentWithoutVerdict()
+void tst_KeypadPopup::parentWithoutValidation()
 {
     QTest::ignoreMessage(
         QtWarningMsg,

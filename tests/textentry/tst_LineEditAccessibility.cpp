@@ -26,7 +26,7 @@ QStringList& announcements()
 }
 
 /// Where announcements are noted among all else that happens, if somewhere.
-FieldLog* timeline = nullptr;
+test::FieldLog* timeline = nullptr;
 
 QString descriptionOf(QWidget* widget)
 {
@@ -57,7 +57,7 @@ void type(QLineEdit& field, Qt::Key key)
 class LoggingStyle : public QProxyStyle
 {
 public:
-    explicit LoggingStyle(FieldLog& log)
+    explicit LoggingStyle(test::FieldLog& log)
         : QProxyStyle(QStyleFactory::create(QStringLiteral("fusion")))
         , m_log(log)
     {
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    FieldLog& m_log;
+    test::FieldLog& m_log;
 };
 
 /// An application's own interface, which there are as many of as are in use.
@@ -231,13 +231,13 @@ void tst_LineEditAccessibility::editIsObservedAlike()
     QFETCH(bool, listening);
     isListening = listening;
     NumberEdit field;
-    FieldLog log(&field);
+    test::FieldLog log(&field);
     LoggingStyle style(log);
     field.setStyle(&style);
     field.ensurePolished();
     log.take();
 
-    const QScopedValueRollback<FieldLog*> noting(timeline, &log);
+    const QScopedValueRollback<test::FieldLog*> noting(timeline, &log);
     QStringList first{"ShortcutOverride", "KeyPress"};
     if (listening)
         first.append(QStringLiteral("announced"));

@@ -94,7 +94,7 @@ private Q_SLOTS:
     void setTextIsNotValidated();
     void resultOutlivesTheFocus();
     void deletedValidator();
-    void polishesWithTheNewVerdict();
+    void polishesWithTheNewValidity();
     void styleSheetFollows_data();
     void styleSheetFollows();
 };
@@ -220,7 +220,7 @@ void tst_LineEditValidation::deletedValidator()
     QCOMPARE(edit.property("inputValid"), QVariant(true));
 }
 
-void tst_LineEditValidation::polishesWithTheNewVerdict()
+void tst_LineEditValidation::polishesWithTheNewValidity()
 {
     CountingStyle style;
     OpenEdit edit;

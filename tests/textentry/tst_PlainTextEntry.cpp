@@ -84,7 +84,7 @@ public:
 private:
     void watch(QObject* object)
     {
-        m_logs.push_back(std::make_unique<FieldLog>(object));
+        m_logs.push_back(std::make_unique<test::FieldLog>(object));
         m_logs.back()->setObjectName(QString::number(m_watched.size()));
         m_watched.append(object);
     }
@@ -241,7 +241,7 @@ private:
     Field* m_field = nullptr;
     QRandomGenerator m_values;
     QVector<QObject*> m_watched;
-    std::vector<std::unique_ptr<FieldLog>> m_logs;
+    std::vector<std::unique_ptr<test::FieldLog>> m_logs;
 };
 
 template <typename Field>
@@ -282,7 +282,7 @@ void tst_PlainTextEntry::same()
     QFETCH(quint32, seed);
     QVector<QStringList> expected;
     QVector<QStringList> actual;
-    play<plain::KeypadLineEdit>(seed, expected);
+    play<test::plain::KeypadLineEdit>(seed, expected);
     play<ui::KeypadLineEdit>(seed, actual);
     QCOMPARE(actual.size(), expected.size());
     for (int i = 0; i < actual.size(); ++i) {

@@ -38,13 +38,13 @@ public:
     }
     void allowEntry(bool allowed) override
     {
-        verdicts.append(allowed);
-        if (diesOfVerdict)
+        results.append(allowed);
+        if (diesOfResult)
             delete this;
     }
 
-    QVector<bool> verdicts;
-    bool diesOfVerdict = false;
+    QVector<bool> results;
+    bool diesOfResult = false;
     bool diesWhenShown = false;
 
 protected:
@@ -100,7 +100,7 @@ private Q_SLOTS:
     void cleanup();
     void none();
     void diesWhenShown();
-    void diesOfAVerdict();
+    void diesOfAResult();
     void diesInItsOwnSignal_data();
     void diesInItsOwnSignal();
     void answersAfterTheEdit_data();
@@ -189,10 +189,10 @@ void tst_UnreliableKeypad::diesWhenShown()
     edit();
 }
 
-void tst_UnreliableKeypad::diesOfAVerdict()
+void tst_UnreliableKeypad::diesOfAResult()
 {
     edit();
-    keypad()->diesOfVerdict = true;
+    keypad()->diesOfResult = true;
     QTest::keyClicks(&field(), QStringLiteral("x"));
     QVERIFY(!keypad());
     QCOMPARE(field().property("inputValid"), QVariant(true));

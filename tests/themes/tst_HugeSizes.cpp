@@ -98,7 +98,7 @@ int main(int argc, char** argv)
     if (argc == 3 && qstrcmp(argv[1], "--huge") == 0) {
         test::prepareApplication();
         const QApplication application(argc, argv);
-        test::settleApplication();
+        test::setUpApplication();
         return limitMemory() && isPictureRefused() && survives(classNamed(argv[2])) ? 0 : 1;
     }
     return test::run<tst_HugeSizes>(argc, argv);

@@ -64,7 +64,7 @@ void tst_SwitchInTwoApplications::init()
 {
     test::prepareApplication();
     m_application = std::make_unique<QApplication>(m_argc, m_argv);
-    test::settleApplication();
+    test::setUpApplication();
 }
 
 void tst_SwitchInTwoApplications::cleanup()

@@ -43,7 +43,7 @@ int main(int argc, char* argv[])
     test::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    test::settleApplication();
+    test::setUpApplication();
     applyAppearance(QApplication::arguments());
 
     Questions questions;
