@@ -121,7 +121,7 @@ private:
     KeypadLineEdit* m_field;
 };
 
-/// QLabel aligns a text by the direction of its language, which in a mirrored layout may be another.
+/// QLabel aligns a text by the direction of its language, which may not be that of the layout.
 class MirroredLabel : public QLabel
 {
 public:

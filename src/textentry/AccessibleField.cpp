@@ -49,7 +49,7 @@ void AccessibleField::releasePlainInterface(LineEdit* field)
 {
     auto* standIn = new AccessibleField;
     const QAccessible::Id id = QAccessible::registerAccessibleInterface(standIn);
-    // mutant [dropped; order]: Of no object, it would release nothing, which Qt's assertions notice.
+    // mutant [dropped; order]: Of no object, it would release nothing; Qt's assertions notice.
     standIn->m_standsFor = field;
     QAccessible::deleteAccessibleInterface(id);
 }

@@ -19,8 +19,8 @@ struct Text
 
 QString nameOf(const QWidget& widget);
 
-/// The texts in \a root, whose picture is \a picture: those of enabled widgets, or those of disabled
-/// ones. Items of views and sections of headers are texts by themselves.
+/// The texts in \a root, whose picture is \a picture: those of enabled widgets, or those of
+/// disabled ones. Items of views and sections of headers are texts by themselves.
 QVector<Text> textsIn(const QWidget& root, const QImage& picture, bool enabled = true);
 
 } // namespace test
