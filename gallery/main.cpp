@@ -3,7 +3,6 @@
 #include "GalleryWindow.h"
 #include "pages/Pages.h"
 #include "reference/ClassPictures.h"
-#include "reference/StateGalleries.h"
 #include "Screenshots.h"
 #include "TouchStyle.h"
 #include "Translations.h"

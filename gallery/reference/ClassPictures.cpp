@@ -105,3 +105,13 @@ bool takeClassPictures(const QVector<StateGallery>& galleries, const QDir& direc
     }
     return true;
 }
+
+QVector<StateGallery> stategalleries::all()
+{
+    return {
+        animator(),        breadCrumbs(),      loop(),           battery(),
+        gridButton(),      roundedFrame(),     clickableLabel(), fileBrowser(),
+        fileSystemModel(), keypadLineEdit(),   keypadPopup(),    lineEdit(),
+        scrollIndicator(), selectionControl(), switchControl(),
+    };
+}

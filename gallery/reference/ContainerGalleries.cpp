@@ -1,4 +1,4 @@
-#include "StateGalleries.h"
+#include "ClassPictures.h"
 
 #include "IconLabel.h"
 #include "pages/Picture.h"

@@ -9,21 +9,6 @@
     </message>
 </context>
 <context>
-    <name>AnimationGalleries</name>
-    <message>
-        <source>%1 ms</source>
-        <translation>%1 ms</translation>
-    </message>
-    <message>
-        <source>%1 ms, forwards</source>
-        <translation>%1 ms, vorwärts</translation>
-    </message>
-    <message>
-        <source>%1 ms, back</source>
-        <translation>%1 ms, zurück</translation>
-    </message>
-</context>
-<context>
     <name>AnimationPage</name>
     <message>
         <source>Each animation runs to its end and back again.</source>
@@ -64,45 +49,6 @@
     <message>
         <source>Stopped</source>
         <translation>Angehalten</translation>
-    </message>
-</context>
-<context>
-    <name>BatteryGallery</name>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Charging</source>
-        <translation>Lädt</translation>
-    </message>
-    <message>
-        <source>Absent</source>
-        <translation>Fehlt</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>Gesperrt</translation>
-    </message>
-    <message>
-        <source>Another fill colour</source>
-        <translation>Andere Füllfarbe</translation>
-    </message>
-    <message>
-        <source>Frame width 2</source>
-        <translation>Rahmenbreite 2</translation>
-    </message>
-    <message>
-        <source>Dark palette</source>
-        <translation>Dunkle Palette</translation>
-    </message>
-    <message>
-        <source>Dark, charging</source>
-        <translation>Dunkel, lädt</translation>
-    </message>
-    <message>
-        <source>Dark, absent</source>
-        <translation>Dunkel, fehlt</translation>
     </message>
 </context>
 <context>
@@ -258,57 +204,6 @@
     </message>
 </context>
 <context>
-    <name>CrumbGalleries</name>
-    <message>
-        <source>Two components below the root</source>
-        <translation>Zwei Teile unter der Wurzel</translation>
-    </message>
-    <message>
-        <source>More than three: the others are in a menu</source>
-        <translation>Mehr als drei: Die übrigen stehen in einem Menü</translation>
-    </message>
-    <message>
-        <source>A long name</source>
-        <translation>Ein langer Name</translation>
-    </message>
-    <message>
-        <source>Right to left</source>
-        <translation>Rechts nach links</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>Gesperrt</translation>
-    </message>
-    <message>
-        <source>Without a style sheet</source>
-        <translation>Ohne Stylesheet</translation>
-    </message>
-    <message>
-        <source>Dark palette</source>
-        <translation>Dunkle Palette</translation>
-    </message>
-    <message>
-        <source>Dark, disabled</source>
-        <translation>Dunkel, gesperrt</translation>
-    </message>
-    <message>
-        <source>Music</source>
-        <translation>Musik</translation>
-    </message>
-    <message>
-        <source>A rather long name of a directory</source>
-        <translation>Ein ziemlich langer Verzeichnisname</translation>
-    </message>
-    <message>
-        <source>A text with room enough</source>
-        <translation>Ein Text mit genug Platz</translation>
-    </message>
-    <message>
-        <source>A text too long</source>
-        <translation>Ein zu langer Text</translation>
-    </message>
-</context>
-<context>
     <name>DoubleEditor</name>
     <message>
         <source>Number</source>
@@ -361,6 +256,54 @@
 <context>
     <name>FileGalleries</name>
     <message>
+        <source>Two components below the root</source>
+        <translation>Zwei Teile unter der Wurzel</translation>
+    </message>
+    <message>
+        <source>More than three: the others are in a menu</source>
+        <translation>Mehr als drei: Die übrigen stehen in einem Menü</translation>
+    </message>
+    <message>
+        <source>A long name</source>
+        <translation>Ein langer Name</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Without a style sheet</source>
+        <translation>Ohne Stylesheet</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+    <message>
+        <source>Dark, disabled</source>
+        <translation>Dunkel, gesperrt</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>A rather long name of a directory</source>
+        <translation>Ein ziemlich langer Verzeichnisname</translation>
+    </message>
+    <message>
+        <source>A text with room enough</source>
+        <translation>Ein Text mit genug Platz</translation>
+    </message>
+    <message>
+        <source>A text too long</source>
+        <translation>Ein zu langer Text</translation>
+    </message>
+    <message>
         <source>Tile view</source>
         <translation>Kachelansicht</translation>
     </message>
@@ -379,18 +322,6 @@
     <message>
         <source>Texts and tables only</source>
         <translation>Nur Texte und Tabellen</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>Gesperrt</translation>
-    </message>
-    <message>
-        <source>Right to left</source>
-        <translation>Rechts nach links</translation>
-    </message>
-    <message>
-        <source>Dark palette</source>
-        <translation>Dunkle Palette</translation>
     </message>
     <message>
         <source>This model in a QTreeView</source>
@@ -616,6 +547,89 @@
     <message>
         <source>You tapped &quot;%1&quot;.</source>
         <translation>Angetippt: „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>IndicatorGalleries</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Lädt</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Another fill colour</source>
+        <translation>Andere Füllfarbe</translation>
+    </message>
+    <message>
+        <source>Frame width 2</source>
+        <translation>Rahmenbreite 2</translation>
+    </message>
+    <message>
+        <source>Dark palette</source>
+        <translation>Dunkle Palette</translation>
+    </message>
+    <message>
+        <source>Dark, charging</source>
+        <translation>Dunkel, lädt</translation>
+    </message>
+    <message>
+        <source>Dark, absent</source>
+        <translation>Dunkel, fehlt</translation>
+    </message>
+    <message>
+        <source>At the top</source>
+        <translation>Ganz oben</translation>
+    </message>
+    <message>
+        <source>In the middle</source>
+        <translation>In der Mitte</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>Ganz unten</translation>
+    </message>
+    <message>
+        <source>Nothing to scroll</source>
+        <translation>Nichts zu rollen</translation>
+    </message>
+    <message>
+        <source>Highlighted</source>
+        <translation>Hervorgehoben</translation>
+    </message>
+    <message>
+        <source>Much to scroll</source>
+        <translation>Viel zu rollen</translation>
+    </message>
+    <message>
+        <source>Dark, highlighted</source>
+        <translation>Dunkel, hervorgehoben</translation>
+    </message>
+    <message>
+        <source>Horizontal, at the start</source>
+        <translation>Waagrecht, am Anfang</translation>
+    </message>
+    <message>
+        <source>Horizontal, in the middle</source>
+        <translation>Waagrecht, in der Mitte</translation>
+    </message>
+    <message>
+        <source>Horizontal, at the end</source>
+        <translation>Waagrecht, am Ende</translation>
+    </message>
+    <message>
+        <source>Right to left, near the start</source>
+        <translation>Rechts nach links, nahe dem Anfang</translation>
     </message>
 </context>
 <context>
@@ -849,57 +863,6 @@
     <message>
         <source>cannot write &quot;%1&quot;</source>
         <translation>„%1“ lässt sich nicht schreiben</translation>
-    </message>
-</context>
-<context>
-    <name>ScrollIndicatorGallery</name>
-    <message>
-        <source>At the top</source>
-        <translation>Ganz oben</translation>
-    </message>
-    <message>
-        <source>In the middle</source>
-        <translation>In der Mitte</translation>
-    </message>
-    <message>
-        <source>At the bottom</source>
-        <translation>Ganz unten</translation>
-    </message>
-    <message>
-        <source>Nothing to scroll</source>
-        <translation>Nichts zu rollen</translation>
-    </message>
-    <message>
-        <source>Highlighted</source>
-        <translation>Hervorgehoben</translation>
-    </message>
-    <message>
-        <source>Much to scroll</source>
-        <translation>Viel zu rollen</translation>
-    </message>
-    <message>
-        <source>Dark palette</source>
-        <translation>Dunkle Palette</translation>
-    </message>
-    <message>
-        <source>Dark, highlighted</source>
-        <translation>Dunkel, hervorgehoben</translation>
-    </message>
-    <message>
-        <source>Horizontal, at the start</source>
-        <translation>Waagrecht, am Anfang</translation>
-    </message>
-    <message>
-        <source>Horizontal, in the middle</source>
-        <translation>Waagrecht, in der Mitte</translation>
-    </message>
-    <message>
-        <source>Horizontal, at the end</source>
-        <translation>Waagrecht, am Ende</translation>
-    </message>
-    <message>
-        <source>Right to left, near the start</source>
-        <translation>Rechts nach links, nahe dem Anfang</translation>
     </message>
 </context>
 <context>
@@ -1203,6 +1166,18 @@
 </context>
 <context>
     <name>ToggleGalleries</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, forwards</source>
+        <translation>%1 ms, vorwärts</translation>
+    </message>
+    <message>
+        <source>%1 ms, back</source>
+        <translation>%1 ms, zurück</translation>
+    </message>
     <message>
         <source>Wi-Fi</source>
         <translation>WLAN</translation>

@@ -2,7 +2,6 @@
 #include "Appearance.h"
 #include "OffscreenMessages.h"
 #include "reference/ClassPictures.h"
-#include "reference/StateGalleries.h"
 #include "Rendering.h"
 #include "TestApplication.h"
 
