@@ -2,11 +2,12 @@
 
 #include "GalleryPage.h"
 
+#include <QBasicTimer>
 #include <QHash>
+#include <QObject>
 #include <QPointer>
 #include <QWidget>
 
-class ObjectWatcher;
 class PropertyGroup;
 namespace ui {
 class KeypadLineEdit;
@@ -17,6 +18,40 @@ class QComboBox;
 class QScrollArea;
 class QVBoxLayout;
 QT_END_NAMESPACE
+
+/**
+ * Tells when an object may have changed: a signal of it, a change event or a painting tells so.
+ *
+ * It looks at nothing by itself, so an object at rest costs nothing. Several changes in a short
+ * time are told as one.
+ */
+class ObjectWatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ObjectWatcher(QObject* parent = nullptr);
+
+    /// Watches \a target alone from now on; null for none.
+    void setTarget(QObject* target);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private Q_SLOTS:
+    void schedule();
+
+private:
+    void connectSignals();
+
+    QPointer<QObject> m_target;
+    QBasicTimer m_timer;
+};
 
 /**
  * Edits the Qt properties of one of several widgets, straight from its meta-object: a group per

@@ -1,12 +1,129 @@
 #include "PropertyGroup.h"
 
-#include "PropertyRow.h"
+#include "PropertyList.h"
 #include "Touch.h"
+#include "ValueEditor.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <QToolButton>
 
 #include <algorithm>
+
+namespace {
+
+/// Of the dynamic property that remembers a value from before the first edit.
+QByteArray memory(const QByteArray& name)
+{
+    return "_q_before_" + name;
+}
+
+QVariant valueBeforeEdits(const QObject& object, const QByteArray& name)
+{
+    return object.property(memory(name).constData());
+}
+
+void rememberBeforeEdits(QObject* object, const QByteArray& name)
+{
+    if (!valueBeforeEdits(*object, name).isValid())
+        object->setProperty(memory(name).constData(), propertyValue(*object, name));
+}
+
+QToolButton* makeResetButton()
+{
+    auto* button = new QToolButton;
+    button->setObjectName(QStringLiteral("resetButton"));
+    button->setText(QChar(0x21ba));
+    button->setAccessibleName(PropertyRow::tr("Reset"));
+    button->setAutoRaise(true);
+    button->setFixedSize(touch::targetSize, touch::targetSize);
+    return button;
+}
+
+} // namespace
+
+PropertyRow::PropertyRow(QObject* target, const QByteArray& name, QWidget* parent)
+    : QWidget(parent)
+    , m_target(target)
+    , m_name(name)
+    , m_editor(makeValueEditor(*target, name))
+    , m_resetButton(makeResetButton())
+    , m_shown(propertyValue(*target, name))
+{
+    layOut();
+    m_editor->setValue(m_shown);
+    m_resetButton->setVisible(valueBeforeEdits(*target, name).isValid());
+    connect(m_editor, &ValueEditor::edited, this, &PropertyRow::edit);
+    connect(m_resetButton, &QToolButton::clicked, this, &PropertyRow::reset);
+}
+
+const QByteArray& PropertyRow::name() const
+{
+    return m_name;
+}
+
+ValueEditor* PropertyRow::editor() const
+{
+    return m_editor;
+}
+
+void PropertyRow::refresh()
+{
+    if (!m_target)
+        return;
+    const QVariant value = propertyValue(*m_target, m_name);
+    if (value == m_shown)
+        return;
+    m_shown = value;
+    m_editor->setValue(value);
+}
+
+void PropertyRow::layOut()
+{
+    auto* heading = new QHBoxLayout;
+    heading->setSpacing(2);
+    heading->addWidget(touch::makeElidedLabel(QString::fromLatin1(m_name)), 1);
+    heading->addWidget(m_resetButton);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 2, 0, 2);
+    column->setSpacing(2);
+    column->addLayout(heading);
+    if (m_editor->isNarrow())
+        heading->addWidget(m_editor);
+    else
+        column->addWidget(m_editor);
+}
+
+void PropertyRow::edit(const QVariant& value)
+{
+    if (!m_target)
+        return;
+    rememberBeforeEdits(m_target, m_name);
+    m_resetButton->show();
+    write(value);
+}
+
+void PropertyRow::reset()
+{
+    if (!m_target)
+        return;
+    const QVariant before = valueBeforeEdits(*m_target, m_name);
+    m_target->setProperty(memory(m_name).constData(), QVariant());
+    m_resetButton->hide();
+    write(before);
+}
+
+void PropertyRow::write(const QVariant& value)
+{
+    setPropertyValue(m_target, m_name, value);
+
+    // Also where the property has kept its value: the editor still shows what was entered.
+    if (m_target)
+        m_shown = propertyValue(*m_target, m_name);
+    m_editor->setValue(m_shown);
+    Q_EMIT edited();
+}
 
 namespace {
 

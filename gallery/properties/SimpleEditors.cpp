@@ -1,7 +1,7 @@
 #include "SimpleEditors.h"
 
 #include "Touch.h"
-#include "ValueText.h"
+#include "ValueEditor.h"
 
 #include <Switch.h>
 #include <ui/KeypadLineEdit.h>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QVariant>
 #include <QWidget>
 
@@ -28,3 +29,6 @@ Q_SIGNALS:
 /// An editor fit for the property \a name of \a object, or a read-only display if it cannot be
 /// edited.
 ValueEditor* makeValueEditor(const QObject& object, const QByteArray& name);
+
+/// A short text for a value of any type.
+QString valueText(const QVariant& value);

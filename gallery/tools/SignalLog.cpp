@@ -1,6 +1,6 @@
 #include "SignalLog.h"
 
-#include "properties/ValueText.h"
+#include "properties/ValueEditor.h"
 #include "Touch.h"
 
 #include <QLineEdit>

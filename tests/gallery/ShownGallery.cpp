@@ -4,7 +4,7 @@
 #include "OffscreenMessages.h"
 #include "pages/Pages.h"
 #include "properties/PropertyEditor.h"
-#include "properties/PropertyRow.h"
+#include "properties/PropertyGroup.h"
 #include "tools/SignalLog.h"
 #include "TouchStyle.h"
 

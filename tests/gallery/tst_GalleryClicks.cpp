@@ -2,7 +2,7 @@
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
 #include "properties/PropertyEditor.h"
-#include "properties/PropertyRow.h"
+#include "properties/PropertyGroup.h"
 #include "SampleWidget.h"
 #include "TestApplication.h"
 #include "XPointer.h"

@@ -4,7 +4,7 @@
 #include "pages/Pages.h"
 #include "properties/HiddenValues.h"
 #include "properties/PropertyEditor.h"
-#include "properties/PropertyRow.h"
+#include "properties/PropertyGroup.h"
 #include "properties/ValueEditor.h"
 #include "ShownGallery.h"
 #include "StyleSheetFile.h"

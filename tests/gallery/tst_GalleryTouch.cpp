@@ -4,7 +4,7 @@
 #include "pages/Pages.h"
 #include "properties/HiddenValues.h"
 #include "properties/PropertyEditor.h"
-#include "properties/PropertyRow.h"
+#include "properties/PropertyGroup.h"
 #include "TestApplication.h"
 #include "tools/SignalLog.h"
 #include "TouchStyle.h"

@@ -1,7 +1,6 @@
 #include "properties/PropertyEditor.h"
 #include "properties/PropertyGroup.h"
 #include "properties/PropertyList.h"
-#include "properties/PropertyRow.h"
 #include "SampleWidget.h"
 #include "TestApplication.h"
 

@@ -1,4 +1,4 @@
-#include "properties/PropertyRow.h"
+#include "properties/PropertyGroup.h"
 #include "properties/SimpleEditors.h"
 #include "properties/ValueEditor.h"
 #include "SampleWidget.h"
