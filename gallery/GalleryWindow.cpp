@@ -1,16 +1,11 @@
 #include "GalleryWindow.h"
 
-#include "DemoWidgetPicker.h"
 #include "FlowLayout.h"
 #include "GalleryPage.h"
 #include "PageView.h"
 #include "properties/PropertyEditor.h"
-#include "Reference.h"
 #include "StyleSheetFile.h"
-#include "tools/CodeView.h"
-#include "tools/SignalLog.h"
-#include "tools/StyleSheetEditor.h"
-#include "tools/TargetMark.h"
+#include "tools/Tools.h"
 #include "Touch.h"
 
 #include <Switch.h>

@@ -2,11 +2,23 @@
 
 #include "pages/Pages.h"
 
+#include <QString>
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QLabel;
 QT_END_NAMESPACE
+
+/// Where the reference of the library's classes is.
+namespace reference {
+
+/// The page of \a className, its namespaces included, in the file system; empty if there is none.
+QString classPage(const QString& className);
+
+/// \a className without its namespaces.
+QString shortName(const QString& className);
+
+} // namespace reference
 
 /// A page below links to the reference of its classes.
 class PageView : public QWidget

@@ -1,6 +1,5 @@
 #include "GalleryPage.h"
 #include "Pages.h"
-#include "PowerSupplyEvents.h"
 #include "properties/HiddenValues.h"
 #include "SystemBattery.h"
 #include "Touch.h"

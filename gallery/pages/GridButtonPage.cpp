@@ -1,5 +1,5 @@
+#include "DemoParts.h"
 #include "GalleryPage.h"
-#include "IconLabel.h"
 #include "Pages.h"
 #include "Touch.h"
 

@@ -1,11 +1,9 @@
-#include "Beacon.h"
-#include "ColouredSwitch.h"
+#include "DemoParts.h"
 #include "FlowLayout.h"
 #include "GalleryPage.h"
 #include "Glow.h"
 #include "Lamp.h"
 #include "Pages.h"
-#include "Picture.h"
 #include "properties/HiddenValues.h"
 #include "Touch.h"
 

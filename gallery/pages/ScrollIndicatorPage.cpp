@@ -1,6 +1,6 @@
+#include "DemoParts.h"
 #include "GalleryPage.h"
 #include "Pages.h"
-#include "Picture.h"
 #include "Touch.h"
 
 #include <ui/ScrollIndicatorBar.h>

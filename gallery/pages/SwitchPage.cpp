@@ -1,4 +1,4 @@
-#include "ColouredSwitch.h"
+#include "DemoParts.h"
 #include "GalleryPage.h"
 #include "Pages.h"
 #include "Touch.h"

@@ -1,7 +1,7 @@
 #include "ClassPictures.h"
 
 #include "Appearance.h"
-#include "Rendering.h"
+#include "Screenshots.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>

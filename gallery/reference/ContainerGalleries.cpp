@@ -1,7 +1,6 @@
 #include "ClassPictures.h"
 
-#include "IconLabel.h"
-#include "pages/Picture.h"
+#include "pages/DemoParts.h"
 
 #include <ui/CGridArrangedButton.h>
 #include <ui/CRoundedFrame.h>

@@ -1,6 +1,6 @@
 #include "ClassPictures.h"
 
-#include "Rendering.h"
+#include "Screenshots.h"
 
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>

@@ -1,9 +1,8 @@
 #include "ClassPictures.h"
 
-#include "ColouredSwitch.h"
 #include "Glow.h"
 #include "Lamp.h"
-#include "pages/Beacon.h"
+#include "pages/DemoParts.h"
 
 #include <Animator.h>
 #include <Switch.h>

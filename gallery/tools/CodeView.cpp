@@ -1,4 +1,4 @@
-#include "CodeView.h"
+#include "Tools.h"
 
 #include "Touch.h"
 

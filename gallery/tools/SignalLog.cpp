@@ -1,4 +1,4 @@
-#include "SignalLog.h"
+#include "Tools.h"
 
 #include "properties/ValueEditor.h"
 #include "Touch.h"

@@ -1,4 +1,4 @@
-#include "StyleSheetEditor.h"
+#include "Tools.h"
 
 #include "StyleSheetFile.h"
 #include "Touch.h"

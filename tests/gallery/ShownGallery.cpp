@@ -5,7 +5,7 @@
 #include "pages/Pages.h"
 #include "properties/PropertyEditor.h"
 #include "properties/PropertyGroup.h"
-#include "tools/SignalLog.h"
+#include "tools/Tools.h"
 #include "TouchStyle.h"
 
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #include "TestApplication.h"
 
 #include "GalleryPage.h"
+#include "pages/DemoParts.h"
 #include "pages/Pages.h"
-#include <pages/Beacon.h>
 
 #include <QPropertyAnimation>
 #include <QPushButton>

@@ -1,8 +1,8 @@
 #include "GalleryPage.h"
 #include "pages/Pages.h"
 #include "Painting.h"
-#include "PowerSupplyEvents.h"
 #include "PowerSupplyTree.h"
+#include "SystemBattery.h"
 #include "TestApplication.h"
 
 #include "ui/CBatteryStatusWidget.h"

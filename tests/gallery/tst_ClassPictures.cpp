@@ -2,7 +2,7 @@
 #include "Appearance.h"
 #include "OffscreenMessages.h"
 #include "reference/ClassPictures.h"
-#include "Rendering.h"
+#include "Screenshots.h"
 #include "TestApplication.h"
 
 #include <QBoxLayout>

@@ -9,8 +9,7 @@
 #include "ShownGallery.h"
 #include "StyleSheetFile.h"
 #include "TestApplication.h"
-#include "tools/CodeView.h"
-#include "tools/TargetMark.h"
+#include "tools/Tools.h"
 
 #include <ClickableLabel.h>
 #include <Switch.h>

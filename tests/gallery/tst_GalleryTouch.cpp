@@ -6,7 +6,7 @@
 #include "properties/PropertyEditor.h"
 #include "properties/PropertyGroup.h"
 #include "TestApplication.h"
-#include "tools/SignalLog.h"
+#include "tools/Tools.h"
 #include "TouchStyle.h"
 #include "XPointer.h"
 

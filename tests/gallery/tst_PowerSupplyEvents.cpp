@@ -1,4 +1,4 @@
-#include "PowerSupplyEvents.h"
+#include "SystemBattery.h"
 #include "TestApplication.h"
 
 #include <QSignalSpy>

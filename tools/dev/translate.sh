@@ -7,7 +7,7 @@
 #
 # The translation is gallery/translations/gallery_LANGUAGE.ts. What is new in it is unfinished until a
 # translator has filled it in, with Qt Linguist or an editor; texts that are gone are dropped. A new
-# language becomes part of the gallery by its name in gallery/Translations.cmake.
+# language becomes part of the gallery by its name in gallery/CMakeLists.txt.
 
 case "${1:-}" in
     -*) unknown_option translate "$1" ;;
