@@ -1,7 +1,10 @@
 #include "Crowd.h"
 
+#include "Shown.h"
+
 #include <QCoreApplication>
-#include <QEvent>
+
+#include <algorithm>
 
 namespace bench {
 
@@ -12,13 +15,14 @@ constexpr QSize place(100, 60);
 
 } // namespace
 
-Crowd::Crowd(Maker maker, int size)
+Crowd::Crowd(Maker maker, int size, Ready ready)
     : m_maker(std::move(maker))
+    , m_ready(ready)
     , m_members(size, nullptr)
 {
     m_window.resize(columns * place.width(), (size / columns + 1) * place.height());
     m_window.show();
-    QCoreApplication::processEvents();
+    deliverEvents();
 }
 
 void Crowd::make()
@@ -36,8 +40,11 @@ void Crowd::show()
         member->show();
         ++index;
     }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    m_window.repaint();
+    deliverEvents();
+    while (!isReady()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        deliverEvents();
+    }
 }
 
 void Crowd::destroy()
@@ -46,6 +53,12 @@ void Crowd::destroy()
         delete member;
         member = nullptr;
     }
+    deliverEvents();
+}
+
+bool Crowd::isReady() const
+{
+    return !m_ready || std::all_of(m_members.begin(), m_members.end(), m_ready);
 }
 
 } // namespace bench

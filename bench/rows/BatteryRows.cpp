@@ -1,5 +1,6 @@
 #include "Painting.h"
 #include "Rows.h"
+#include "Shown.h"
 
 #include <ui/CBatteryStatusWidget.h>
 
@@ -25,12 +26,17 @@ std::shared_ptr<ui::CBatteryStatusWidget> battery(int percent, bool charging)
     return result;
 }
 
+void setUp(QProgressBar& bar)
+{
+    bar.setOrientation(Qt::Vertical);
+    bar.setTextVisible(false);
+    bar.resize(batterySize);
+}
+
 std::shared_ptr<QProgressBar> progressBar(int percent)
 {
     auto result = std::make_shared<QProgressBar>();
-    result->setOrientation(Qt::Vertical);
-    result->setTextVisible(false);
-    result->resize(batterySize);
+    setUp(*result);
     result->setValue(percent);
     return result;
 }
@@ -77,27 +83,26 @@ Work bareBattery(bool charging)
     });
 }
 
-/// From 0 to 100, with the painting of what each step damages.
+/// From 0 to 100 by one percent after the other.
 Work chargeRun()
 {
-    const auto widget = battery(0, false);
-    const Work repaint = paint(widget, body);
-    return [widget, repaint] {
+    const auto battery = std::make_shared<Shown<ui::CBatteryStatusWidget>>(batterySize);
+    return [battery] {
         for (int percent = 0; percent <= 100; ++percent) {
-            widget->setChargePercentage(percent);
-            repaint();
+            (*battery)->setChargePercentage(percent);
+            deliverEvents();
         }
     };
 }
 
 Work progressRun()
 {
-    const auto widget = progressBar(0);
-    const Work repaint = paint(widget);
-    return [widget, repaint] {
+    const auto bar = std::make_shared<Shown<QProgressBar>>(batterySize);
+    setUp(**bar);
+    return [bar] {
         for (int percent = 0; percent <= 100; ++percent) {
-            widget->setValue(percent);
-            repaint();
+            (*bar)->setValue(percent);
+            deliverEvents();
         }
     };
 }

@@ -3,12 +3,19 @@
 #include "AllClasses.h"
 #include "Crowd.h"
 #include "PlainPopup.h"
+#include "Shown.h"
 
+#include <ui/CGridArrangedButton.h>
 #include <ui/FileBrowserWidget.h>
 #include <ui/KeypadPopup.h>
 #include <ui/LineEdit.h>
 
+#include <QFile>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -28,6 +35,7 @@ struct Kind
     const char* counterpartName;
     Crowd::Maker counterpart;
     int count = many;
+    Crowd::Ready ready = nullptr;
 };
 
 QWidget* makeFieldWithPopup(QWidget* parent)
@@ -44,21 +52,79 @@ QWidget* makeFieldWithPlainPopup(QWidget* parent)
     return field;
 }
 
+QWidget* makeButtonWithGrid(QWidget* parent)
+{
+    auto* button = new ui::CGridArrangedButton(parent);
+    button->addWidget(new QLabel(QStringLiteral("1")), 0, 0);
+    return button;
+}
+
+QWidget* makePlainButtonWithGrid(QWidget* parent)
+{
+    auto* button = new QPushButton(parent);
+    (new QGridLayout(button))->addWidget(new QLabel(QStringLiteral("1")), 0, 0);
+    return button;
+}
+
+/// A directory of \a count files, which is there until the program ends.
+template <int count>
+const QString& directory()
+{
+    static const QTemporaryDir dir;
+    static const QString path = [] {
+        for (int i = 0; i < count; ++i)
+            QFile(dir.filePath(QString::number(i))).open(QIODevice::WriteOnly);
+        return dir.path();
+    }();
+    return path;
+}
+
+template <int count>
+QWidget* makeBrowser(QWidget* parent)
+{
+    auto* browser = new ui::FileBrowserWidget(parent);
+    browser->setAllowedDirs({directory<count>()});
+    return browser;
+}
+
+/// As a part of the window.
+template <int count>
+QWidget* makeFileDialog(QWidget* parent)
+{
+    auto* dialog = new QFileDialog(parent, QString(), directory<count>());
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setViewMode(QFileDialog::List);
+    dialog->setWindowFlags(Qt::Widget);
+    return dialog;
+}
+
+template <int count>
+bool showsAllFiles(const QWidget* browser)
+{
+    return showsFiles(*browser, count);
+}
+
 /// All widgets to which Qt has a counterpart.
 QVector<Kind> kinds()
 {
-    QVector<Kind> result{{"LineEdit with a hidden KeypadPopup", makeFieldWithPopup,
-                          "QLineEdit with the keypad in a plain pop-up", makeFieldWithPlainPopup,
-                          some}};
+    constexpr int files = 15; // as many as fill a screen
+    QVector<Kind> result{
+        {"CGridArrangedButton with a label", makeButtonWithGrid,
+         "QPushButton with a QGridLayout and a label", makePlainButtonWithGrid},
+        {"LineEdit with a hidden KeypadPopup", makeFieldWithPopup,
+         "QLineEdit with the keypad in a plain pop-up", makeFieldWithPlainPopup, some},
+        {"FileBrowserWidget, no files", makeBrowser<0>, "QFileDialog", makeFileDialog<0>, few},
+        {"FileBrowserWidget, 15 files", makeBrowser<files>, "QFileDialog", makeFileDialog<files>,
+         few, showsAllFiles<files>},
+    };
     for (const test::ClassInfo& info : test::allClasses()) {
-        if (!info.counterpart.create)
+        const bool isBrowser = info.metaObject == &ui::FileBrowserWidget::staticMetaObject;
+        if (!info.counterpart.create || isBrowser) // which shows a directory, above
             continue;
         const auto make = [info](QWidget* parent) {
             return static_cast<QWidget*>(info.create(parent));
         };
-        const bool isBrowser = info.metaObject == &ui::FileBrowserWidget::staticMetaObject;
-        result.append({info.name, make, info.counterpart.name, info.counterpart.create,
-                       isBrowser ? few : many});
+        result.append({info.name, make, info.counterpart.name, info.counterpart.create});
     }
     return result;
 }
@@ -85,10 +151,10 @@ const Phase phases[] = {
      }},
 };
 
-Setup live(const Crowd::Maker& maker, int count, const Phase& phase)
+Setup live(const Crowd::Maker& maker, const Kind& kind, const Phase& phase)
 {
-    return [maker, count, phase] {
-        const auto crowd = std::make_shared<Crowd>(maker, count);
+    return [maker, count = kind.count, ready = kind.ready, phase] {
+        const auto crowd = std::make_shared<Crowd>(maker, count, ready);
         return Work([crowd, phase] { phase.run(*crowd); },
                     [crowd, phase] { phase.prepare(*crowd); });
     };
@@ -98,9 +164,9 @@ Row phaseRow(const Kind& kind, const Phase& phase)
 {
     const QString name = QStringLiteral("%1 of %2, %3");
     return {name.arg(kind.count).arg(QLatin1String(kind.name), QLatin1String(phase.name)),
-            live(kind.ours, kind.count, phase),
+            live(kind.ours, kind, phase),
             QLatin1String(kind.counterpartName),
-            live(kind.counterpart, kind.count, phase),
+            live(kind.counterpart, kind, phase),
             {},
             kind.count};
 }

@@ -31,14 +31,28 @@ std::shared_ptr<QWidget> roundedFrame(const Look& look)
     return frame;
 }
 
-/// A QFrame with the rounded look that one gives it by a style sheet.
+QString borderOf(const Look& look)
+{
+    if (look.shadow == QFrame::Plain)
+        return QStringLiteral("black");
+    return QStringLiteral("qlineargradient(x1: 0, y1: 0, x2: 1, y2: 1,"
+                          " stop: 0.4 palette(light), stop: 1 palette(dark))");
+}
+
+/// A QFrame with the rounded look that one gives it by a style sheet, and by a mask.
 std::shared_ptr<QWidget> styledFrame(const Look& look)
 {
     auto frame = std::make_shared<QFrame>();
     frame->setStyleSheet(
-        QStringLiteral("QFrame { border: 2px solid black; border-radius: 18px; %1 }")
-            .arg(look.filled ? QStringLiteral("background: palette(window);") : QString()));
+        QStringLiteral("QFrame { border: 2px solid %1; border-radius: 18px; %2 }")
+            .arg(borderOf(look),
+                 look.filled ? QStringLiteral("background: palette(window);") : QString()));
     frame->resize(frameSize);
+    if (look.masked) {
+        QPainterPath path;
+        path.addRoundedRect(frame->rect(), 18, 18);
+        frame->setMask(path.toFillPolygon().toPolygon());
+    }
     return frame;
 }
 

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QLineEdit>
+#include <QPixmapCache>
 
 #include <memory>
 
@@ -119,7 +120,8 @@ private:
     QWidget* m_popup = nullptr;
 };
 
-template <typename Form>
+/// Of the first field of an application, whose style has painted no key yet, or of another one.
+template <typename Form, bool anotherField>
 Work openFirst()
 {
     const auto form = std::make_shared<std::unique_ptr<Form>>();
@@ -127,6 +129,8 @@ Work openFirst()
                 [form] {
                     form->reset();
                     *form = std::make_unique<Form>();
+                    if (!anotherField)
+                        QPixmapCache::clear();
                 });
 }
 
@@ -145,9 +149,14 @@ QVector<Row> keypadRows()
     const QString counterpart = QStringLiteral("QLineEdit and the keypad in a plain pop-up");
     return {
         {QStringLiteral("keypad, first opening"),
-         openFirst<OwnForm>,
+         openFirst<OwnForm, false>,
          counterpart,
-         openFirst<PlainForm>,
+         openFirst<PlainForm, false>,
+         {}},
+        {QStringLiteral("keypad, first opening by a second field"),
+         openFirst<OwnForm, true>,
+         counterpart,
+         openFirst<PlainForm, true>,
          {}},
         {QStringLiteral("keypad, later opening"),
          openAgain<OwnForm>,

@@ -1,5 +1,6 @@
 #include "Painting.h"
 #include "Rows.h"
+#include "Shown.h"
 
 #include <ui/ScrollIndicatorBar.h>
 
@@ -9,13 +10,20 @@ namespace bench {
 
 namespace {
 
-constexpr int length = 300;
+constexpr QSize barSize(5, 300); // of the scroll bars too
+
+/// A scroll bar as slim and flat as the indicator, as one makes it with Qt alone.
+const char* const styleSheet =
+    "QScrollBar:vertical { width: 5px; background: lightgray; margin: 0; border: none; }"
+    "QScrollBar::handle:vertical { background: gray; min-height: 5px; }"
+    "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
+    "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }";
 
 void setUp(QScrollBar& bar)
 {
     bar.setRange(0, 1000);
     bar.setPageStep(200);
-    bar.resize(bar.sizeHint().width(), length);
+    bar.resize(barSize);
 }
 
 template <typename Bar>
@@ -28,10 +36,10 @@ std::shared_ptr<QWidget> idleBar()
 
 Work bareIndicator()
 {
-    return draw({5, length}, [](QPainter& painter) {
+    return draw(barSize, [](QPainter& painter) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Qt::lightGray);
-        const QRect groove(0, 0, 5, length);
+        const QRect groove(QPoint(0, 0), barSize);
         painter.drawRects(&groove, 1);
         painter.setBrush(Qt::NoBrush);
         for (int x = 0; x < 5; ++x) {
@@ -42,16 +50,27 @@ Work bareIndicator()
     });
 }
 
-/// A step to and fro, and the painting that follows it.
+/// To and fro, in turns.
 template <typename Bar>
-Work scrollStep()
+Work scroll(const QString& sheet)
 {
-    auto bar = std::static_pointer_cast<Bar>(idleBar<Bar>());
-    const Work repaint = paint(bar);
-    return [bar, repaint] {
-        bar->setValue(bar->value() == 0 ? 10 : 0);
-        repaint();
+    const auto bar = std::make_shared<Shown<Bar>>(barSize);
+    setUp(**bar);
+    (*bar)->setStyleSheet(sheet);
+    deliverEvents();
+    return [bar] {
+        (*bar)->setValue((*bar)->value() == 0 ? 10 : 0);
+        deliverEvents();
     };
+}
+
+Row scrollRow(const QString& name, const QString& counterpart, const QString& sheet)
+{
+    return {name,
+            [] { return scroll<ui::widgets::ScrollIndicatorBar>(QString()); },
+            counterpart,
+            [sheet] { return scroll<QScrollBar>(sheet); },
+            {}};
 }
 
 Work highlight()
@@ -71,15 +90,17 @@ Work highlight()
 
 QVector<Row> scrollIndicatorRows()
 {
-    const QString counterpart = QStringLiteral("QScrollBar");
+    const QString plain = QStringLiteral("QScrollBar, as slim");
+    const QString styled = QStringLiteral("QScrollBar with a style sheet, as slim and flat");
     return {
         {QStringLiteral("scroll indicator"),
-         [] { return paint(idleBar<ui::widgets::ScrollIndicatorBar>()); }, counterpart,
+         [] { return paint(idleBar<ui::widgets::ScrollIndicatorBar>()); }, plain,
          [] { return paint(idleBar<QScrollBar>()); }, bareIndicator},
-        {QStringLiteral("scroll indicator, a step"), scrollStep<ui::widgets::ScrollIndicatorBar>,
-         counterpart, scrollStep<QScrollBar>, bareIndicator},
-        {QStringLiteral("scroll indicator, a highlight"), highlight, counterpart,
+        {QStringLiteral("scroll indicator, a highlight"), highlight, plain,
          [] { return paint(idleBar<QScrollBar>()); }, bareIndicator},
+        scrollRow(QStringLiteral("scroll indicator, a step beside a plain bar"), plain, QString()),
+        scrollRow(QStringLiteral("scroll indicator, a step"), styled,
+                  QString::fromLatin1(styleSheet)),
     };
 }
 

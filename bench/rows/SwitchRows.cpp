@@ -1,14 +1,13 @@
 #include "Painting.h"
 #include "Rows.h"
+#include "Shown.h"
 
 #include <Animator.h>
 #include <Switch.h>
 
-#include <QApplication>
+#include <QAnimationDriver>
 #include <QCheckBox>
 #include <QPainter>
-#include <QResizeEvent>
-#include <QSlider>
 
 namespace bench {
 
@@ -16,7 +15,7 @@ namespace {
 
 const QSize plainSize(56, 40);
 const QSize labelledSize(160, 40);
-constexpr int frames = 9; // 150 ms at 60 frames in a second
+constexpr int frameTime = 16; // milliseconds
 
 struct Look
 {
@@ -47,22 +46,24 @@ QPixmap shadow()
     return pixmap;
 }
 
+/// The track, the shadow and the thumb where a switch of the default height has them.
 Work bareSwitch(const Look& look)
 {
-    return draw(look.size(), [look, pixmap = shadow()](QPainter& painter) {
+    const double centre = look.on ? 35 : 17;
+    return draw(look.size(), [look, centre, pixmap = shadow()](QPainter& painter) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0, 0, 0, 97));
+        painter.setBrush(QColor(0, 0, 0, look.on ? 128 : 64));
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawRoundedRect(QRectF(8, 10, 40, 20), 8, 8);
+        painter.drawRoundedRect(QRectF(8, 10, 36, 16), 8, 8);
         painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.drawPixmap(QPointF(22.5, 6.5), pixmap);
+        painter.drawPixmap(QPointF(centre - 14.5, 4.5), pixmap);
         painter.setBrush(Qt::black);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawEllipse(QRectF(25.5, 8.5, 23, 23));
+        painter.drawEllipse(QRectF(centre - 11.5, 6.5, 23, 23));
         painter.setRenderHint(QPainter::Antialiasing, false);
         if (!look.text.isEmpty()) {
             painter.setPen(Qt::black);
-            painter.drawText(QRect(56, 0, 104, 40), Qt::AlignLeft | Qt::AlignVCenter, look.text);
+            painter.drawText(QRect(52, 0, 108, 40), Qt::AlignLeft | Qt::AlignVCenter, look.text);
         }
     });
 }
@@ -73,53 +74,97 @@ Row paintRow(const Look& look)
             [look] { return paint(button<QCheckBox>(look)); }, [look] { return bareSwitch(look); }};
 }
 
-/// Every frame of a transition: the animators a step on, and the painting that follows.
-Work animate()
+/// In the middle of a transition.
+Work paintFrame()
 {
     const auto control = button<Switch>({{}, {}, true});
-    const QList<Animator*> animators = control->findChildren<Animator*>();
-    const Work repaint = paint(control);
-    return [control, animators, repaint] {
-        for (int frame = 1; frame <= frames; ++frame) {
-            for (Animator* animator : animators)
-                animator->setCurrentTime(animator->duration() * frame / frames);
-            repaint();
+    for (Animator* animator : control->findChildren<Animator*>()) {
+        animator->start();
+        animator->pause();
+        animator->setCurrentTime(animator->duration() / 2);
+    }
+    return paint(control);
+}
+
+Row frameRow()
+{
+    return {QStringLiteral("switch, a frame of a transition"), paintFrame,
+            QStringLiteral("QCheckBox"),
+            [] {
+                return paint(button<QCheckBox>({{}, {}, true}));
+            },
+            [] {
+                return bareSwitch({{}, {}, true});
+            }};
+}
+
+/// Time for animations, which goes on by frames.
+class FrameDriver : public QAnimationDriver
+{
+public:
+    FrameDriver()
+    {
+        install();
+    }
+    ~FrameDriver() override
+    {
+        uninstall();
+    }
+    Q_DISABLE_COPY(FrameDriver)
+
+    void nextFrame()
+    {
+        m_elapsed += frameTime;
+        advance();
+    }
+    qint64 elapsed() const override
+    {
+        return m_elapsed;
+    }
+
+protected:
+    void start() override
+    {
+        m_elapsed = 0;
+        QAnimationDriver::start();
+    }
+
+private:
+    qint64 m_elapsed = 0;
+};
+
+/// Clicked, and painted until it rests.
+template <typename Button>
+Work toggle(const Look& look)
+{
+    const auto driver = std::make_shared<FrameDriver>();
+    const auto button = std::make_shared<Shown<Button>>(look.size(), look.text);
+    return [driver, button] {
+        click(**button);
+        while (driver->isRunning()) {
+            driver->nextFrame();
+            deliverEvents();
         }
     };
 }
 
-template <typename Widget>
-Work resize(std::shared_ptr<Widget> widget)
+/// Made wider and narrower again, in turns.
+template <typename Button>
+Work resize()
 {
-    return [widget] {
-        QResizeEvent event(labelledSize, plainSize);
-        QCoreApplication::sendEvent(widget.get(), &event);
+    const auto button = std::make_shared<Shown<Button>>(plainSize, QString());
+    return [button] {
+        (*button)->resize((*button)->size() == plainSize ? labelledSize : plainSize);
+        deliverEvents();
     };
 }
 
-Row animationRow()
+Row toggleRow(const Look& look)
 {
-    return {QStringLiteral("switch, a transition of nine frames"),
-            animate,
-            QStringLiteral("QCheckBox, painted nine times"),
-            [] {
-                const Work repaint = paint(button<QCheckBox>({{}, {}, true}));
-                return Work([repaint] {
-                    for (int frame = 0; frame < frames; ++frame)
-                        repaint();
-                });
-            },
-            {}};
-}
-
-Row resizeRow()
-{
-    return {QStringLiteral("switch, a resize with its shadow"),
-            [] {
-                return resize(button<Switch>({{}, {}, true}));
-            },
-            QStringLiteral("QSlider"),
-            [] { return resize(std::make_shared<QSlider>(Qt::Horizontal)); },
+    return {look.name,
+            [look] { return toggle<Switch>(look); },
+            QStringLiteral("QCheckBox"),
+            [look] { return toggle<QCheckBox>(look); },
             {}};
 }
 
@@ -131,8 +176,15 @@ QVector<Row> switchRows()
         paintRow({QStringLiteral("switch, off"), {}, false}),
         paintRow({QStringLiteral("switch, on"), {}, true}),
         paintRow({QStringLiteral("switch with a label"), QStringLiteral("Wireless"), true}),
-        animationRow(),
-        resizeRow(),
+        frameRow(),
+        toggleRow({QStringLiteral("switch, a click until it rests"), {}, false}),
+        toggleRow({QStringLiteral("switch with a label, a click until it rests"),
+                   QStringLiteral("Wireless"), false}),
+        {QStringLiteral("switch, a resize"),
+         resize<Switch>,
+         QStringLiteral("QCheckBox"),
+         resize<QCheckBox>,
+         {}},
     };
 }
 

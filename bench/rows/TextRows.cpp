@@ -1,4 +1,5 @@
 #include "Rows.h"
+#include "Shown.h"
 
 #include <BreadCrumbsWidget.h>
 #include <ui/LineEdit.h>
@@ -33,10 +34,11 @@ public:
     Q_DISABLE_COPY(StyleSheet)
 };
 
-void press(QWidget* widget, int key, const QString& text)
+void press(QWidget& widget, int key, const QString& text)
 {
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(widget, &event);
+    QCoreApplication::sendEvent(&widget, &event);
+    deliverEvents();
 }
 
 /// A digit typed, and taken back.
@@ -44,12 +46,13 @@ template <typename Edit>
 Work type(bool styled)
 {
     const auto sheet = std::make_shared<StyleSheet>(styled);
-    const auto edit = std::make_shared<Edit>();
-    edit->setValidator(new QIntValidator(0, 9, edit.get()));
-    edit->ensurePolished();
+    const auto edit = std::make_shared<Shown<Edit>>(QSize(200, 30));
+    (*edit)->setValidator(new QIntValidator(0, 9, &**edit));
+    (*edit)->setFocus();
+    deliverEvents();
     return [sheet, edit] {
-        press(edit.get(), Qt::Key_7, QStringLiteral("7"));
-        press(edit.get(), Qt::Key_Backspace, QString());
+        press(**edit, Qt::Key_7, QStringLiteral("7"));
+        press(**edit, Qt::Key_Backspace, QString());
     };
 }
 
@@ -64,11 +67,13 @@ Row typeRow(const QString& name, bool styled)
 
 Work changeDirectory()
 {
-    const auto crumbs = std::make_shared<BreadCrumbsWidget>(nullptr);
-    crumbs->setRootPath(QStringLiteral("/data"));
+    const auto crumbs = std::make_shared<Shown<BreadCrumbsWidget>>(QSize(400, 40));
+    (*crumbs)->setRootPath(QStringLiteral("/data"));
     return [crumbs] {
-        crumbs->changeDir(QStringLiteral("/data/a/b/c/d"));
-        crumbs->changeDir(QStringLiteral("/data/a/b/c"));
+        for (const char* path : {"/data/a/b/c/d", "/data/a/b/c"}) {
+            (*crumbs)->changeDir(QLatin1String(path));
+            deliverEvents();
+        }
     };
 }
 

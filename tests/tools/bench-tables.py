@@ -13,11 +13,13 @@ import table  # noqa: E402
 from figures import DISPATCH  # noqa: E402
 from results import Results  # noqa: E402
 
-ROWS = f"{DISPATCH}\t\t1\nbattery\tQProgressBar\t1\n10 of Switch, made\tQCheckBox\t10\n"
+ROWS = f"{DISPATCH}\t\t1\nbattery\tQProgressBar\t1\nbattery, a charge\tQProgressBar\t1\n10 of Switch, made\tQCheckBox\t10\n"
 COUNTS = {
     f"{DISPATCH}|ours": 900, f"{DISPATCH}|baseline": 400,
     "battery|ours": 10500, "battery|counterpart": 10000, "battery|baseline": 8000,
+    "battery, a charge|ours": 600, "battery, a charge|counterpart": 300,
     "10 of Switch, made|ours": 3000, "10 of Switch, made|counterpart": 1500,
+    "an empty window|ours": 5000, "an empty window|counterpart": 4000,
 }
 
 
@@ -41,6 +43,7 @@ class Tables(unittest.TestCase):
         self.write("times.json", json.dumps({"benchmarks": runs}))
         self.write("browsing", "".join(f"10000\t{way}\t{first}\t50\t20\t{first}\t4000\n" for way, first in
                                        [("bare", 10), ("ours", 30), ("bare", 90), ("ours", 11), ("bare", 20), ("ours", 24)]))
+        self.write("processes", "an empty window|ours\t3400\t18600\nan empty window|counterpart\t3300\t18200\n")
         self.write("facts", "bytes, stripped\t400000\nrelocations\t1500\n")
 
     def report(self):
@@ -59,6 +62,14 @@ class Tables(unittest.TestCase):
     def test_many_widgets_are_told_by_the_piece(self):
         self.write_all()
         self.assertIn("| 10 of Switch, made | QCheckBox | 300 | 150 | 2.00 | 4.0 |  | 7 |  | 500 |  |", self.report())
+
+    def test_a_process(self):
+        self.write_all()
+        self.assertIn("| an empty window | 5,000 | 4,000 | 1.25 | 3,400 | 3,300 | 18,600 | 18,200 |", self.report())
+
+    def test_what_has_no_baseline_is_done(self):
+        self.write_all()
+        self.assertIn("| battery, a charge | QProgressBar | 600 | 300 | 2.00 |  |  |  |  |", self.report())
 
     def test_openings_are_medians(self):
         self.write_all()

@@ -2,6 +2,7 @@
 
 DISPATCH = "Qt's dispatch: a painter that draws nothing"
 LOADING = "loading and unloading the library"
+TOGGLE = "switch with a label, a click until it rests|ours"
 
 
 def quotient(counts, row, column):

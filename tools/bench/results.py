@@ -32,6 +32,10 @@ class Results:
             runs.setdefault((int(count), way), []).append([int(figure) for figure in figures])
         return {key: [median(column) for column in zip(*figures)] for key, figures in runs.items()}
 
+    def processes(self):
+        """Kilobytes of memory that each process has written, and that it can share."""
+        return {cell: [f"{int(size):,}" for size in sizes] for cell, *sizes in self.lines("processes")}
+
     def facts(self):
         """What is known of the library's file, and of the run."""
         return dict(self.lines("facts"))

@@ -26,7 +26,7 @@ done
 [ -z "$filter" ] || [ -z "$accept" ] || die "bench: --accept is for the whole table, not for a part of it"
 
 need_packages "${packages[@]}"
-build "$preset" platform_bench platform_bench_loading
+build "$preset" platform_bench platform_bench_loading platform_bench_ours platform_bench_counterparts
 . "$DEV_ROOT/tools/lib/bench.sh"
 build=build/$preset
 program=$build/bench/platform_bench
@@ -36,6 +36,7 @@ mkdir -p "$results"
 
 measure_rows "$program" "$results" "$filter"
 if [ -z "$filter" ]; then
+    measure_processes "$build/bench" "$results"
     measure_browsing "$program" "$results"
     measure_idle "$program" "$results"
     measure_loading "$build/bench/platform_bench_loading" "$results"

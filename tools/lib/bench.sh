@@ -13,6 +13,7 @@ timing=(
 file_counts=(100 10000 100000)
 repetitions=5
 idle=5000 # milliseconds
+processes=. # those whose names match
 
 # under_callgrind OUT COMMAND...: counts only where the command asks for it.
 under_callgrind() {
@@ -30,6 +31,22 @@ measure_rows() {
     "$program" --time "$filter" "${timing[@]}" --benchmark_out="$results/times.json" \
         >"$results/times.txt" 2>>"$results/log"
     under_callgrind "$results/callgrind" "$program" --count "$filter"
+}
+
+# measure_processes FOLDER RESULTS: from the start of a process to its first frame.
+measure_processes() {
+    local programs=$1 results=$2 files scenario column run number=0
+    files=$(mktemp -d)
+    (cd "$files" && seq 15 | xargs touch --)
+    "$programs/platform_bench_ours" | grep "$processes" | while IFS= read -r scenario; do
+        for column in ours counterpart; do
+            run=("$programs/platform_bench_${column/counterpart/counterparts}" "$scenario" "$scenario|$column" "$files")
+            "${run[@]}" >>"$results/processes" 2>>"$results/log"
+            valgrind --tool=callgrind --callgrind-out-file="$results/callgrind-process-$((number += 1))" \
+                "${run[@]}" >/dev/null 2>>"$results/log" </dev/null
+        done
+    done
+    rm -rf "$files"
 }
 
 # Each opening in a process of its own, and the ways interleaved.
