@@ -261,8 +261,9 @@ void FileBrowserWidget::setRootPath(QString path)
     if (!m_model)
         return;
     m_model->setRootPath(path);
-    m_tileView->setRootIndex(m_model->index(m_model->rootPath()));
-    m_listView->setRootIndex(m_model->index(m_model->rootPath()));
+    const QModelIndex root = m_model->index(m_model->rootPath());
+    m_tileView->setRootIndex(root);
+    m_listView->setRootIndex(root);
 }
 
 QStringList FileBrowserWidget::selectedFiles() const
