@@ -9,7 +9,7 @@ namespace bench {
 /// Delivers events until none is left: what was changed is painted then.
 void deliverEvents();
 
-/// The left mouse button pressed on \a widget, where a check box has its mark, and released, with the
+/// Presses and releases the left mouse button on \a widget, where a check box has its mark, with the
 /// painting that follows each.
 void click(QWidget& widget);
 
