@@ -9,8 +9,8 @@ namespace bench {
 /// Delivers events until none is left: what was changed is painted then.
 void deliverEvents();
 
-/// Presses and releases the left mouse button on \a widget, where a check box has its mark, with the
-/// painting that follows each.
+/// Presses and releases the left mouse button on \a widget, where a check box has its mark, with
+/// the painting that follows each.
 void click(QWidget& widget);
 
 /// Whether a view in \a browser has a row for each of \a count files.
