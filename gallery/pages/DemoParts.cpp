@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int extent = 110;
+constexpr int beaconExtent = 110;
 constexpr int outlineWidth = 3;
 constexpr QRgb defaultColor = 0xffd6403a;
 /// What an unlit lamp shows of its colour.
@@ -22,7 +22,7 @@ Beacon::Beacon(QWidget* parent)
     : QWidget(parent)
     , m_color(defaultColor)
 {
-    setFixedSize(extent, extent);
+    setFixedSize(beaconExtent, beaconExtent);
 }
 
 double Beacon::brightness() const
