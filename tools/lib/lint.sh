@@ -23,7 +23,7 @@ no_lines_but() {
 # The rules of CONTRIBUTING.md that a search can check. The brackets keep the patterns from finding themselves, so
 # that no file is left out.
 lint_rules() {
-    ! git grep -nE '\b(T[O]DO|F[I]XME|X[X]X)\b' \
+    ! git grep -InE '\b(T[O]DO|F[I]XME|X[X]X)\b' \
         && ! git grep -nE '\b(Q[S]KIP|Q[E]XPECT_FAIL|QTest::q[S]leep|QTest::q[W]ait|QThread::[mu]?s[l]eep)\b' -- '*.cpp' '*.h' \
         && ! git grep -nE '^ *(public|protected|private)? *(signals|slots):|\bemit \w+\(|\bforeach \(|\bforever \{' -- '*.cpp' '*.h' \
         && no_long_lines
