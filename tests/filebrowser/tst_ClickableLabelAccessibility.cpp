@@ -28,6 +28,7 @@ private Q_SLOTS:
     void deletedByItsPress();
     void disabledIsNotPressed();
     void isReadOnly();
+    void hasNoValue();
     void tellsItsBuddy_data();
     void tellsItsBuddy();
     void keepsTheRelationsOfAWidget();
@@ -102,6 +103,12 @@ void tst_ClickableLabelAccessibility::isReadOnly()
     ClickableLabel label;
     QVERIFY(interfaceOf(&label)->state().readOnly);
     QVERIFY(interfaceOf(&label)->state().invisible); // as any hidden widget
+}
+
+void tst_ClickableLabelAccessibility::hasNoValue()
+{
+    ClickableLabel label;
+    QVERIFY(!interfaceOf(&label)->valueInterface());
 }
 
 void tst_ClickableLabelAccessibility::tellsItsBuddy_data()

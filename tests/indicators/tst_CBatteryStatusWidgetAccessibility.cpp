@@ -57,6 +57,7 @@ class tst_CBatteryStatusWidgetAccessibility : public QObject
 
 private Q_SLOTS:
     void isAReadOnlyValue();
+    void isNotPressed();
     void tellsItsCondition();
     void takesTheApplicationsWords();
     void announcesTheCharge();
@@ -85,6 +86,16 @@ void tst_CBatteryStatusWidgetAccessibility::isAReadOnlyValue()
     value->setCurrentValue(33);
     QCOMPARE(value->currentValue().toInt(), 0);
     QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("0%"));
+}
+
+void tst_CBatteryStatusWidgetAccessibility::isNotPressed()
+{
+    CBatteryStatusWidget battery;
+    QAccessibleActionInterface* actions = interfaceOf(&battery)->actionInterface();
+    QVERIFY(actions);
+    const QString press = QAccessibleActionInterface::pressAction();
+    QVERIFY(!actions->actionNames().contains(press));
+    actions->doAction(press);
 }
 
 void tst_CBatteryStatusWidgetAccessibility::tellsItsCondition()
