@@ -63,6 +63,7 @@ void prepareGallery()
     TouchStyle::install();
     QFont font = QApplication::font();
     font.setPointSize(9); // as the gallery finds it, which makes larger ones of it
+    font.setHintingPreference(QFont::PreferFullHinting); // whole pixels, with Qt 6 too
     QApplication::setFont(font);
 }
 

@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QIcon>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -63,8 +64,9 @@ QVector<QRect> itemRects(const QAbstractItemView& view)
     for (int row = 0; row < view.model()->rowCount(root); ++row) {
         for (int column = 0; column < view.model()->columnCount(root); ++column) {
             const QModelIndex index = view.model()->index(row, column, root);
-            const int icon =
-                index.data(Qt::DecorationRole).isNull() ? 0 : qMax(24, view.iconSize().width());
+            // Without a theme of icons the model of Qt 6 has a null icon for a file.
+            const bool hasIcon = !index.data(Qt::DecorationRole).value<QIcon>().isNull();
+            const int icon = hasIcon ? qMax(24, view.iconSize().width()) : 0;
             const QRect rect =
                 view.visualRect(index).translated(origin).adjusted(icon + 8, 2, 0, -2);
             if (!index.data().toString().isEmpty() && rect.width() > 8)
