@@ -37,3 +37,41 @@ install_anew() {
     rm -rf "$2"
     cmake --install "$1" --prefix "$2" >/dev/null
 }
+
+# Applications built against an installed library, as users do it. Each function takes the sources of the
+# application, the folder to build it in, and the prefix.
+
+builds_with_cmake() {
+    echo "== CMake"
+    cmake -S "$1" -B "$2/cmake" -G Ninja -DPACKAGE="$package" -DCMAKE_PREFIX_PATH="$3" >/dev/null
+    cmake --build "$2/cmake"
+    [ ! -x "$2/cmake/all_headers" ] || "$2/cmake/all_headers"
+    "$2/cmake/icons"
+    runs_until_stopped "$2/cmake/example"
+}
+
+builds_with_pkg_config() {
+    echo "== pkg-config"
+    local PKG_CONFIG_PATH
+    PKG_CONFIG_PATH=$(dirname "$(find "$3" -name "$package.pc")")
+    export PKG_CONFIG_PATH
+    [ "$(pkg-config --modversion "$package")" = 1.2 ]
+    # shellcheck disable=SC2046,SC2086
+    ${CXX:-c++} -std=c++17 -fPIC ${CXXFLAGS:-} "$1/main.cpp" -o "$2/example" \
+        $(pkg-config --cflags --libs "$package") -Wl,-rpath,"$(pkg-config --variable=libdir "$package")"
+    runs_until_stopped "$2/example"
+}
+
+builds_with_qmake() {
+    echo "== qmake"
+    local QMAKEPATH
+    QMAKEPATH=$(dirname "$(dirname "$(dirname "$(find "$3" -name "qt_lib_$package.pri")")")")
+    export QMAKEPATH
+    mkdir -p "$2/qmake"
+    (
+        cd "$2/qmake" || exit
+        "/usr/lib/qt$qt/bin/qmake" "QMAKE_CXXFLAGS+=${CXXFLAGS:-}" "QMAKE_LFLAGS+=${CXXFLAGS:-}" "$1/example.pro" >/dev/null
+        make -s
+    )
+    runs_until_stopped "$2/qmake/example"
+}

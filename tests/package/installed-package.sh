@@ -28,33 +28,9 @@ cp -p "$source_dir"/tests/package/consumer/* "$scratch/consumer"
 readme_example "$source_dir" | write_changed "$scratch/consumer/main.cpp"
 all_headers | write_changed "$scratch/consumer/all_headers.cpp"
 
-echo "== CMake"
-cmake -S "$scratch/consumer" -B "$scratch/cmake" -G Ninja -DPACKAGE="$package" \
-    -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
-cmake --build "$scratch/cmake"
-"$scratch/cmake/all_headers"
-"$scratch/cmake/icons"
-runs_until_stopped "$scratch/cmake/example"
-
-echo "== pkg-config"
-PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name "$package.pc")")
-export PKG_CONFIG_PATH
-[ "$(pkg-config --modversion "$package")" = 1.2 ]
-# shellcheck disable=SC2046,SC2086
-${CXX:-c++} -std=c++17 -fPIC ${CXXFLAGS:-} "$scratch/consumer/main.cpp" -o "$scratch/example" \
-    $(pkg-config --cflags --libs "$package") -Wl,-rpath,"$(pkg-config --variable=libdir "$package")"
-runs_until_stopped "$scratch/example"
-
-echo "== qmake"
-QMAKEPATH=$(dirname "$(dirname "$(dirname "$(find "$prefix" -name "qt_lib_$package.pri")")")")
-export QMAKEPATH
-mkdir -p "$scratch/qmake"
-(
-    cd "$scratch/qmake"
-    /usr/lib/qt$qt/bin/qmake "QMAKE_CXXFLAGS+=${CXXFLAGS:-}" "QMAKE_LFLAGS+=${CXXFLAGS:-}" "$scratch/consumer/example.pro" >/dev/null
-    make -s
-)
-runs_until_stopped "$scratch/qmake/example"
+builds_with_cmake "$scratch/consumer" "$scratch" "$prefix"
+builds_with_pkg_config "$scratch/consumer" "$scratch" "$prefix"
+builds_with_qmake "$scratch/consumer" "$scratch" "$prefix"
 
 plugin=$(find "$prefix" -name libplatform_widgets_designer.so)
 if [ -n "$plugin" ]; then # which not every build makes
