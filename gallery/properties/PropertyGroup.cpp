@@ -37,6 +37,10 @@ QToolButton* makeResetButton()
     button->setAccessibleName(PropertyRow::tr("Reset"));
     button->setAutoRaise(true);
     button->setFixedSize(touch::targetSize, touch::targetSize);
+    // Appearing after the first tap on an editor, it must not move that away from the second one.
+    QSizePolicy policy = button->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    button->setSizePolicy(policy);
     return button;
 }
 
@@ -80,19 +84,22 @@ void PropertyRow::refresh()
 
 void PropertyRow::layOut()
 {
-    auto* heading = new QHBoxLayout;
-    heading->setSpacing(2);
-    heading->addWidget(touch::makeElidedLabel(QString::fromLatin1(m_name)), 1);
-    heading->addWidget(m_resetButton);
-
+    QLabel* heading = touch::makeElidedLabel(QString::fromLatin1(m_name));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 2, 0, 2);
     column->setSpacing(2);
-    column->addLayout(heading);
-    if (m_editor->isNarrow())
-        heading->addWidget(m_editor);
-    else
-        column->addWidget(m_editor);
+    column->addLayout(row);
+    if (m_editor->isNarrow()) {
+        row->addWidget(heading, 1);
+        row->addWidget(m_resetButton);
+        row->addWidget(m_editor);
+    } else {
+        column->insertWidget(0, heading);
+        row->addWidget(m_editor, 1);
+        row->addWidget(m_resetButton, 0, Qt::AlignTop);
+    }
 }
 
 void PropertyRow::edit(const QVariant& value)

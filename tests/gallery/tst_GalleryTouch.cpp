@@ -49,6 +49,7 @@ private Q_SLOTS:
     void resetsByTap();
     void dragsFiles();
     void choosesFromMenuOfPath();
+    void stepsByTapsAtOnePlace();
 
 private:
     bool drag(const QWidget* widget, const QPoint& distance) const;
@@ -291,6 +292,22 @@ void tst_GalleryTouch::choosesFromMenuOfPath()
     QVERIFY(XPointer::tap(*more));
     QTRY_VERIFY(!offered.isEmpty());
     QTRY_VERIFY(directory->text().endsWith(QLatin1Char('/') + offered.constLast()));
+}
+
+/// What a first tap makes appear moves nothing away from the second one.
+void tst_GalleryTouch::stepsByTapsAtOnePlace()
+{
+    m_window->showPage(QStringLiteral("battery"));
+    QWidget* battery = m_window->page()->demoWidgets().at(2).widget;
+    QVERIFY(XPointer::tap(*battery));
+    QTRY_COMPARE(m_window->findChild<PropertyEditor*>()->target(), battery);
+    const auto* step = row("chargePercentage")->findChild<QToolButton*>(QStringLiteral("stepUp"));
+    const QPoint place = step->mapToGlobal(step->rect().center());
+    for (const int percent : {51, 52, 53}) {
+        QVERIFY(XPointer::press(place));
+        QVERIFY(XPointer::release());
+        QTRY_COMPARE(hiddenvalues::value(*battery, "chargePercentage"), QVariant(percent));
+    }
 }
 
 const test::Registration<tst_GalleryTouch> registration;

@@ -42,8 +42,8 @@ def a_frame_is_picked_and_its_radius_changed(user):
     user.taps("frames > Raised")
     user.sees("widgetChoice", "currentText", "Raised")
     user.taps("frames > Plain")
-    user.taps("window > PropertyEditor > stepUp")
-    user.sees("frames > ui::CRoundedFrame", "radius", 19)
+    user.taps(*["window > PropertyEditor > stepUp"] * 3, pause=100)
+    user.sees("frames > ui::CRoundedFrame", "radius", 21)
     user.sees_picture("frame", "frames > ui::CRoundedFrame")
 
 
