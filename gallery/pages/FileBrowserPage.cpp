@@ -57,7 +57,8 @@ private:
 
     ui::FileBrowserWidget* m_browser;
     QLabel* m_selection;
-    bool m_isReady = false; ///< The first directory has been read.
+    bool m_isLoaded = false; ///< The first directory has been read.
+    bool m_isSorted = true; ///< The model sorts what it has read a little later.
 };
 
 FileBrowserPage::FileBrowserPage(QWidget* parent, const QStringList& directories)
@@ -78,8 +79,10 @@ FileBrowserPage::FileBrowserPage(QWidget* parent, const QStringList& directories
 
     connect(m_browser, &FileBrowserWidget::selectionChanged, this, &FileBrowserPage::showSelection);
     const auto* view = m_browser->findChild<QListView*>(QString(), Qt::FindDirectChildrenOnly);
-    connect(qobject_cast<QFileSystemModel*>(view->model()), &QFileSystemModel::directoryLoaded,
-            this, [this] { m_isReady = true; });
+    const auto* model = qobject_cast<QFileSystemModel*>(view->model());
+    connect(model, &QFileSystemModel::directoryLoaded, this, [this] { m_isLoaded = true; });
+    connect(model, &QFileSystemModel::rowsInserted, this, [this] { m_isSorted = false; });
+    connect(model, &QFileSystemModel::layoutChanged, this, [this] { m_isSorted = true; });
     hiddenvalues::set(m_browser, "allowedDirs",
                       directories.isEmpty() ? rootsByDefault() : directories);
     Appearance::keepIconButtonsLight(*m_browser);
@@ -95,7 +98,7 @@ FileBrowserPage::FileBrowserPage(QWidget* parent, const QStringList& directories
 
 bool FileBrowserPage::isReady() const
 {
-    return m_isReady;
+    return m_isLoaded && m_isSorted;
 }
 
 QComboBox* FileBrowserPage::makeFilters()

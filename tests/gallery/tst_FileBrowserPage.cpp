@@ -1,5 +1,6 @@
 #include "GalleryPage.h"
 #include "pages/Pages.h"
+#include "Screenshots.h"
 
 #include "TestApplication.h"
 
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void homeAndTopByDefault_data();
     void homeAndTopByDefault();
     void namedDirectories();
+    void readyOnceSorted();
     void showsTheSelectionAsItChanges();
     void namesAFewOfManyFiles();
     void namesAreNoMarkup();
@@ -145,6 +147,17 @@ void tst_FileBrowserPage::namedDirectories()
 {
     QCOMPARE(roots(), QStringList{m_dir.path()});
     QCOMPARE(m_page->demoWidgets().size(), 1);
+}
+
+/// As a picture is taken then.
+void tst_FileBrowserPage::readyOnceSorted()
+{
+    const std::unique_ptr<GalleryPage> page(makeFileBrowserPage(nullptr, {m_dir.path()}));
+    QVERIFY(!page->isReady());
+    QVERIFY(rendering::waitUntil([&page] { return page->isReady(); }));
+    m_view = page->findChild<ui::FileBrowserWidget*>()->findChild<QListView*>(
+        QString(), Qt::FindDirectChildrenOnly);
+    QCOMPARE(shownNames(), (QStringList{"folder", "<b>.txt", "a.txt", "b.txt", "c.png", "d.txt"}));
 }
 
 void tst_FileBrowserPage::showsTheSelectionAsItChanges()
