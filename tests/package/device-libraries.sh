@@ -12,7 +12,7 @@ build_dir=$2
 . "$source_dir/tests/package/example.sh"
 runtime=libplatform-widgets${suffix:+$suffix-}1.2
 scratch=$(kept_folder "$build_dir" device-libraries)
-rm -rf "$scratch"/device "$scratch"/build/*.deb
+rm -rf "$scratch"/device "$scratch"/results "$scratch"/build/*.deb
 
 # The device's prefix holds its two libraries and their headers, nothing of the widget library.
 install_anew "$build_dir" "$scratch/all"
