@@ -10,7 +10,9 @@ set -euo pipefail
 source_dir=$1
 build_dir=$2
 . "$source_dir/tests/package/example.sh"
-scratch=$(kept_folder "$build_dir" installed-package)
+# What pkg-config prints cannot be used in a shell where the prefix has a space.
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
 prefix=$scratch/prefix
 
 # A program that includes every installed header and runs an application object.
@@ -25,8 +27,8 @@ install_anew "$build_dir" "$prefix"
 
 mkdir -p "$scratch/consumer"
 cp -p "$source_dir"/tests/package/consumer/* "$scratch/consumer"
-readme_example "$source_dir" | write_changed "$scratch/consumer/main.cpp"
-all_headers | write_changed "$scratch/consumer/all_headers.cpp"
+readme_example "$source_dir" >"$scratch/consumer/main.cpp"
+all_headers >"$scratch/consumer/all_headers.cpp"
 
 builds_with_cmake "$scratch/consumer" "$scratch" "$prefix"
 builds_with_pkg_config "$scratch/consumer" "$scratch" "$prefix"

@@ -8,7 +8,9 @@ set -euo pipefail
 source_dir=$1
 build_dir=$2
 . "$source_dir/tests/package/example.sh"
-scratch=$(kept_folder "$build_dir" side-by-side)
+# What pkg-config prints cannot be used in a shell where the prefix has a space.
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
 
 cmake -S "$source_dir" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DPLATFORM_QT=5 \
     -DPLATFORM_BUILD_DESIGNER=ON >/dev/null

@@ -1,6 +1,7 @@
 #include "Contrast.h"
 #include "KeypadArea.h"
 #include "KeypadKeys.h"
+#include "OffscreenMessages.h"
 #include "SettingsPanel.h"
 #include "TestApplication.h"
 #include "Theme.h"
@@ -87,6 +88,10 @@ class tst_Settings : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        test::dropOffscreenMessages();
+    }
     void init();
     void cleanup();
 
