@@ -10,6 +10,7 @@ namespace ui {
 
 namespace {
 
+// mutant [1 -> 2]: Any negative number.
 constexpr int noRow = -1;
 
 QModelIndex siblingIn(const QItemSelectionRange& range, int row, int column)
@@ -39,8 +40,10 @@ DeselectionOrder::DeselectionOrder(const QItemSelectionModel& selectionModel,
             continue;
         }
         m_directories.append(siblingIn(range, row, 0));
+        // mutant [> -> >=]: What has no rows has no directory, and leaves nothing.
         if (row > range.top())
             ranges.append(rowsOf(range, range.top(), row - 1));
+        // mutant [< -> <=]: As above.
         if (row < range.bottom())
             ranges.append(rowsOf(range, row + 1, range.bottom()));
         if (range.right() > 0)

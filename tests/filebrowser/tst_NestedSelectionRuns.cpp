@@ -357,6 +357,7 @@ void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories_data()
     QTest::newRow("one more than nest") << Ranges{{0, 256}};
     QTest::newRow("more, in several ranges")
         << Ranges{{200, 290}, {someDirectories - 1, someDirectories}, {3, 3}, {5, 175}};
+    QTest::newRow("more, the first rows last") << Ranges{{30, someDirectories}, {0, 2}};
     QTest::newRow("directories alone, in several ranges")
         << Ranges{{200, 290}, {295, 296}, {3, 3}, {5, 175}};
 }

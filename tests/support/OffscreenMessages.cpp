@@ -8,18 +8,22 @@ namespace {
 
 QtMessageHandler testHandler = nullptr;
 
-/// On X11 Qt asks where a window lies in its frame, which the window manager may have taken away
-/// meanwhile: the server then answers that there is no such window.
-bool isOfVanishedFrame(const QString& message)
+/// What Qt asks of the X server about a window arrives when that is gone already: where it lies in
+/// a frame that the window manager has taken away meanwhile, or to give the focus to a pop-up that
+/// has been hidden again.
+bool isOfVanishedWindow(const QString& message)
 {
-    return message.contains(QLatin1String("XCB error: 3 (BadWindow)"))
-        && message.contains(QLatin1String("(TranslateCoords)"));
+    const auto isError = [&](const char* error, const char* request) {
+        return message.contains(QLatin1String(error)) && message.contains(QLatin1String(request));
+    };
+    return isError("XCB error: 3 (BadWindow)", "(TranslateCoords)")
+        || isError("XCB error: 8 (BadMatch)", "(SetInputFocus)");
 }
 
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     const bool unsupported = message.startsWith(QLatin1String("This plugin does not support "));
-    if (!unsupported && !isOfVanishedFrame(message))
+    if (!unsupported && !isOfVanishedWindow(message))
         testHandler(type, context, message);
 }
 
