@@ -70,7 +70,9 @@ private:
 void tst_OneDirectoryPerTap::initTestCase()
 {
     dropOffscreenMessages();
-    m_touchScreen = QTest::createTouchDevice();
+    // Never deleted, as Qt may use it for the rest of the process.
+    static auto* const touchScreen = QTest::createTouchDevice();
+    m_touchScreen = touchScreen;
     m_tree.makeDir(QStringLiteral("a/a/a/a"));
     for (const char* name : {"f1", "f2", "f3", "f4"}) {
         m_tree.makeFile(QString::fromLatin1(name));
