@@ -259,7 +259,7 @@ void tst_GalleryTouch::dragsFiles()
         m_window->page()->findChild<ui::FileBrowserWidget*>()->findChild<QListView*>();
     QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 60);
     const QScrollBar* bar = view->horizontalScrollBar();
-    QTRY_VERIFY(bar->maximum() > 0);
+    QTRY_VERIFY(bar->maximum() > 120); // the files are not all laid out at first
 
     QVERIFY(view->indexAt(view->viewport()->rect().center()).isValid());
     QVERIFY(drag(view->viewport(), QPoint(-120, 0)));
