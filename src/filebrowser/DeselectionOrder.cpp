@@ -34,6 +34,7 @@ DeselectionOrder::DeselectionOrder(const QItemSelectionModel& selectionModel,
     QItemSelection ranges = selectionModel.selection();
     for (int i = 0; i < ranges.size(); ++i) {
         const QItemSelectionRange range = ranges.at(i);
+        // mutant [< -> <=]: An application sees the same with nesting and without.
         const int row = m_directories.size() < count ? firstDirectory(range, snapshot) : noRow;
         if (row == noRow) {
             m_left.append(range);
@@ -46,6 +47,7 @@ DeselectionOrder::DeselectionOrder(const QItemSelectionModel& selectionModel,
         // mutant [< -> <=]: As above.
         if (row < range.bottom())
             ranges.append(rowsOf(range, row + 1, range.bottom()));
+        // mutant [> -> >=]: Columns 1 to 0 are none.
         if (range.right() > 0)
             leaveOtherColumns(range, row);
     }

@@ -102,6 +102,7 @@ struct Program
     Slot slot = doNothing;
     ChangeSlot changeSlot = leaveAlone;
     QString (*state)(const QItemSelectionModel&) = ranges;
+    Qt::SortOrder order = Qt::AscendingOrder;
 };
 
 /// In order, what the slots of an application see while \a program runs.
@@ -114,6 +115,7 @@ QStringList log(const Program& program)
     browser.setAllowedDirs({program.path});
     if (!loaded(*parts.tileView, program.count))
         return {};
+    parts.listView->sortByColumn(0, program.order);
     QStringList result;
     int emissions = 0;
     QObject::connect(&browser, &Browser::selectionChanged, &browser, [&] {
@@ -352,21 +354,26 @@ void tst_NestedSelectionRuns::mirroredSelection()
 void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories_data()
 {
     QTest::addColumn<Ranges>("ranges");
+    QTest::addColumn<Qt::SortOrder>("order"); // descending, the file comes first
     QTest::newRow("as many as nest, and a file")
-        << Ranges{{someDirectories, someDirectories}, {0, 255}};
-    QTest::newRow("one more than nest") << Ranges{{0, 256}};
+        << Ranges{{someDirectories, someDirectories}, {0, 255}} << Qt::AscendingOrder;
+    QTest::newRow("one more than nest") << Ranges{{0, 256}} << Qt::AscendingOrder;
     QTest::newRow("more, in several ranges")
-        << Ranges{{200, 290}, {someDirectories - 1, someDirectories}, {3, 3}, {5, 175}};
-    QTest::newRow("more, the first rows last") << Ranges{{30, someDirectories}, {0, 2}};
+        << Ranges{{200, 290}, {someDirectories - 1, someDirectories}, {3, 3}, {5, 175}}
+        << Qt::AscendingOrder;
+    QTest::newRow("more, the first rows last")
+        << Ranges{{30, someDirectories}, {0, 2}} << Qt::AscendingOrder;
     QTest::newRow("directories alone, in several ranges")
-        << Ranges{{200, 290}, {295, 296}, {3, 3}, {5, 175}};
+        << Ranges{{200, 290}, {295, 296}, {3, 3}, {5, 175}} << Qt::AscendingOrder;
+    QTest::newRow("a file, then more than nest") << Ranges{{0, 257}} << Qt::DescendingOrder;
 }
 
 void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories()
 {
     QFETCH(Ranges, ranges);
-    const Program program{m_some.path(), someDirectories + 1, {ranges},
-                          doNothing,     mirrorInListView,    rows};
+    QFETCH(Qt::SortOrder, order);
+    const Program program{
+        m_some.path(), someDirectories + 1, {ranges}, doNothing, mirrorInListView, rows, order};
     const QStringList expected = log<RecursiveBrowser>(program);
     QVERIFY(!expected.isEmpty());
     QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
