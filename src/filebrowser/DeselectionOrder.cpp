@@ -47,7 +47,7 @@ DeselectionOrder::DeselectionOrder(const QItemSelectionModel& selectionModel,
         // mutant [< -> <=]: As above.
         if (row < range.bottom())
             ranges.append(rowsOf(range, row + 1, range.bottom()));
-        // mutant [> -> >=]: Columns 1 to 0 are none.
+        // mutant [> -> >=; 0 -> (-1)]: Columns 1 to 0 are none.
         if (range.right() > 0)
             leaveOtherColumns(range, row);
     }
@@ -71,6 +71,7 @@ int DeselectionOrder::firstDirectory(const QItemSelectionRange& range,
     if (range.left() > 0)
         return noRow;
     for (int row = range.top(); row <= range.bottom(); ++row) {
+        // mutant [0 -> 1]: Any cell tells the row.
         const QModelIndex index = siblingIn(range, row, 0);
         if (m_model.isDir(index) && snapshot.containsRow(index))
             return row;

@@ -15,7 +15,7 @@ using namespace test;
 
 namespace {
 
-using Ranges = QVector<QPair<int, int>>; ///< First and last row of each.
+using Ranges = QVector<QPair<int, int>>; ///< First and last row, or column, of each.
 
 /// What an application does in a slot of selectionChanged(), given the number of the emission.
 using Slot = std::function<void(QListView& tileView, int emission)>;
@@ -35,12 +35,13 @@ void mirrorInListView(const BrowserParts& parts)
                                              QItemSelectionModel::ClearAndSelect);
 }
 
-QItemSelection selectionOf(const Ranges& ranges, const QModelIndex& root)
+QItemSelection selectionOf(const Ranges& ranges, const QModelIndex& root,
+                           const Ranges::value_type& columns = {0, 0})
 {
     QItemSelection selection;
     for (const auto& range : ranges)
-        selection.append({root.model()->index(range.first, 0, root),
-                          root.model()->index(range.second, 0, root)});
+        selection.append({root.model()->index(range.first, columns.first, root),
+                          root.model()->index(range.second, columns.second, root)});
     return selection;
 }
 
@@ -74,17 +75,6 @@ QString ranges(const QItemSelectionModel& selectionModel)
     return cells(selectionModel.selection());
 }
 
-/// Makes the selections \a steps, one after the other.
-void play(QListView& tileView, const QVector<Ranges>& steps)
-{
-    const QPersistentModelIndex root = tileView.rootIndex();
-    for (const Ranges& ranges : steps)
-        tileView.selectionModel()->select(selectionOf(ranges, root), selectRows);
-    // Takes the last command of the selection model back, as Shift and a tap do.
-    tileView.selectionModel()->select(root.model()->index(0, 0, root),
-                                      selectRows | QItemSelectionModel::Current);
-}
-
 /// Waits until \a view shows \a count entries, sorted.
 bool loaded(const QAbstractItemView& view, int count)
 {
@@ -98,12 +88,27 @@ struct Program
 {
     QString path;
     int count; ///< Entries of the directory.
-    QVector<Ranges> steps; ///< Selected one after the other.
+    QVector<Ranges> steps; ///< Rows, selected one after the other.
     Slot slot = doNothing;
     ChangeSlot changeSlot = leaveAlone;
     QString (*state)(const QItemSelectionModel&) = ranges;
     Qt::SortOrder order = Qt::AscendingOrder;
+    Ranges columns = {{0, 3}}; ///< Of each step, selected one after the other.
 };
+
+/// Makes the selections of \a program.
+void play(QListView& tileView, const Program& program)
+{
+    const QPersistentModelIndex root = tileView.rootIndex();
+    for (const Ranges& ranges : program.steps) {
+        for (const auto& columns : program.columns)
+            tileView.selectionModel()->select(selectionOf(ranges, root, columns),
+                                              QItemSelectionModel::Select);
+    }
+    // Takes the last command of the selection model back, as Shift and a tap do.
+    tileView.selectionModel()->select(root.model()->index(0, 0, root),
+                                      selectRows | QItemSelectionModel::Current);
+}
 
 /// In order, what the slots of an application see while \a program runs.
 template <class Browser>
@@ -131,8 +136,14 @@ QStringList log(const Program& program)
                                                 program.state(*selectionModel)));
                          program.changeSlot(parts);
                      });
-    play(*parts.tileView, program.steps);
+    play(*parts.tileView, program);
     return result;
+}
+
+void addManyDirectories(const char* name, const Ranges& ranges,
+                        Qt::SortOrder order = Qt::AscendingOrder, const Ranges& columns = {{0, 3}})
+{
+    QTest::newRow(name) << ranges << order << columns;
 }
 
 /// One to four ranges, in any order, of the rows 0 to \a count - 1.
@@ -205,6 +216,7 @@ private:
     static constexpr int fileCount = 8;
     static constexpr int someDirectories = 300;
     static constexpr int manyDirectories = 10000;
+    static constexpr int nestedRuns = 256; ///< Each leaves a range of its own.
     static constexpr int stackForNesting = 2 << 20; // bytes; of eight million
 
     Tree m_directories; ///< Directories alone.
@@ -355,25 +367,29 @@ void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories_data()
 {
     QTest::addColumn<Ranges>("ranges");
     QTest::addColumn<Qt::SortOrder>("order"); // descending, the file comes first
-    QTest::newRow("as many as nest, and a file")
-        << Ranges{{someDirectories, someDirectories}, {0, 255}} << Qt::AscendingOrder;
-    QTest::newRow("one more than nest") << Ranges{{0, 256}} << Qt::AscendingOrder;
-    QTest::newRow("more, in several ranges")
-        << Ranges{{200, 290}, {someDirectories - 1, someDirectories}, {3, 3}, {5, 175}}
-        << Qt::AscendingOrder;
-    QTest::newRow("more, the first rows last")
-        << Ranges{{30, someDirectories}, {0, 2}} << Qt::AscendingOrder;
-    QTest::newRow("directories alone, in several ranges")
-        << Ranges{{200, 290}, {295, 296}, {3, 3}, {5, 175}} << Qt::AscendingOrder;
-    QTest::newRow("a file, then more than nest") << Ranges{{0, 257}} << Qt::DescendingOrder;
+    QTest::addColumn<Ranges>("columns");
+    addManyDirectories("as many as nest, and a file",
+                       {{someDirectories, someDirectories}, {0, 255}});
+    addManyDirectories("one more than nest", {{0, 256}});
+    addManyDirectories("more, in several ranges",
+                       {{200, 290}, {someDirectories - 1, someDirectories}, {3, 3}, {5, 175}});
+    addManyDirectories("more, the first rows last", {{30, someDirectories}, {0, 2}});
+    addManyDirectories("directories alone, in several ranges",
+                       {{200, 290}, {295, 296}, {3, 3}, {5, 175}});
+    addManyDirectories("a file, then more than nest", {{0, 257}}, Qt::DescendingOrder);
+    addManyDirectories("more, names first", {{0, 258}}, Qt::AscendingOrder, {{0, 0}, {1, 3}});
+    addManyDirectories("more, names and sizes first", {{0, 258}}, Qt::AscendingOrder,
+                       {{0, 1}, {2, 3}});
 }
 
 void tst_NestedSelectionRuns::matchPlainRecursionForManyDirectories()
 {
     QFETCH(Ranges, ranges);
     QFETCH(Qt::SortOrder, order);
+    QFETCH(Ranges, columns);
     const Program program{
-        m_some.path(), someDirectories + 1, {ranges}, doNothing, mirrorInListView, rows, order};
+        m_some.path(), someDirectories + 1, {ranges}, doNothing, mirrorInListView, rows, order,
+        columns};
     const QStringList expected = log<RecursiveBrowser>(program);
     QVERIFY(!expected.isEmpty());
     QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
@@ -408,10 +424,15 @@ void tst_NestedSelectionRuns::allOfManyDirectories()
         const char there = 0;
         deepest = qMax(deepest, std::abs(&here - &there));
     });
-    connect(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [&] { mirrorInListView(parts); });
+    int mostRanges = 0;
+    connect(parts.tileView->selectionModel(), &QItemSelectionModel::selectionChanged, this, [&] {
+        mostRanges = qMax(mostRanges, parts.tileView->selectionModel()->selection().size());
+        mirrorInListView(parts);
+    });
     parts.tileView->selectionModel()->select(selectionOf(ranges, parts.tileView->rootIndex()),
                                              selectRows);
+    // Each range takes time at each further deselection.
+    QVERIFY2(mostRanges <= nestedRuns + 2, qPrintable(QString::number(mostRanges)));
     QCOMPARE(changes.count(), manyDirectories + 1); // the selection and each deselection
     QCOMPARE(changed.count(), manyDirectories + 1 + mirrored);
     QCOMPARE(browser.currentPath(), m_large.path(opened));
