@@ -42,6 +42,7 @@ refuses "unknown command 'frobnicate'" frobnicate
 refuses "unknown command 'frobnicate'" help frobnicate
 refuses "unknown option '--frobnicate'" gallery --frobnicate
 refuses "unknown user 'somebody'" fresh --as somebody
+refuses "--run needs a value" fresh --as root --run
 refuses "unknown command '../lib/common'" ../lib/common
 refuses "unknown option '--frobnicate'" test --frobnicate
 refuses "unknown preset 'fast'" test --preset fast

@@ -8,6 +8,11 @@ readme_commands() {
     awk '/^```sh/ {inside = 1; next} /^```/ && inside {exit} inside' "$DEV_ROOT/README.md"
 }
 
+# The command of ./dev in a line such as "./dev test --qt 6".
+command_in() {
+    cut -d' ' -f2 <<<"$1"
+}
+
 # A minimal Debian as its installer leaves it, but for git to fetch the sources with.
 fresh_base() {
     local base=$FRESH/base.tar
@@ -69,9 +74,10 @@ installed_in() {
     chroot "$1" dpkg-query -W -f '${Package}\n' | sort
 }
 
-# try_command USER NAME LINE: fails when it does not end as it must.
+# try_command USER LINE: fails when it does not end as it must.
 try_command() {
-    local user=$1 line=$3 root=$FRESH/root-$1 log=$FRESH/$1-$2.log status=0 before
+    local user=$1 line=$2 root=$FRESH/root-$1 status=0 log before
+    log=$FRESH/$user-$(command_in "$line").log
     before=$(installed_in "$root")
     echo "$user: $line"
     TIMEFORMAT='  elapsed %R s, processor %U + %S s'
