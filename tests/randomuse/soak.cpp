@@ -19,7 +19,7 @@ int usage()
 {
     std::fputs(
         "usage: soak --list\n"
-        "       soak --search WIDGET SEED STEPS   random commands, the fewest that break it\n"
+        "       soak --search WIDGET SEED COUNT   random commands, the fewest that break it\n"
         "       soak --play WIDGET FILE PROGRESS  the commands of a file, in this process\n",
         stderr);
     return 2;

@@ -57,7 +57,7 @@ refuses "--filter needs a value" bench --filter
 refuses "--accept is for the whole table" bench --accept --filter frame
 refuses "unknown option '--frob'" soak --frob
 refuses "--seed needs a value" soak --seed
-refuses "not a number: 'many'" soak --steps many
+refuses "not a number: 'many'" soak --commands many
 refuses "too many arguments" abi --accept --accept
 
 # What is refused before minutes are spent.

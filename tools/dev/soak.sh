@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # drive every widget by a million random commands, and live through an hour of use
 #
-# usage: ./dev soak [--steps N] [--widget NAME] [--seed N] [--sanitize] [--accept]
+# usage: ./dev soak [--commands N] [--widget NAME] [--seed N] [--sanitize] [--accept]
 #
-#   --steps N      that many commands for each widget; a million by default
+#   --commands N   that many commands for each widget; a million by default
 #   --widget NAME  one widget only; "together" is all of them in one window
 #   --seed N       other commands; 1 by default
 #   --sanitize     build with the sanitizers in place of the optimiser
@@ -13,7 +13,7 @@
 # Without --widget, every workload of an hour follows, for a tenth as many iterations as commands: what the
 # process holds before and after.
 
-steps=1000000
+commands=1000000
 widget=
 seed=1
 preset=soak
@@ -21,7 +21,7 @@ accept=
 suffix=
 while [ $# -gt 0 ]; do
     case "$1" in
-        --steps) steps=$(option_value soak "$1" $# "${2:-}"); shift ;;
+        --commands) commands=$(option_value soak "$1" $# "${2:-}"); shift ;;
         --widget) widget=$(option_value soak "$1" $# "${2:-}"); shift ;;
         --seed) seed=$(option_value soak "$1" $# "${2:-}"); shift ;;
         --sanitize) preset=asan suffix=-sanitized ;;
@@ -30,7 +30,7 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
-for number in "$steps" "$seed"; do
+for number in "$commands" "$seed"; do
     [[ "$number" =~ ^[0-9]+$ ]] || die "soak: not a number: '$number'"
 done
 
@@ -45,12 +45,12 @@ log=$programs/soak.log
 : >"$log"
 failed=0
 for name in ${widget:-$("$programs/randomuse/soak" --list)}; do
-    "$programs/randomuse/soak" --search "$name" "$seed" "$steps" | tee -a "$log" || failed=1
+    "$programs/randomuse/soak" --search "$name" "$seed" "$commands" | tee -a "$log" || failed=1
 done
 # Qt ends a test function after five minutes else.
 export QTEST_FUNCTION_TIMEOUT=2000000000
 if [ -z "$widget" ]; then
-    PLATFORM_LONG_LIFE=$((steps < 10 ? 1 : steps / 10)) "$programs/themes/tst_LongLife" | tee -a "$log" || failed=1
+    PLATFORM_LONG_LIFE=$((commands < 10 ? 1 : commands / 10)) "$programs/themes/tst_LongLife" | tee -a "$log" || failed=1
 fi
 if [ -n "$accept" ]; then
     . "$DEV_ROOT/tools/lib/soak-tables.sh"
