@@ -79,6 +79,7 @@ private:
     /// Whether \a widget may be too low for both views: it or its window grows then, and stays so.
     static bool growsForBoth(const QWidget& widget)
     {
+        // mutant [< -> <=]: What has just the height for both does not grow.
         return widget.height() < 2 * widget.layout()->totalMinimumSize().height();
     }
 
@@ -194,6 +195,7 @@ QVBoxLayout* FileBrowserWidget::createFileView()
     // The same handler: it reads the tile view, whichever view reports a change.
     connect(m_listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [handler] { handler->run(); });
+    // mutant [order]: A layout takes a hidden view in like another.
     layout->addWidget(m_listView);
     m_listView->hide();
     return layout;

@@ -200,6 +200,8 @@ private Q_SLOTS:
     void matchPlainRecursion();
     void matchPlainRecursionForAnySelection();
     void matchPlainRecursionWhateverSlotsDo();
+    void matchPlainRecursionThoughASlotOpensOne();
+    void matchPlainRecursionThoughOneBecomesAFile();
     void onceForEachDirectoryAndOnceMore_data();
     void onceForEachDirectoryAndOnceMore();
     void mirroredSelection();
@@ -309,6 +311,49 @@ void tst_NestedSelectionRuns::matchPlainRecursionWhateverSlotsDo()
         QVERIFY(!expected.isEmpty());
         QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
     }
+}
+
+/// The runs that return deselect it again.
+void tst_NestedSelectionRuns::matchPlainRecursionThoughASlotOpensOne()
+{
+    const auto openOne = [](QListView& tileView, int emission) {
+        const QModelIndex middle = tileView.model()->index(5, 0, tileView.rootIndex());
+        if (emission == 1)
+            tileView.selectionModel()->select(middle, selectRows | QItemSelectionModel::Clear);
+    };
+    const Program program{m_mixed.path(), directoryCount + fileCount, {{{2, 12}}}, openOne};
+    const QStringList expected = log<RecursiveBrowser>(program);
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(log<ui::FileBrowserWidget>(program), expected);
+}
+
+/// The runs that return leave it selected.
+void tst_NestedSelectionRuns::matchPlainRecursionThoughOneBecomesAFile()
+{
+    const auto becomeFile = [](QListView& tileView, int emission) {
+        const auto* model = qobject_cast<QFileSystemModel*>(tileView.model());
+        const QModelIndex directory = model->index(1, 0, tileView.rootIndex());
+        if (emission != 1)
+            return;
+        const QString path = model->filePath(directory);
+        QVERIFY(QDir().rmdir(path));
+        QFile file(path);
+        QVERIFY(file.open(QFile::WriteOnly));
+        file.close();
+        QTRY_VERIFY(!model->isDir(directory));
+        tileView.selectionModel()->select(directory, selectRows);
+    };
+    const auto run = [&](auto log) {
+        Tree tree;
+        for (const char* name : {"d1", "d2", "d3"})
+            tree.makeDir(QString::fromLatin1(name));
+        tree.makeFile(QStringLiteral("f1"));
+        QStringList result = log({tree.path(), 4, {{{0, 3}}}, becomeFile});
+        return result.replaceInStrings(tree.path(), QString());
+    };
+    const QStringList expected = run(log<RecursiveBrowser>);
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(run(log<ui::FileBrowserWidget>), expected);
 }
 
 void tst_NestedSelectionRuns::onceForEachDirectoryAndOnceMore_data()

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void nextTapOpensTheNextDirectory();
     void anotherButtonWhileTheFirstIsDown();
     void dragOntoADirectory();
+    void dragFromADirectoryThatIsGone();
     void dragOverFiles();
     void dragOverFilesAfterATap();
     void doubleTapOnAFile();
@@ -237,6 +238,22 @@ void tst_OneDirectoryPerTap::dragOntoADirectory()
     move(directory);
     QCOMPARE(m_browser->currentPath(), path(QStringLiteral("a")));
     move(directory + tremor);
+    release();
+    QCOMPARE(m_browser->currentPath(), path(QStringLiteral("a")));
+}
+
+/// The tap has opened nothing: the drag selects as ever.
+void tst_OneDirectoryPerTap::dragFromADirectoryThatIsGone()
+{
+    const QPoint directory = m_position;
+    m_tree.makeDir(QStringLiteral("b"));
+    QTRY_VERIFY(entry(*m_parts->tileView, QStringLiteral("b")).isValid());
+    QCoreApplication::processEvents();
+    m_position = place(QStringLiteral("b"));
+    QVERIFY(QDir().rmdir(path(QStringLiteral("b"))));
+    press();
+    QCOMPARE(m_browser->currentPath(), path());
+    move(directory);
     release();
     QCOMPARE(m_browser->currentPath(), path(QStringLiteral("a")));
 }
