@@ -88,6 +88,7 @@ void SelectionHandler::deselect(const Directories& directories)
 /// Takes the first \a count directories out, then reports them as nested runs do when they return.
 void SelectionHandler::deselectWithoutNesting(int count)
 {
+    // mutant [0 -> 1]: An application sees the same with nesting and without.
     if (count <= 0)
         return;
     const DeselectionOrder order(*selectionModel(), *m_model, count);
@@ -97,7 +98,9 @@ void SelectionHandler::deselectWithoutNesting(int count)
     }
     for (int i = order.directories().size() - 1; i >= 0 && selectionModel(); --i) {
         const QModelIndex directory = order.directories().at(i);
-        // The first report runs the handler for all that is still selected.
+        // The first report runs the handler for all that is still selected. To run it again takes
+        // time, if there are many files.
+        // mutant [dropped; 1 -> 2]: The runs find files alone, unless a slot selects directories.
         m_nothingLeft = i < order.directories().size() - 1;
         Q_EMIT selectionModel()->selectionChanged({}, QItemSelection(directory, directory));
     }
