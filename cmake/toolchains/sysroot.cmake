@@ -16,6 +16,9 @@ endif()
 # CMake reads this file again for each of its compiler checks.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES PLATFORM_SYSROOT)
 
+# CMake does not find this out where a path has spaces.
+set(CMAKE_LIBRARY_ARCHITECTURE ${PLATFORM_TRIPLET})
+
 if(NOT CMAKE_CXX_COMPILER)
     set(CMAKE_CXX_COMPILER ${PLATFORM_TRIPLET}-g++)
 endif()

@@ -60,12 +60,12 @@ lint_cppcheck() {
         src include platform gallery designer docs
 }
 
-# The compile commands of the dev build, less what only g++ understands and the precompiled headers, in
-# build/lint.
+# The compile commands of the dev build, less what only g++ understands and the precompiled headers, whose paths
+# may be quoted, in build/lint.
 clang_compile_commands() {
     build dev
     mkdir -p build/lint
-    sed -E 's/ (-fno-gnu-unique|-Werror|-Winvalid-pch|-include [^ ]*cmake_pch\.hxx)\b//g' \
+    sed -E 's/ (-fno-gnu-unique|-Werror|-Winvalid-pch|-include (\\"[^"]*cmake_pch\.hxx\\"|[^" ]*cmake_pch\.hxx))//g' \
         build/dev/compile_commands.json >build/lint/compile_commands.json
 }
 
