@@ -19,7 +19,7 @@ fresh_base() {
     if [ ! -s "$base" ]; then
         echo "dev: making a fresh Debian in $base" >&2
         mkdir -p "$FRESH/archives/partial"
-        mmdebstrap --quiet --variant=minbase --include=git,ca-certificates --format=tar bookworm "$base.part" - <<<"$(debian_sources)" \
+        mmdebstrap --quiet --aptopt='Acquire::Retries "3"' --variant=minbase --include=git,ca-certificates --format=tar bookworm "$base.part" - <<<"$(debian_sources)" \
             || die "fresh: no Debian root could be made"
         mv "$base.part" "$base"
     fi

@@ -28,8 +28,10 @@ make_sysroot() {
 
 # Writes the unpacked packages to the standard output as an archive. No program of theirs is run.
 unpack_packages() {
-    mmdebstrap --quiet --variant=extract --architectures="$1" --include="$2" --format=tar \
-        "$(. /etc/os-release && echo "$VERSION_CODENAME")" - - <<<"$3"
+    local log=$DEV_ROOT/build/unpacking-$1.log
+    mmdebstrap --logfile="$log" --aptopt='Acquire::Retries "3"' --variant=extract --architectures="$1" \
+        --include="$2" --format=tar "$(. /etc/os-release && echo "$VERSION_CODENAME")" - - <<<"$3" \
+        || { tail -n 5 "$log" >&2; false; }
 }
 
 # Absolute links would lead from the sysroot into this machine's file system.
