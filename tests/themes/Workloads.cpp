@@ -170,8 +170,7 @@ Iteration open(QWidget&)
         window.show();
         auto* field = window.findChild<KeypadLineEdit*>();
         field->showKeypad();
-        processEvents();
-        return field->keypad()->isVisible();
+        return QTest::qWaitFor([field] { return field->keypad()->isVisible(); });
     };
 }
 
