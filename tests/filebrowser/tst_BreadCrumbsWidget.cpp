@@ -3,7 +3,7 @@
 #include "BrowserParts.h"
 #include "ClickableLabel.h"
 #include "EventCounter.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <QHBoxLayout>
@@ -82,7 +82,7 @@ class tst_BreadCrumbsWidget : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        dropOffscreenMessages();
+        dropPlatformMessages();
     }
 
     void metaObject();

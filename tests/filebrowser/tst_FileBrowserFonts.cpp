@@ -1,5 +1,5 @@
 #include "BrowserParts.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"
@@ -69,7 +69,7 @@ private Q_SLOTS:
 
 void tst_FileBrowserFonts::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_FileBrowserFonts::init()

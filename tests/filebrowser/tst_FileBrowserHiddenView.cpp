@@ -1,5 +1,5 @@
 #include "BrowserParts.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "RecursiveBrowser.h"
 #include "TestApplication.h"
 #include "Tree.h"
@@ -96,7 +96,7 @@ private:
 
 void tst_FileBrowserHiddenView::initTestCase()
 {
-    dropOffscreenMessages();
+    dropPlatformMessages();
     m_tree.makeDir(QStringLiteral("short"));
     m_tree.makeDir(QStringLiteral("long"));
     m_tree.makeDir(QStringLiteral("many"));

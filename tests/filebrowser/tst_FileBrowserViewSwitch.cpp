@@ -1,6 +1,6 @@
 #include "BrowserParts.h"
 #include "EventCounter.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "RecursiveBrowser.h"
 #include "TestApplication.h"
 #include "Tree.h"
@@ -149,7 +149,7 @@ private:
 
 void tst_FileBrowserViewSwitch::initTestCase()
 {
-    dropOffscreenMessages();
+    dropPlatformMessages();
     m_tree.makeDir(QStringLiteral("empty"));
     m_tree.makeDir(QStringLiteral("many"));
     m_tree.makeDir(QStringLiteral("few/directory"));

@@ -1,6 +1,6 @@
 #include "BrowserParts.h"
 #include "EventCounter.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"
@@ -70,7 +70,7 @@ private:
 
 void tst_OneDirectoryPerTap::initTestCase()
 {
-    dropOffscreenMessages();
+    dropPlatformMessages();
     // Never deleted, as Qt may use it for the rest of the process.
     static auto* const touchScreen = QTest::createTouchDevice();
     m_touchScreen = touchScreen;

@@ -1,6 +1,6 @@
 #include "BreadCrumbsWidget.h"
 #include "BrowserParts.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 #include "Tree.h"
 #include "ui/FileBrowserWidget.h"
@@ -119,7 +119,7 @@ private:
 
 void tst_SlowFileSystem::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
     // Qt looks for the plugins of image formats when it first needs one, in any thread.
     QImageReader::supportedImageFormats();
 }

@@ -1,8 +1,8 @@
 #include "ShownGallery.h"
 
 #include "GalleryPage.h"
-#include "OffscreenMessages.h"
 #include "pages/Pages.h"
+#include "PlatformMessages.h"
 #include "properties/PropertyEditor.h"
 #include "properties/PropertyGroup.h"
 #include "tools/Tools.h"
@@ -59,7 +59,7 @@ QString ShownGallery::log() const
 
 void prepareGallery()
 {
-    dropOffscreenMessages();
+    dropPlatformMessages();
     TouchStyle::install();
     QFont font = QApplication::font();
     font.setPointSize(9); // as the gallery finds it, which makes larger ones of it

@@ -1,6 +1,6 @@
 #include "AllClasses.h"
 #include "Appearance.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "reference/ClassPictures.h"
 #include "Screenshots.h"
 #include "TestApplication.h"
@@ -84,7 +84,7 @@ private Q_SLOTS:
 
 void tst_ClassPictures::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_ClassPictures::everyClassHasPicture()

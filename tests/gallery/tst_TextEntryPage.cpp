@@ -1,5 +1,5 @@
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include "GalleryPage.h"
@@ -23,7 +23,7 @@ class tst_TextEntryPage : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void everyFieldIsAnDemoWidget();

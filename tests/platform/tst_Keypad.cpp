@@ -1,6 +1,6 @@
 #include "KeypadKeys.h"
 #include "KeyReceiver.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <ui/keyboard/IKeypad.h>
@@ -34,7 +34,7 @@ class tst_Keypad : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void factory();

@@ -1,5 +1,5 @@
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <ui/keyboard/IKeypad.h>
@@ -49,7 +49,7 @@ class tst_KeypadLayout : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void keysOfEachType_data();

@@ -1,5 +1,5 @@
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "Samples.h"
 #include "TestApplication.h"
 
@@ -42,7 +42,7 @@ class tst_MovingOn : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
     void init();
     void cleanup();

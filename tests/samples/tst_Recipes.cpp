@@ -1,5 +1,5 @@
 #include "Contrast.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "Samples.h"
 #include "TestApplication.h"
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
 
 void tst_Recipes::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_Recipes::switchInStyleSheet()

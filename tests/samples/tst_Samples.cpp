@@ -1,7 +1,7 @@
 #include "Samples.h"
 
 #include "AllClasses.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 namespace {
@@ -36,7 +36,7 @@ private Q_SLOTS:
 
 void tst_Samples::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_Samples::everyClassHasSample()

@@ -1,5 +1,5 @@
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <ui/KeypadLineEdit.h>
@@ -45,7 +45,7 @@ class tst_EmbeddedKeypadField : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void inAScene_data();

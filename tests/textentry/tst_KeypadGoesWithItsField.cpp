@@ -1,5 +1,5 @@
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <ui/KeypadLineEdit.h>
@@ -95,7 +95,7 @@ class tst_KeypadGoesWithItsField : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
     void init();
     void cleanup();

@@ -1,7 +1,7 @@
 #include "EditForm.h"
 #include "EventLoop.h"
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "SignalLog.h"
 
 #include <ui/KeypadLineEdit.h>
@@ -62,7 +62,7 @@ class tst_KeypadLineEdit : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void interface();

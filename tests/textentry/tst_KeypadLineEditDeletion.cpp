@@ -1,6 +1,6 @@
 #include "EditForm.h"
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "SignalLog.h"
 
 #include <ui/KeypadLineEdit.h>
@@ -38,7 +38,7 @@ public Q_SLOTS:
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
     void init();
     void cleanup();

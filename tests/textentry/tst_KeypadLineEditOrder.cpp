@@ -1,6 +1,6 @@
 #include "EditForm.h"
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
@@ -43,7 +43,7 @@ class tst_KeypadLineEditOrder : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
     void init();
     void cleanup();

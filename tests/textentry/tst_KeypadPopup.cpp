@@ -1,7 +1,7 @@
 #include "Contrast.h"
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
 #include "Palettes.h"
+#include "PlatformMessages.h"
 #include "PrivateFields.h"
 #include "TestApplication.h"
 
@@ -59,7 +59,7 @@ class tst_KeypadPopup : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void interface();

@@ -1,6 +1,6 @@
 #include "EditForm.h"
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "QtVersions.h"
 #include "SignalLog.h"
 
@@ -118,7 +118,7 @@ class tst_KeypadPopupFocus : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void showingIsNoCancel();

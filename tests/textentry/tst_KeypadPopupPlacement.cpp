@@ -1,5 +1,5 @@
 #include "Desktop.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <ui/keyboard/IKeypad.h>
@@ -42,7 +42,7 @@ class tst_KeypadPopupPlacement : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void place_data();

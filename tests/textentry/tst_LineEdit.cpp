@@ -1,5 +1,5 @@
 #include "EditForm.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "SignalLog.h"
 
 #include <ui/LineEdit.h>
@@ -58,7 +58,7 @@ class tst_LineEdit : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void construction();

@@ -1,5 +1,5 @@
 #include "EditForm.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "SignalLog.h"
 
 #include <ui/LineEdit.h>
@@ -38,7 +38,7 @@ public Q_SLOTS:
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void inOk_data();

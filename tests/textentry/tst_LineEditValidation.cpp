@@ -1,6 +1,6 @@
 #include "EditForm.h"
-#include "OffscreenMessages.h"
 #include "Painting.h"
+#include "PlatformMessages.h"
 #include "SignalLog.h"
 
 #include <ui/LineEdit.h>
@@ -82,7 +82,7 @@ class tst_LineEditValidation : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
 
     void result_data();

@@ -1,8 +1,8 @@
 #include "EditForm.h"
 #include "FieldLog.h"
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
 #include "PlainTextEntry.h"
+#include "PlatformMessages.h"
 
 #include <ui/KeypadLineEdit.h>
 #include <ui/KeypadPopup.h>
@@ -264,7 +264,7 @@ class tst_PlainTextEntry : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
     void same_data();
     void same();

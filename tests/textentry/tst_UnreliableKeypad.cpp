@@ -1,6 +1,6 @@
 #include "EditForm.h"
 #include "EventLoop.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 
 #include <ui/keyboard/IKeypad.h>
 #include <ui/KeypadLineEdit.h>
@@ -122,7 +122,7 @@ private:
 
 void tst_UnreliableKeypad::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_UnreliableKeypad::init()

@@ -1,6 +1,6 @@
 #include "AllClasses.h"
 #include "EventLoop.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "Provocations.h"
 #include "TestApplication.h"
 
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
 void tst_Deletion::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
     test::registerArgumentTypes();
 }
 

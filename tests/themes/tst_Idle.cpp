@@ -1,6 +1,6 @@
 #include "AllClasses.h"
-#include "OffscreenMessages.h"
 #include "PaintRecorder.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <Switch.h>
@@ -61,7 +61,7 @@ private:
 
 void tst_Idle::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_Idle::init()

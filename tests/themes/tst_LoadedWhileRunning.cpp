@@ -1,4 +1,4 @@
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <QAccessible>
@@ -52,7 +52,7 @@ private Q_SLOTS:
 
 void tst_LoadedWhileRunning::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_LoadedWhileRunning::comesAndGoes()

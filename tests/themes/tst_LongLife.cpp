@@ -1,4 +1,4 @@
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "ResourceUsage.h"
 #include "TestApplication.h"
 #include "Workloads.h"
@@ -46,7 +46,7 @@ private Q_SLOTS:
 
 void tst_LongLife::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
     QPixmapCache::setCacheLimit(0); // what it holds goes by and by, in half minutes
 }
 

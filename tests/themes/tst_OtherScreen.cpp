@@ -1,3 +1,4 @@
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 #include "Workloads.h"
 
@@ -19,6 +20,7 @@ private Q_SLOTS:
 
 void tst_OtherScreen::initTestCase()
 {
+    test::dropPlatformMessages();
     QCOMPARE(QGuiApplication::screens().size(), 2);
     QVERIFY(QGuiApplication::screens().first()->size()
             != QGuiApplication::screens().last()->size());

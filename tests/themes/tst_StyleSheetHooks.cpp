@@ -1,5 +1,5 @@
 #include "AllClasses.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "TestApplication.h"
 
 #include <BreadCrumbsWidget.h>
@@ -160,7 +160,7 @@ private Q_SLOTS:
 
 void tst_StyleSheetHooks::initTestCase()
 {
-    test::dropOffscreenMessages();
+    test::dropPlatformMessages();
 }
 
 void tst_StyleSheetHooks::everyWidgetHasHook()

@@ -1,7 +1,7 @@
 #include "Contrast.h"
 #include "KeypadArea.h"
 #include "KeypadKeys.h"
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 #include "SettingsPanel.h"
 #include "TestApplication.h"
 #include "Theme.h"
@@ -90,7 +90,7 @@ class tst_Settings : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        test::dropOffscreenMessages();
+        test::dropPlatformMessages();
     }
     void init();
     void cleanup();

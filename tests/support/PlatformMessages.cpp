@@ -1,4 +1,4 @@
-#include "OffscreenMessages.h"
+#include "PlatformMessages.h"
 
 #include <QString>
 
@@ -20,16 +20,23 @@ bool isOfVanishedWindow(const QString& message)
         || isError("XCB error: 8 (BadMatch)", "(SetInputFocus)");
 }
 
+/// A window that is hidden and shown at once, before the X server has told of the first.
+bool isOfShownAgain(const QString& message)
+{
+    return message.contains(
+        QLatin1String("setNetWmStateOnUnmappedWindow() called on mapped window"));
+}
+
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     const bool unsupported = message.startsWith(QLatin1String("This plugin does not support "));
-    if (!unsupported && !isOfVanishedWindow(message))
+    if (!unsupported && !isOfVanishedWindow(message) && !isOfShownAgain(message))
         testHandler(type, context, message);
 }
 
 } // namespace
 
-void dropOffscreenMessages()
+void dropPlatformMessages()
 {
     testHandler = qInstallMessageHandler(handleMessage);
 }
