@@ -80,7 +80,9 @@ void SelectionHandler::deselect(const Directories& directories)
         if (i < directories.size() - 1 && !snapshot.contains(directory))
             // mutant [dropped]: Only takes longer.
             continue;
+        // mutant [order]: An old snapshot has more of the directories, which only takes longer.
         selectionModel()->select(directory, QItemSelectionModel::Deselect);
+        // mutant [dropped]: As above.
         snapshot = SelectionSnapshot(selectionModel(), m_model);
     }
 }
@@ -88,7 +90,7 @@ void SelectionHandler::deselect(const Directories& directories)
 /// Takes the first \a count directories out, then reports them as nested runs do when they return.
 void SelectionHandler::deselectWithoutNesting(int count)
 {
-    // mutant [0 -> 1]: An application sees the same with nesting and without.
+    // mutant [<= -> <; 0 -> 1; 0 -> (-1)]: An application sees the same with nesting and without.
     if (count <= 0)
         return;
     const DeselectionOrder order(*selectionModel(), *m_model, count);

@@ -44,10 +44,12 @@ QModelIndexList SelectionSnapshot::rows() const
         const quint64 all = allColumns(range.parent);
         const bool whole = range.columns == all;
         if (!whole && !split)
+            // mutant [dropped]: Only takes longer.
             continue;
         for (int row = range.top; row <= range.bottom; ++row) {
             const QPair<QModelIndex, int> key(range.parent, row);
             if ((whole || columnsOf(range.parent, row) == all) && !seen.contains(key)) {
+                // mutant [order]: One does not depend on the other.
                 seen.insert(key);
                 result.append(m_model->index(row, 0, range.parent));
             }
@@ -85,6 +87,7 @@ quint64 SelectionSnapshot::columnsOf(const QModelIndex& parent, int row) const
 bool SelectionSnapshot::rowsAreSplit() const
 {
     return std::any_of(m_ranges.cbegin(), m_ranges.cend(), [this](const Range& range) {
+        // mutant [&& -> ||; 0 -> 1]: To say so of more rows only takes longer.
         return (range.columns & columnBits(0, 0)) && range.columns != allColumns(range.parent);
     });
 }

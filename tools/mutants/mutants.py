@@ -25,6 +25,7 @@ PROJECT = Path(os.environ["DEV_ROOT"])
 PLACE = PROJECT / "build" / "mutants"
 FIGURES = PROJECT / "docs" / "figures" / "mutants.md"
 THEMES = "themes"  # the folder of the tests that go over every class
+FOUNDATION = "frame"  # the folder under src/ that the others build on
 
 
 @dataclass
@@ -58,12 +59,17 @@ def folder_of(name):
 
 
 def tests_for(name, tests):
-    """The tests of the class that a source is named after, and those of its folder and over all classes."""
+    """The tests of the class that a source is named after, and those of its folder and over all classes.
+
+    Of what the other folders build on, theirs too.
+    """
     folder, stem = folder_of(name), Path(name).stem
     in_folder = sorted(test for test, place in tests.items() if place == folder)
-    near = [test for test in in_folder if test.split(".", 1)[1].startswith(stem) and test.startswith("offscreen.")]
-    over_all = sorted(test for test, place in tests.items() if place == THEMES and test.startswith("offscreen."))
-    return (near or in_folder), [test for test in in_folder if near and test not in near] + over_all
+    offscreen = sorted(test for test in tests if test.startswith("offscreen."))
+    near = [test for test in in_folder if test.split(".", 1)[1].startswith(stem) and test in offscreen]
+    others = [test for test in offscreen if test not in in_folder
+              and (folder == FOUNDATION or tests[test] == THEMES)]
+    return (near or in_folder), [test for test in in_folder if near and test not in near] + others
 
 
 def read_tasks(pattern, sample, tests):
@@ -139,12 +145,12 @@ def prepare(tree, folders, names):
         raise SystemExit("mutants: the tests fail with the library as it is; see ./dev test")
 
 
-def run(tasks, trees, results, minutes):
+def run(tasks, trees, results, minutes, tests):
     waiting = queue.Queue()
     for task in tasks:
         waiting.put(task)
     names = sorted({test for task in tasks for test in task.near_tests + task.far_tests})
-    folders = {THEMES} | {folder_of(task.name) for task in tasks}
+    folders = {tests[name] for name in names}
     for tree in trees:
         prepare(tree, folders, names)
     deadline = time.monotonic() + minutes * 60
@@ -218,10 +224,11 @@ def main():
             tree.refresh()
             tree.configure()
     results = Results()
-    tasks = read_tasks(arguments.file, arguments.sample, trees[0].tests())
-    left = [task for task in tasks if not results.of(task)]
+    tests = trees[0].tests()
+    tasks = read_tasks(arguments.file, arguments.sample, tests)
+    left = sorted((task for task in tasks if not results.of(task)), key=lambda task: task.is_accepted)
     if left and not arguments.report:
-        run(left, trees, results, arguments.minutes)
+        run(left, trees, results, arguments.minutes, tests)
     return report(tasks, results, flawed_marks(tasks) + unneeded_marks(tasks, results), arguments.accept)
 
 
