@@ -71,6 +71,7 @@ QColor withOpacity(const QColor& color, double opacity)
     // Rounding is only defined for what an int can hold; the colour itself refuses -1 and 256.
     // mutant [> -> >=; 2.0 -> 1.8; 2.0 -> 2.2; < -> <=; 257.0 -> 282.70000000000005]: QColor
     // refuses every alpha below 0 and above 255.
+    // mutant [&& -> ||]: As above; the sanitizers notice that the rounding is undefined.
     const bool roundable = alpha > -2.0 && alpha < 257.0;
     const QRgb rgb = color.rgb();
     // mutant [1 -> 2]: QColor refuses both.
