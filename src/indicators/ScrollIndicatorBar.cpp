@@ -22,11 +22,14 @@ constexpr int lineDarkening = 108;
 
 QColor buttonShade(const QPalette& palette, double saturation, double value)
 {
-    const QColor button = palette.button().color().toHsv();
-    return QColor::fromHsv(button.hue(), qMin(int(button.saturation() * saturation), 255),
+    int buttonHue{};
+    int buttonSaturation{};
+    int buttonValue{};
+    palette.button().color().getHsv(&buttonHue, &buttonSaturation, &buttonValue);
+    return QColor::fromHsv(buttonHue, qMin(int(buttonSaturation * saturation), 255),
                            // mutant [255 -> 254; 255 -> 256]: A value times 0.9 or 0.7 does not
                            // reach the bound.
-                           qMin(int(button.value() * value), 255), 255);
+                           qMin(int(buttonValue * value), 255), 255);
 }
 
 QColor grooveColor(const QPalette& palette)
