@@ -84,7 +84,7 @@ try_command() {
     time { in_fresh_root "$root" "$user" "$line" >"$log" 2>&1 || status=$?; }
     if [ "$user" = guest ]; then
         echo "  refused: $(tail -n 1 "$log")"
-        [ "$status" -ne 0 ] && [ "$(wc -l <"$log")" -eq 1 ]
+        [ "$status" -ne 0 ] && [ "$(grep -c "^dev: " "$log")" -eq 1 ]
         return
     fi
     sed -n 's/^dev: installing /  missing: /p' "$log"
