@@ -77,6 +77,7 @@ void SelectionHandler::deselect(const Directories& directories)
             continue;
         // The nested runs deselect what follows. To do so here once more changes nothing, but for
         // the last one: the selection model's last command is what Shift and a tap take back.
+        // mutant [1 -> 2]: To do so of the one before the last too only takes longer.
         if (i < directories.size() - 1 && !snapshot.contains(directory))
             // mutant [dropped]: Only takes longer.
             continue;
