@@ -94,7 +94,8 @@ QVector<Rule> rulesOf(const QString& styleSheet)
         const int end = found < 0 ? int(text.size()) : found + 1;
         const QString rule = text.mid(start, end - start);
         const int brace = qMax(0, int(rule.indexOf(QLatin1Char('{'))));
-        const int linesBefore = int(text.left(start).count(QLatin1Char('\n')));
+        const auto linesBefore =
+            int(std::count(text.cbegin(), text.cbegin() + start, QLatin1Char('\n')));
         rules.append({rule.left(brace), rule.mid(brace), linesBefore + 1});
         start = end;
     }

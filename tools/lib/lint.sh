@@ -73,11 +73,12 @@ readonly OWN_HEADERS="$DEV_ROOT/(src|include|platform|gallery|designer|docs)/"
 
 lint_clazy() {
     clang_compile_commands
-    # Properties have no change signals: that is the library's interface.
+    # Properties have no change signals: that is the library's interface. What clazy calls its own error is a
+    # connection to a QMetaMethod.
     clang_sources \
         | for_each_file clazy-standalone -p build/lint -header-filter="$OWN_HEADERS" \
             -checks=level1,no-qproperty-without-notify 2>&1 \
-        | no_lines_but '^[0-9]+ warnings? generated\.$'
+        | no_lines_but '^[0-9]+ warnings? generated\.$|\[-Wclazy-connect-non-signal\]: internal error'
 }
 
 lint_tidy() {
