@@ -113,7 +113,7 @@ void PowerSupplyEvents::read()
 {
     QByteArray message(messageSize, Qt::Uninitialized);
     bool isChanged = false;
-    ssize_t size;
+    ssize_t size = 0;
     while ((size = recv(m_socket, message.data(), messageSize, MSG_DONTWAIT)) > 0)
         isChanged |= isAboutPowerSupply(message.left(int(size)));
     if (size < 0 && errno == ENOBUFS) // messages were lost: they may have been about one

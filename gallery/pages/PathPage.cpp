@@ -95,6 +95,7 @@ BreadCrumbsWidget* PathPage::makeBar(const QString& directory)
     return bar;
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): a tap on the label changes the page
 ClickableLabel* PathPage::makeLabel(const QString& text)
 {
     auto* label = new ClickableLabel;

@@ -85,6 +85,7 @@ void ObjectWatcher::connectSignals()
     for (int index = 0; index < meta.methodCount(); ++index) {
         const QMetaMethod method = meta.method(index);
         if (method.methodType() == QMetaMethod::Signal)
+            // NOLINTNEXTLINE(readability-suspicious-call-argument): connect() has this order
             connect(m_target, method, this, slot);
     }
 }

@@ -32,7 +32,7 @@ QStringList between(const QStringList& lines, const QString& mark)
 
 int indentationOf(const QString& line)
 {
-    const auto first = std::find_if(line.cbegin(), line.cend(), [](QChar c) { return c != ' '; });
+    const QChar* first = std::find_if(line.cbegin(), line.cend(), [](QChar c) { return c != ' '; });
     return int(first - line.cbegin());
 }
 
