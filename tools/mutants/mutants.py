@@ -83,8 +83,9 @@ def read_tasks(pattern, sample, tests):
         if not near:
             print(f"mutants: no test for {name}", file=sys.stderr)
             continue
-        folder = PROJECT / "tests" / folder_of(name)
-        tests_digest = digest(*(file.read_text() for file in sorted(folder.glob("*.cpp"))))
+        folders = {tests[test] for test in near + far} - {THEMES}
+        sources = [file for folder in sorted(folders) for file in sorted((PROJECT / "tests" / folder).glob("*.cpp"))]
+        tests_digest = digest(*(file.read_text() for file in sources))
         accepting = marks(text)
         tasks += [Task(name, text, mutant, near, far, tests_digest,
                        any(mark.accepts(mutant, text) for mark in accepting))
