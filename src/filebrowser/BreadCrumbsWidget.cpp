@@ -80,7 +80,6 @@ void clearLayout(QLayout& layout, int first)
             retire(*widget);
         else
             delete widget;
-        // mutant [dropped]: Leaks the item: the leak sanitizer fails the same tests.
         delete item;
     }
 }
