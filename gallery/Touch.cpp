@@ -227,13 +227,21 @@ QComboBox* makeComboBox()
 Switch* makeSwitch(const QString& text)
 {
     auto* control = new Switch(text, QColor(33, 150, 243));
-    control->setThumbOffBrush(QColor(250, 250, 250));
-    control->setTrackOffBrush(Qt::gray);
-    control->setTrackOffOpacity(0.6);
+    setQuietColours(control);
     control->setHeight(targetSize);
     control->setIndicatorMargin(switchMargins);
     followPalette(control);
     return control;
+}
+
+void setQuietColours(Switch* control)
+{
+    control->setThumbOffBrush(QColor(250, 250, 250));
+    control->setTrackOffBrush(Qt::gray);
+    control->setTrackOffOpacity(0.6);
+    control->setThumbDisabled(QColor(190, 190, 190));
+    control->setTrackDisabled(Qt::gray);
+    control->setTrackDisabledOpacity(0.3);
 }
 
 void followPalette(Switch* control)

@@ -40,6 +40,9 @@ QComboBox* makeComboBox();
 /// A switch in the colours of the application's palette, whatever it becomes.
 Switch* makeSwitch(const QString& text = QString());
 
+/// Gives \a control grey and white for when it is off or disabled; its own are black.
+void setQuietColours(Switch* control);
+
 /// Gives the label of \a control the colour of the application's texts, whatever it becomes.
 void followPalette(Switch* control);
 

@@ -1,5 +1,7 @@
 #include "DemoParts.h"
 
+#include "Touch.h"
+
 #include <Switch.h>
 
 #include <QIcon>
@@ -68,12 +70,7 @@ void Beacon::paintEvent(QPaintEvent*)
 Switch* makeColouredSwitch(const QString& text, const QColor& accent, bool on)
 {
     auto* control = new Switch(text, accent);
-    control->setThumbOffBrush(QColor(250, 250, 250));
-    control->setTrackOffBrush(Qt::gray);
-    control->setTrackOffOpacity(0.6);
-    control->setThumbDisabled(QColor(190, 190, 190));
-    control->setTrackDisabled(Qt::gray);
-    control->setTrackDisabledOpacity(0.3);
+    touch::setQuietColours(control);
     control->setChecked(on); // after the colours, which show those of the off state at first
     return control;
 }
